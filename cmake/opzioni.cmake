@@ -1,0 +1,29 @@
+# Usage requirements that every target of ours takes: no flag is set globally.
+add_library(giacenza_opzioni INTERFACE)
+target_compile_features(giacenza_opzioni INTERFACE cxx_std_20)
+target_compile_options(giacenza_opzioni INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast -Werror)
+target_compile_definitions(giacenza_opzioni INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+if(GIACENZA_SANITIZE)
+    target_compile_options(giacenza_opzioni INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+        -fno-omit-frame-pointer)
+    target_link_options(giacenza_opzioni INTERFACE -fsanitize=address,undefined)
+endif()
+
+# giacenza_libreria(NAME sources...): a static, position-independent library of the component's inside.
+function(giacenza_libreria nome)
+    add_library(${nome} STATIC ${ARGN})
+    target_link_libraries(${nome} PRIVATE giacenza_opzioni PUBLIC giacenza_interfacce)
+    target_include_directories(${nome} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    set_target_properties(${nome} PROPERTIES LINKER_LANGUAGE CXX)
+endfunction()
+
+# giacenza_parte(NAME sources...): a plug-in that holds outside parts; it sees the public headers only.
+function(giacenza_parte nome)
+    add_library(${nome} MODULE ${ARGN})
+    target_link_libraries(${nome} PRIVATE giacenza_opzioni giacenza_interfacce)
+    set_target_properties(${nome} PROPERTIES PREFIX "" LIBRARY_OUTPUT_DIRECTORY ${GIACENZA_CARTELLA_PARTI})
+    install(TARGETS ${nome} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/giacenza)
+endfunction()

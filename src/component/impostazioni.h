@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+namespace giacenza {
+
+/// What the host told the component: one set for each thread, written by cGiacenza only.
+struct Impostazioni
+{
+    QString percorsoDatabase;         ///< connection string, passed unchanged to the driver
+    QString percorsoFileIni;          ///< settings file; its folder holds the goods-type list
+    QString percorsoLogoIntestazione; ///< letterhead logo
+    QString etichettaReso; ///< "Reso a Mittente", "Riconsegna a Destinatario", or empty before any choice
+};
+
+Impostazioni& impostazioni();
+
+} // namespace giacenza

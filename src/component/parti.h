@@ -1,0 +1,47 @@
+#pragma once
+
+#include <giacenza/ParteEsterna.h>
+
+#include <memory>
+
+namespace giacenza {
+
+/// A new object of a class, by name, or an empty reference with the reason in Italian.
+struct ParteCreata
+{
+    std::unique_ptr<ParteEsterna> parte;
+    QString motivo; ///< why there is none: what was sought and where; empty when parte is there
+};
+
+/// Looks first at what was registered in this process, then at the metadata of the plug-in files in the
+/// folders of cartelleParti(). Never throws: a part that cannot be made leaves an empty reference. Files are
+/// never unloaded.
+ParteCreata creaParte(const QString& nomeClasse);
+
+/// Where plug-in files are sought, in order: the folders of the environment variable GIACENZA_PARTI
+/// (colon-separated), then "giacenza" beside the component's own library, then the folder of the
+/// installation.
+QStringList cartelleParti();
+
+/// creaParte() with the interface asked for; empty with a reason also when the object is of another kind.
+template<class Interfaccia>
+struct ParteDi
+{
+    std::unique_ptr<Interfaccia> parte;
+    QString motivo;
+};
+
+template<class Interfaccia>
+ParteDi<Interfaccia> creaParteDi(const QString& nomeClasse)
+{
+    ParteCreata creata = creaParte(nomeClasse);
+    if (!creata.parte)
+        return {nullptr, creata.motivo};
+    auto* voluta = dynamic_cast<Interfaccia*>(creata.parte.get());
+    if (!voluta)
+        return {nullptr, QStringLiteral("La classe %1 non offre ciò che serve.").arg(nomeClasse)};
+    creata.parte.release();
+    return {std::unique_ptr<Interfaccia>(voluta), {}};
+}
+
+} // namespace giacenza

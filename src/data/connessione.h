@@ -1,0 +1,61 @@
+#pragma once
+
+#include <giacenza/Errore.h>
+
+#include <QString>
+
+#include <memory>
+
+namespace giacenza {
+
+namespace odbc {
+class Collegamento;
+}
+
+/// What the database is, as far as it matters here; told from the driver's own answer.
+enum class Dialetto
+{
+    mariadb,
+    sqlite,
+    altro
+};
+
+/// How long a statement may run, and how long connecting may take, in seconds.
+inline constexpr int secondiComando = 30;
+inline constexpr int secondiConnessione = 10;
+
+/// One connection to the database through ODBC. Text goes and comes as UTF-8 by the narrow calls.
+///
+/// Opening prepares the session: on MariaDB `SET SESSION` adds NO_BACKSLASH_ESCAPES to sql_mode and sets
+/// max_statement_time, since the driver ignores the time-out attribute; on SQLite the lock wait becomes the
+/// command time-out. Closing rolls an open transaction back first and closes every recordset that is still
+/// open on it.
+class Connessione
+{
+public:
+    Connessione();
+    Connessione(Connessione&&) noexcept;
+    Connessione& operator=(Connessione&&) noexcept;
+    ~Connessione();
+
+    /// Opens with a connection string, passed to the driver unchanged. Throws ErroreDatabase. Does nothing
+    /// when open.
+    void apri(const QString& stringa);
+    bool aperta() const noexcept;
+    /// Never fails; does nothing when closed.
+    void chiudi() noexcept;
+
+    /// Runs a statement that gives no rows. Throws ErroreDatabase, also when the connection is closed.
+    /// Returns the number of rows it touched, -1 when the driver does not say.
+    qint64 esegui(const QString& istruzione);
+
+    Dialetto dialetto() const noexcept;
+
+    /// For the classes of this folder. Throws ErroreDatabase (08003) when closed.
+    const std::shared_ptr<odbc::Collegamento>& collegamento() const;
+
+private:
+    std::shared_ptr<odbc::Collegamento> mCollegamento;
+};
+
+} // namespace giacenza
