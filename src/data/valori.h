@@ -5,6 +5,7 @@
 #include <QDate>
 #include <QString>
 
+#include <compare>
 #include <optional>
 
 namespace giacenza {
@@ -54,6 +55,12 @@ enum class Arrotondamento
     alPari
 };
 QString arrotonda(const QString& valore, int cifre, Arrotondamento modo);
+
+/// Exact arithmetic on decimal texts, of any length; read as by arrotonda, the results have a point and keep
+/// their last zeros ("1.50" + "1" gives "2.50"). Throw ErroreConversione when one of the two is no number.
+QString somma(const QString& primo, const QString& secondo);
+QString prodotto(const QString& primo, const QString& secondo);
+std::strong_ordering confronta(const QString& primo, const QString& secondo);
 
 /// A value for SQL with two decimals and a point, halves away from zero: "3,5" gives "3.50".
 ///
