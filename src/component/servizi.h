@@ -1,6 +1,7 @@
 #pragma once
 
 #include "component/parti.h"
+#include "component/percorsi.h"
 
 #include <giacenza/ModuloStampa.h>
 
@@ -22,17 +23,16 @@ QString percorsoNaturaMerce();
 void CaricaNaturaMerce(QComboBox* elenco);
 
 /// Appends the list's text, in upper case, to the goods-type file. A line that is there already, and every
-/// failure, is told by "Impossibile aggiungere il valore nella lista del controllo Natura merce".
+/// failure, a blank text too, is told by "Impossibile aggiungere il valore nella lista del controllo Natura
+/// merce".
 void AggiungiNaturaMerce(QComboBox* elenco);
 
-/// One value of the settings file, read anew at each call, empty when absent.
+/// One value of the settings file, read anew at each call, empty when absent. Throws what a reader from
+/// outside throws; the component's own throws nothing.
 QString LeggiIni(const QString& sezione, const QString& chiave);
 
 /// The print module that the settings file names (section "DLLStampe", key "IdentificativoDll"); an empty
 /// reference with the reason when it cannot be made.
 ParteDi<ModuloStampa> CaricaModuloStampa();
-
-/// A path as the host wrote it, with the platform's own separators.
-QString percorsoNativo(const QString& percorso);
 
 } // namespace giacenza

@@ -1,0 +1,11 @@
+#include "component/impostazioni.h"
+
+namespace giacenza {
+
+Impostazioni& impostazioni()
+{
+    static thread_local Impostazioni delThread;
+    return delThread;
+}
+
+} // namespace giacenza

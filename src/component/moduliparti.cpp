@@ -1,0 +1,105 @@
+#include "component/moduliparti.h"
+
+#include "component/parti.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QPluginLoader>
+
+#include <dlfcn.h>
+
+namespace giacenza {
+
+namespace {
+
+const QString iidVoluto = QStringLiteral(GIACENZA_FABBRICA_PARTI_IID);
+
+// The folder of the file that this code was loaded from: the component's library, or the program itself where
+// it is linked in.
+QString cartellaPropria()
+{
+    Dl_info dove{};
+    if (dladdr(reinterpret_cast<const void*>(&fileModuli), &dove) == 0 || dove.dli_fname == nullptr)
+        return QCoreApplication::applicationDirPath();
+    return QFileInfo(QFile::decodeName(dove.dli_fname)).absolutePath();
+}
+
+bool serve(const QJsonObject& metadati, const QString& nomeClasse)
+{
+    const QJsonArray classi =
+        metadati.value(QStringLiteral("MetaData")).toObject().value(QStringLiteral("classi")).toArray();
+    for (const QJsonValue& classe : classi) {
+        if (classe.toString().compare(nomeClasse, Qt::CaseInsensitive) == 0)
+            return true;
+    }
+    return false;
+}
+
+ParteProvata parteDallaRadice(QPluginLoader& modulo, const QString& nomeClasse)
+{
+    QObject* radice = modulo.instance();
+    if (!radice)
+        return {nullptr, QStringLiteral("non si carica (%1)").arg(modulo.errorString())};
+    auto* fabbrica = qobject_cast<FabbricaParti*>(radice);
+    if (!fabbrica)
+        return {nullptr, QStringLiteral("non offre l'interfaccia %1").arg(iidVoluto)};
+    return provaACreare([&] { return fabbrica->crea(nomeClasse); });
+}
+
+} // namespace
+
+QStringList cartelleParti()
+{
+    QStringList cartelle =
+        qEnvironmentVariable("GIACENZA_PARTI").split(QDir::listSeparator(), Qt::SkipEmptyParts);
+    cartelle.append(cartellaPropria() + QStringLiteral("/giacenza"));
+    cartelle.append(QStringLiteral(GIACENZA_CARTELLA_INSTALLATA));
+    cartelle.removeDuplicates();
+    return cartelle;
+}
+
+ParteProvata provaACreare(const FabbricaParte& fabbrica)
+{
+    try {
+        std::unique_ptr<ParteEsterna> parte = fabbrica();
+        if (parte)
+            return {std::move(parte), {}};
+        return {nullptr, QStringLiteral("nessun oggetto creato")};
+    } catch (const std::exception& errore) {
+        return {nullptr, QString::fromUtf8(errore.what())};
+    } catch (...) {
+        return {nullptr, QStringLiteral("errore sconosciuto")};
+    }
+}
+
+QStringList fileModuli(const QStringList& cartelle)
+{
+    QStringList percorsi;
+    for (const QString& nome : cartelle) {
+        const QDir cartella(nome);
+        const QStringList trovati =
+            cartella.entryList({QStringLiteral("*.so")}, QDir::Files | QDir::Readable, QDir::Name);
+        for (const QString& file : trovati)
+            percorsi.append(cartella.absoluteFilePath(file));
+    }
+    return percorsi;
+}
+
+ParteProvata parteDalModulo(const QString& percorso, const QString& nomeClasse)
+{
+    QPluginLoader modulo(percorso);
+    modulo.setLoadHints(QLibrary::PreventUnloadHint);
+    const QJsonObject metadati = modulo.metaData();
+    if (metadati.isEmpty())
+        return {nullptr, QStringLiteral("non è un modulo leggibile")};
+    if (!serve(metadati, nomeClasse))
+        return {};
+    const QString iid = metadati.value(QStringLiteral("IID")).toString();
+    if (iid != iidVoluto)
+        return {nullptr, QStringLiteral("offre %1 e non %2").arg(iid, iidVoluto)};
+    return parteDallaRadice(modulo, nomeClasse);
+}
+
+} // namespace giacenza
