@@ -11,11 +11,14 @@ namespace {
 /// As much of a refused value as fits an error's text.
 constexpr qsizetype lunghezzaMostrata = 80;
 
+[[noreturn]] void rifiuta(const QString& motivo)
+{
+    throw ErroreDatabase(u"42000"_s, 0, u"Errore di sintassi nell'istruzione SQL: %1."_s.arg(motivo));
+}
+
 [[noreturn]] void rifiuta(const QString& motivo, const QString& valore)
 {
-    throw ErroreDatabase(u"42000"_s, 0,
-                         u"Errore di sintassi nell'istruzione SQL: %1 in \"%2\"."_s.arg(
-                             motivo, valore.left(lunghezzaMostrata)));
+    rifiuta(u"%1 in \"%2\""_s.arg(motivo, valore.left(lunghezzaMostrata)));
 }
 
 bool apiciRaddoppiati(const QString& valore)
@@ -61,7 +64,7 @@ QString numero(const QString& valore)
 QString data(QDate valore)
 {
     if (!valore.isValid()) {
-        rifiuta(u"attesa una data"_s, {});
+        rifiuta(u"attesa una data"_s);
     }
     return dataSql(valore);
 }
