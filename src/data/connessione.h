@@ -24,6 +24,13 @@ enum class Dialetto
 inline constexpr int secondiComando = 30;
 inline constexpr int secondiConnessione = 10;
 
+/// The same, in seconds, for a connection that needs others.
+struct Limiti
+{
+    int comando = secondiComando;
+    int connessione = secondiConnessione;
+};
+
 /// One connection to the database through ODBC. Text goes and comes as UTF-8 by the narrow calls.
 ///
 /// Opening prepares the session: on MariaDB `SET SESSION` adds NO_BACKSLASH_ESCAPES to sql_mode and sets
@@ -40,7 +47,8 @@ public:
 
     /// Opens with a connection string, passed to the driver unchanged. Throws ErroreDatabase. Does nothing
     /// when open.
-    void apri(const QString& stringa);
+    void apri(const QString& stringa, const Limiti& limiti = {});
+    /// Also false after an answer that told that the server is gone: apri() then opens anew.
     bool aperta() const noexcept;
     /// Never fails; does nothing when closed.
     void chiudi() noexcept;

@@ -74,6 +74,7 @@ public:
 
 private:
     class Interno;
+    Interno& interno() const;
     std::unique_ptr<Interno> mInterno;
 };
 

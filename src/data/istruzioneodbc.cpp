@@ -1,0 +1,191 @@
+// The statement handle: running, binding, reading.
+
+#include "data/odbc.h"
+
+#include <algorithm>
+
+namespace giacenza::odbc {
+
+Istruzione::Istruzione(std::shared_ptr<Collegamento> collegamento) : mCollegamento(std::move(collegamento))
+{
+    if (!mCollegamento->aperto())
+        throw ErroreDatabase(QStringLiteral("08003"), 0, QStringLiteral("La connessione è chiusa."));
+    verifica(SQLAllocHandle(SQL_HANDLE_STMT, mCollegamento->maniglia(), &mManiglia), SQL_HANDLE_DBC,
+             mCollegamento->maniglia());
+    mCollegamento->mIstruzioni.push_back(this);
+    // The MariaDB driver answers "changed to no time-out", which is a success: there the session has its own.
+    controlla(SQLSetStmtAttr(mManiglia, SQL_ATTR_QUERY_TIMEOUT,
+                             valoreAttributo(static_cast<SQLULEN>(mCollegamento->limiti().comando)), 0));
+}
+
+Istruzione::~Istruzione()
+{
+    if (!mManiglia)
+        return;
+    std::erase(mCollegamento->mIstruzioni, this);
+    libera();
+}
+
+void Istruzione::libera() noexcept
+{
+    SQLFreeHandle(SQL_HANDLE_STMT, mManiglia);
+    mManiglia = SQL_NULL_HSTMT;
+}
+
+SQLHSTMT Istruzione::viva() const
+{
+    if (!mManiglia || !mCollegamento->aperto())
+        throw ErroreDatabase(QStringLiteral("08003"), 0, QStringLiteral("La connessione è chiusa."), mTesto);
+    return mManiglia;
+}
+
+void Istruzione::controlla(SQLRETURN esito)
+{
+    verifica(esito, SQL_HANDLE_STMT, mManiglia, mTesto);
+}
+
+void Istruzione::esegui(const QString& testo)
+{
+    mTesto = testo;
+    const SQLHSTMT maniglia = viva();
+    mCollegamento->esegui(EventoDati::istruzione, testo, [&] {
+        QByteArray utf8 = testo.toUtf8();
+        const SQLRETURN esito =
+            SQLExecDirect(maniglia, testoOdbc(utf8), static_cast<SQLINTEGER>(utf8.size()));
+        if (esito != SQL_NO_DATA) // an update that touched no row
+            controlla(esito);
+    });
+}
+
+void Istruzione::prepara(const QString& testo)
+{
+    mTesto = testo;
+    const SQLHSTMT maniglia = viva();
+    try {
+        QByteArray utf8 = testo.toUtf8();
+        controlla(SQLPrepare(maniglia, testoOdbc(utf8), static_cast<SQLINTEGER>(utf8.size())));
+    } catch (const ErroreDatabase& errore) {
+        mCollegamento->riconosciPerdita(errore);
+        throw;
+    }
+}
+
+void Istruzione::lega(std::span<const Valore> parametri)
+{
+    const auto quanti = parametri.size();
+    mValori.resize(quanti);
+    mLunghezze.resize(quanti);
+    controlla(SQLFreeStmt(mManiglia, SQL_RESET_PARAMS));
+    for (std::size_t i = 0; i < quanti; ++i) {
+        mValori[i] = parametri[i] ? parametri[i]->toUtf8() : QByteArray();
+        // The length is given: the drivers would store the terminator of a text that they have to measure.
+        mLunghezze[i] = parametri[i] ? static_cast<SQLLEN>(mValori[i].size()) : SQL_NULL_DATA;
+        const auto larghezza = static_cast<SQLULEN>(std::max<qsizetype>(mValori[i].size(), 1));
+        controlla(SQLBindParameter(mManiglia, static_cast<SQLUSMALLINT>(i + 1), SQL_PARAM_INPUT, SQL_C_CHAR,
+                                   SQL_VARCHAR, larghezza, 0, mValori[i].data(),
+                                   static_cast<SQLLEN>(mValori[i].size()), &mLunghezze[i]));
+    }
+}
+
+void Istruzione::eseguiPreparata(std::span<const Valore> parametri)
+{
+    const SQLHSTMT maniglia = viva();
+    mCollegamento->esegui(EventoDati::istruzione, mTesto, [&] {
+        lega(parametri);
+        const SQLRETURN esito = SQLExecute(maniglia);
+        if (esito != SQL_NO_DATA)
+            controlla(esito);
+    });
+}
+
+qint64 Istruzione::righeToccate()
+{
+    SQLLEN righe = -1;
+    controlla(SQLRowCount(viva(), &righe));
+    return righe;
+}
+
+std::vector<QString> Istruzione::nomiColonne()
+{
+    const SQLHSTMT maniglia = viva();
+    SQLSMALLINT quante = 0;
+    controlla(SQLNumResultCols(maniglia, &quante));
+    std::vector<QString> nomi;
+    nomi.reserve(static_cast<std::size_t>(quante));
+    for (SQLSMALLINT colonna = 1; colonna <= quante; ++colonna) {
+        QByteArray nome(256, '\0');
+        SQLSMALLINT lunghezza = 0;
+        SQLSMALLINT tipo = 0;
+        SQLULEN larghezza = 0;
+        SQLSMALLINT cifre = 0;
+        SQLSMALLINT annullabile = 0;
+        const auto chiedi = [&] {
+            controlla(SQLDescribeCol(maniglia, static_cast<SQLUSMALLINT>(colonna), testoOdbc(nome),
+                                     static_cast<SQLSMALLINT>(nome.size()), &lunghezza, &tipo, &larghezza,
+                                     &cifre, &annullabile));
+        };
+        chiedi();
+        if (lunghezza >= nome.size()) {
+            nome.resize(lunghezza + 1);
+            chiedi();
+        }
+        nomi.push_back(QString::fromUtf8(nome.constData(), lunghezza));
+    }
+    return nomi;
+}
+
+bool Istruzione::leggi(Riga& riga, int colonne)
+{
+    const SQLHSTMT maniglia = viva();
+    riga.dati.resize(0);
+    riga.celle.clear();
+    try {
+        const SQLRETURN esito = SQLFetch(maniglia);
+        if (esito == SQL_NO_DATA)
+            return false;
+        controlla(esito);
+        for (int colonna = 1; colonna <= colonne; ++colonna)
+            leggiCella(riga, static_cast<SQLUSMALLINT>(colonna));
+    } catch (const ErroreDatabase& errore) {
+        mCollegamento->riconosciPerdita(errore);
+        throw;
+    }
+    return true;
+}
+
+/// Most values fit the first call; of a longer one the driver tells how much is left, or that it cannot tell.
+void Istruzione::leggiCella(Riga& riga, SQLUSMALLINT colonna)
+{
+    constexpr qsizetype primoPasso = 256;
+    const qsizetype inizio = riga.dati.size();
+    qsizetype letti = 0;
+    for (qsizetype passo = primoPasso;;) {
+        riga.dati.resize(inizio + letti + passo);
+        SQLLEN resto = 0;
+        const SQLRETURN esito = SQLGetData(mManiglia, colonna, SQL_C_CHAR, riga.dati.data() + inizio + letti,
+                                           static_cast<SQLLEN>(passo), &resto);
+        if (esito == SQL_NO_DATA) // the value ended exactly with the call before
+            break;
+        controlla(esito);
+        if (resto == SQL_NULL_DATA) {
+            riga.dati.resize(inizio);
+            riga.celle.push_back({inizio, -1});
+            return;
+        }
+        const bool ancora = resto == SQL_NO_TOTAL || resto >= passo;
+        letti += ancora ? passo - 1 : static_cast<qsizetype>(resto); // less the terminator
+        if (!ancora)
+            break;
+        passo = resto == SQL_NO_TOTAL ? passo * 2 : static_cast<qsizetype>(resto) - passo + 2;
+    }
+    riga.dati.resize(inizio + letti);
+    riga.celle.push_back({inizio, letti});
+}
+
+void Istruzione::chiudiCursore() noexcept
+{
+    if (mManiglia)
+        SQLFreeStmt(mManiglia, SQL_CLOSE);
+}
+
+} // namespace giacenza::odbc

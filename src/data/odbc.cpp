@@ -1,0 +1,151 @@
+#include "data/odbc.h"
+
+#include <algorithm>
+#include <array>
+
+namespace giacenza::odbc {
+
+namespace {
+
+QString diagnosi(SQLSMALLINT tipo, SQLHANDLE maniglia, SQLSMALLINT numero, QString& stato, SQLINTEGER& nativo)
+{
+    std::array<SQLCHAR, 6> sqlstate{};
+    QByteArray testo(512, '\0');
+    SQLSMALLINT lunghezza = 0;
+    SQLRETURN esito = SQLGetDiagRec(tipo, maniglia, numero, sqlstate.data(), &nativo, testoOdbc(testo),
+                                    static_cast<SQLSMALLINT>(testo.size()), &lunghezza);
+    if (SQL_SUCCEEDED(esito) && lunghezza >= testo.size()) {
+        testo.resize(lunghezza + 1);
+        esito = SQLGetDiagRec(tipo, maniglia, numero, sqlstate.data(), &nativo, testoOdbc(testo),
+                              static_cast<SQLSMALLINT>(testo.size()), &lunghezza);
+    }
+    if (!SQL_SUCCEEDED(esito))
+        return {};
+    stato = QString::fromLatin1(reinterpret_cast<const char*>(sqlstate.data()));
+    return QString::fromUtf8(testo.constData(), std::min<qsizetype>(lunghezza, testo.size()));
+}
+
+/// The environment of the process. It is never freed: connections may live in objects that outlast any
+/// order of destruction we could choose, and the driver manager keeps its drivers loaded with it.
+SQLHENV ambiente()
+{
+    static const SQLHENV unico = [] {
+        SQLHENV nuovo = SQL_NULL_HENV;
+        if (!SQL_SUCCEEDED(SQLAllocHandle(SQL_HANDLE_ENV, SQL_NULL_HANDLE, &nuovo)))
+            throw ErroreDatabase(QStringLiteral("HY001"), 0, QStringLiteral("Il gestore ODBC non risponde."));
+        verifica(SQLSetEnvAttr(nuovo, SQL_ATTR_ODBC_VERSION, valoreAttributo(SQL_OV_ODBC3), 0),
+                 SQL_HANDLE_ENV, nuovo);
+        return nuovo;
+    }();
+    return unico;
+}
+
+} // namespace
+
+void verifica(SQLRETURN esito, SQLSMALLINT tipo, SQLHANDLE maniglia, const QString& istruzione)
+{
+    if (SQL_SUCCEEDED(esito))
+        return;
+    QString primoStato = QStringLiteral("HY000");
+    SQLINTEGER primoNativo = 0;
+    QString testi;
+    for (SQLSMALLINT numero = 1;; ++numero) {
+        QString stato;
+        SQLINTEGER nativo = 0;
+        const QString testo = diagnosi(tipo, maniglia, numero, stato, nativo);
+        if (stato.isEmpty())
+            break;
+        if (numero == 1) {
+            primoStato = stato;
+            primoNativo = nativo;
+        } else {
+            testi += u'\n';
+        }
+        testi += testo;
+    }
+    if (testi.isEmpty())
+        testi = QStringLiteral("Il driver ODBC ha risposto %1 senza dire perché.").arg(esito);
+    throw ErroreDatabase(primoStato, primoNativo, testi, istruzione);
+}
+
+Collegamento::Collegamento(const QString& stringa, const Limiti& limiti) : mLimiti(limiti)
+{
+    traccia(EventoDati::apertura);
+    verifica(SQLAllocHandle(SQL_HANDLE_DBC, ambiente(), &mManiglia), SQL_HANDLE_ENV, ambiente());
+    try {
+        connetti(stringa);
+        riconosciDialetto();
+        preparaSessione();
+    } catch (...) {
+        libera();
+        throw;
+    }
+}
+
+Collegamento::~Collegamento()
+{
+    chiudi();
+}
+
+void Collegamento::connetti(const QString& stringa)
+{
+    verifica(SQLSetConnectAttr(mManiglia, SQL_ATTR_LOGIN_TIMEOUT,
+                               valoreAttributo(static_cast<SQLULEN>(mLimiti.connessione)), 0),
+             SQL_HANDLE_DBC, mManiglia);
+    QByteArray utf8 = stringa.toUtf8();
+    verifica(SQLDriverConnect(mManiglia, nullptr, testoOdbc(utf8), SQL_NTS, nullptr, 0, nullptr,
+                              SQL_DRIVER_NOPROMPT),
+             SQL_HANDLE_DBC, mManiglia);
+}
+
+void Collegamento::riconosciDialetto()
+{
+    std::array<char, 64> nome{};
+    SQLSMALLINT lunghezza = 0;
+    verifica(
+        SQLGetInfo(mManiglia, SQL_DBMS_NAME, nome.data(), static_cast<SQLSMALLINT>(nome.size()), &lunghezza),
+        SQL_HANDLE_DBC, mManiglia);
+    const QString dbms = QString::fromUtf8(nome.data());
+    if (dbms.contains(QStringLiteral("maria"), Qt::CaseInsensitive))
+        mDialetto = Dialetto::mariadb;
+    else if (dbms.contains(QStringLiteral("sqlite"), Qt::CaseInsensitive))
+        mDialetto = Dialetto::sqlite;
+}
+
+void Collegamento::libera() noexcept
+{
+    SQLDisconnect(mManiglia);
+    SQLFreeHandle(SQL_HANDLE_DBC, mManiglia);
+    mManiglia = SQL_NULL_HDBC;
+}
+
+void Collegamento::chiudi() noexcept
+{
+    if (!mManiglia)
+        return;
+    annulla();
+    if (!mManiglia) // annulla() could not roll back and closed
+        return;
+    try {
+        traccia(EventoDati::chiusura);
+    } catch (...) {
+        // Closing cannot fail.
+    }
+    for (Istruzione* istruzione : mIstruzioni)
+        istruzione->libera();
+    mIstruzioni.clear();
+    libera();
+}
+
+void Collegamento::riconosciPerdita(const ErroreDatabase& errore) noexcept
+{
+    // The MariaDB driver gives HY000 for some of its client's own codes of a server that is gone.
+    constexpr int serverSparito = 2006;
+    constexpr int serverPerso = 2013;
+    const bool perso = errore.sqlstate().startsWith(QLatin1String("08")) ||
+                       (mDialetto == Dialetto::mariadb &&
+                        (errore.codiceNativo() == serverSparito || errore.codiceNativo() == serverPerso));
+    mPerduto = mPerduto || perso;
+}
+
+} // namespace giacenza::odbc

@@ -1,0 +1,330 @@
+#include "data/recordset.h"
+
+#include "data/odbc.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace giacenza {
+
+class Recordset::Interno
+{
+public:
+    std::shared_ptr<odbc::Collegamento> collegamento;
+    std::unique_ptr<odbc::Istruzione> lettura; // gone once the last row was read: it may hold a lock
+    QString istruzione;
+    Cursore cursore = Cursore::chiave;
+    std::vector<QString> nomi;
+    std::vector<odbc::Riga> righe; // with soloAvanti the current row alone
+    qsizetype posizione = 0;       // of the current row in the result
+    bool vuoto = true;
+    bool fine = true;
+
+    QString tabella; // empty for the rows of a statement
+    bool nuova = false;
+    std::vector<std::pair<qsizetype, Valore>> impostati;
+
+    void apri(const QString& testo, std::span<const Valore> parametri);
+    void apriTabella();
+    void avanti();
+    void aggiorna();
+    const odbc::Riga& corrente() const;
+    qsizetype indice(const QString& nome) const;
+    qsizetype indiceCerto(const QString& nome) const;
+    [[noreturn]] void fallisci(const char* stato, const QString& testo) const;
+
+private:
+    bool leggi();
+};
+
+void Recordset::Interno::fallisci(const char* stato, const QString& testo) const
+{
+    throw ErroreDatabase(QString::fromLatin1(stato), 0, testo, istruzione);
+}
+
+void Recordset::Interno::apri(const QString& testo, std::span<const Valore> parametri)
+{
+    istruzione = testo;
+    lettura = std::make_unique<odbc::Istruzione>(collegamento);
+    if (parametri.empty()) {
+        lettura->esegui(testo);
+    } else {
+        lettura->prepara(testo);
+        lettura->eseguiPreparata(parametri);
+    }
+    nomi = lettura->nomiColonne();
+    if (nomi.empty())
+        fallisci("07005", QStringLiteral("L'istruzione non dà righe."));
+    vuoto = fine = !leggi();
+}
+
+/// Only prepared and described: running the select would read the whole table on one database, and on the
+/// other take a snapshot that a write of the same transaction could no longer leave.
+void Recordset::Interno::apriTabella()
+{
+    istruzione = QStringLiteral("select * from ") + tabella;
+    odbc::Istruzione descrizione(collegamento);
+    collegamento->esegui(EventoDati::istruzione, istruzione, [&] {
+        descrizione.prepara(istruzione);
+        nomi = descrizione.nomiColonne();
+    });
+}
+
+/// Reads one more row behind those that were read; false at the end.
+bool Recordset::Interno::leggi()
+{
+    if (!lettura)
+        return false;
+    odbc::Riga riga;
+    if (!lettura->leggi(riga, static_cast<int>(nomi.size()))) {
+        lettura.reset();
+        return false;
+    }
+    if (cursore == Cursore::soloAvanti)
+        righe.clear();
+    righe.push_back(std::move(riga));
+    return true;
+}
+
+void Recordset::Interno::avanti()
+{
+    if (fine)
+        return;
+    const bool giaLetta = cursore == Cursore::chiave && posizione + 1 < std::ssize(righe);
+    if (giaLetta || leggi())
+        ++posizione;
+    else
+        fine = true;
+}
+
+const odbc::Riga& Recordset::Interno::corrente() const
+{
+    if (fine)
+        fallisci("02000", QStringLiteral("Non c'è un record corrente."));
+    return cursore == Cursore::chiave ? righe[static_cast<std::size_t>(posizione)] : righe.front();
+}
+
+qsizetype Recordset::Interno::indice(const QString& nome) const
+{
+    const auto trovato = std::find_if(nomi.begin(), nomi.end(), [&](const QString& altro) {
+        return altro.compare(nome, Qt::CaseInsensitive) == 0;
+    });
+    return trovato == nomi.end() ? -1 : trovato - nomi.begin();
+}
+
+qsizetype Recordset::Interno::indiceCerto(const QString& nome) const
+{
+    const qsizetype trovato = indice(nome);
+    if (trovato < 0)
+        fallisci("42S22", QStringLiteral("La colonna \"%1\" non esiste.").arg(nome));
+    return trovato;
+}
+
+void Recordset::Interno::aggiorna()
+{
+    if (!nuova || impostati.empty())
+        fallisci("HY010", QStringLiteral("Non c'è una nuova riga da scrivere."));
+    QStringList colonne;
+    QStringList segni;
+    std::vector<Valore> valori;
+    for (const auto& [colonna, valore] : impostati) {
+        colonne += nomi[static_cast<std::size_t>(colonna)];
+        segni += QStringLiteral("?");
+        valori.push_back(valore);
+    }
+    odbc::Istruzione inserimento(collegamento);
+    inserimento.prepara(
+        QStringLiteral("insert into %1 (%2) values (%3)")
+            .arg(tabella, colonne.join(QStringLiteral(", ")), segni.join(QStringLiteral(", "))));
+    inserimento.eseguiPreparata(valori);
+    nuova = false;
+    impostati.clear();
+}
+
+Recordset::Recordset() = default;
+Recordset::Recordset(Recordset&&) noexcept = default;
+Recordset& Recordset::operator=(Recordset&&) noexcept = default;
+Recordset::~Recordset() = default;
+
+void Recordset::apri(Connessione& connessione, const QString& istruzione, Cursore cursore,
+                     std::span<const Valore> parametri)
+{
+    chiudi();
+    auto nuovo = std::make_unique<Interno>();
+    nuovo->collegamento = connessione.collegamento();
+    nuovo->cursore = cursore;
+    nuovo->apri(istruzione, parametri);
+    mInterno = std::move(nuovo);
+}
+
+void Recordset::apriTabella(Connessione& connessione, const QString& tabella)
+{
+    chiudi();
+    auto nuovo = std::make_unique<Interno>();
+    nuovo->collegamento = connessione.collegamento();
+    nuovo->tabella = tabella;
+    nuovo->apriTabella();
+    mInterno = std::move(nuovo);
+}
+
+bool Recordset::aperto() const noexcept
+{
+    return mInterno && mInterno->collegamento->aperto();
+}
+
+void Recordset::chiudi() noexcept
+{
+    mInterno.reset();
+}
+
+Recordset::Interno& Recordset::interno() const
+{
+    if (!aperto())
+        throw ErroreDatabase(QStringLiteral("24000"), 0, QStringLiteral("Il recordset è chiuso."));
+    return *mInterno;
+}
+
+bool Recordset::bof() const noexcept
+{
+    return !aperto() || mInterno->vuoto;
+}
+
+bool Recordset::eof() const noexcept
+{
+    return !aperto() || mInterno->fine;
+}
+
+void Recordset::primo()
+{
+    Interno& i = interno();
+    if (i.vuoto)
+        return;
+    if (i.cursore == Cursore::soloAvanti) {
+        if (i.posizione != 0 || i.fine)
+            i.fallisci("24000", QStringLiteral("Il recordset legge solo in avanti."));
+        return;
+    }
+    i.posizione = 0;
+    i.fine = false;
+}
+
+void Recordset::successivo()
+{
+    interno().avanti();
+}
+
+void Recordset::ultimo()
+{
+    Interno& i = interno();
+    if (i.vuoto)
+        return;
+    if (i.cursore == Cursore::soloAvanti && (i.posizione != 0 || i.fine))
+        i.fallisci("24000", QStringLiteral("Il recordset legge solo in avanti."));
+    // The last row is known only by reading behind it, which leaves the rows that are kept as they are.
+    while (!i.fine)
+        i.avanti();
+    i.fine = false;
+}
+
+int Recordset::colonne() const noexcept
+{
+    return aperto() ? static_cast<int>(mInterno->nomi.size()) : 0;
+}
+
+QString Recordset::nomeColonna(int colonna) const
+{
+    const Interno& i = interno();
+    if (colonna < 0 || colonna >= colonne())
+        i.fallisci("42S22", QStringLiteral("La colonna %1 non esiste.").arg(colonna));
+    return i.nomi[static_cast<std::size_t>(colonna)];
+}
+
+int Recordset::indice(const QString& nome) const
+{
+    return static_cast<int>(interno().indice(nome));
+}
+
+std::optional<QByteArrayView> Recordset::utf8(int colonna) const
+{
+    const Interno& i = interno();
+    if (colonna < 0 || colonna >= colonne())
+        i.fallisci("42S22", QStringLiteral("La colonna %1 non esiste.").arg(colonna));
+    const odbc::Riga& riga = i.corrente();
+    const auto& cella = riga.celle[static_cast<std::size_t>(colonna)];
+    if (cella.lunghezza < 0)
+        return std::nullopt;
+    return QByteArrayView(riga.dati.constData() + cella.inizio, cella.lunghezza);
+}
+
+Valore Recordset::valore(int colonna) const
+{
+    const auto byte = utf8(colonna);
+    return byte ? Valore(QString::fromUtf8(*byte)) : std::nullopt;
+}
+
+Valore Recordset::valore(const QString& nome) const
+{
+    return valore(static_cast<int>(interno().indiceCerto(nome)));
+}
+
+void Recordset::aggiungi()
+{
+    Interno& i = interno();
+    if (i.tabella.isEmpty())
+        i.fallisci("HY010", QStringLiteral("Il recordset non è aperto su una tabella."));
+    i.nuova = true;
+    i.impostati.clear();
+}
+
+void Recordset::imposta(const QString& colonna, const Valore& valore)
+{
+    Interno& i = interno();
+    if (!i.nuova)
+        i.fallisci("HY010", QStringLiteral("Non c'è una nuova riga da scrivere."));
+    const qsizetype quale = i.indiceCerto(colonna);
+    const auto gia = std::find_if(i.impostati.begin(), i.impostati.end(),
+                                  [quale](const auto& coppia) { return coppia.first == quale; });
+    if (gia == i.impostati.end())
+        i.impostati.emplace_back(quale, valore);
+    else
+        gia->second = valore;
+}
+
+void Recordset::aggiorna()
+{
+    interno().aggiorna();
+}
+
+class Comando::Interno
+{
+public:
+    explicit Interno(Connessione& connessione) : istruzione(connessione.collegamento()) {}
+    odbc::Istruzione istruzione;
+};
+
+Comando::Comando(Connessione& connessione, const QString& istruzione)
+    : mInterno(std::make_unique<Interno>(connessione))
+{
+    mInterno->istruzione.prepara(istruzione);
+}
+
+Comando::Comando(Comando&&) noexcept = default;
+Comando& Comando::operator=(Comando&&) noexcept = default;
+Comando::~Comando() = default;
+
+qint64 Comando::esegui(std::span<const Valore> parametri)
+{
+    mInterno->istruzione.eseguiPreparata(parametri);
+    return mInterno->istruzione.righeToccate();
+}
+
+void ChiudiOggettiDB(Recordset* recordset, Connessione* connessione, bool rilascia,
+                     bool mantieniConnessione) noexcept
+{
+    if (recordset)
+        recordset->chiudi();
+    if (connessione && (rilascia || !mantieniConnessione))
+        connessione->chiudi();
+}
+
+} // namespace giacenza
