@@ -1,0 +1,170 @@
+#include "finestra.h"
+
+#include "spiegazioni.h"
+#include "ui_finestra.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QPixmap>
+#include <QTime>
+
+#include <algorithm>
+
+namespace deposito {
+
+using giacenza::cGiacenza;
+
+namespace {
+
+/// The masked date as typed; empty when nothing was typed.
+QString dataTypata(const QLineEdit& campo)
+{
+    const QString scritta = campo.displayText();
+    return scritta == u"__/__/____" ? QString() : scritta;
+}
+
+bool altreFinestreAperte(const QWidget* questa)
+{
+    const QWidgetList finestre = QApplication::topLevelWidgets();
+    return std::any_of(finestre.begin(), finestre.end(), [questa](const QWidget* finestra) {
+        return finestra != questa && finestra->isVisible() && finestra->windowType() != Qt::ToolTip &&
+               finestra->windowType() != Qt::Popup;
+    });
+}
+
+} // namespace
+
+Finestra::Finestra(const Opzioni& opzioni, QWidget* parent)
+    : QMainWindow(parent), mUi(std::make_unique<Ui::finestraDeposito>()),
+      mGiacenza(std::make_unique<cGiacenza>())
+{
+    mUi->setupUi(this);
+    mUi->fraMessaggio->hide();
+    mostraLogo(opzioni.logo);
+
+    mGiacenza->setPercorsoDatabase(opzioni.database);
+    mGiacenza->setPercorsoFileIni(opzioni.ini);
+    mGiacenza->setPercorsoLogoIntestazione(opzioni.logo);
+    collega();
+
+    const QString archivio = nomeArchivio(opzioni.database);
+    auto* nome = new QLabel(archivio.isEmpty() ? QStringLiteral("Nessun archivio")
+                                               : QStringLiteral("Archivio: %1").arg(archivio),
+                            this);
+    nome->setObjectName(QStringLiteral("lblArchivio"));
+    mUi->statusbar->addPermanentWidget(nome);
+    mUi->statusbar->showMessage(QStringLiteral("Pronto."));
+    if (opzioni.database.isEmpty())
+        mostraMessaggio(
+            QStringLiteral("Non è stato indicato l'archivio su cui lavorare: avviare il programma "
+                           "con --database e la stringa di connessione."));
+}
+
+Finestra::~Finestra() = default;
+
+void Finestra::collega()
+{
+    connect(mUi->azNuova, &QAction::triggered, this,
+            [this] { apri(QStringLiteral("Nuova giacenza"), [this] { mGiacenza->NuovaGiacenza(); }); });
+    connect(mUi->azGestione, &QAction::triggered, this,
+            [this] { apri(QStringLiteral("Gestione giacenze"), [this] { mGiacenza->ConsultaGiacenza(); }); });
+    connect(mUi->azNuovaLdv, &QAction::triggered, this, &Finestra::apriPerLdv);
+    connect(mUi->azRiconsegna, &QAction::triggered, this, [this] {
+        apriRiconsegna(cGiacenza::ResoDestinatario, QStringLiteral("Riconsegna a destinatario"));
+    });
+    connect(mUi->azReso, &QAction::triggered, this,
+            [this] { apriRiconsegna(cGiacenza::ResoMittente, QStringLiteral("Reso a mittente")); });
+    connect(mUi->azEsci, &QAction::triggered, this, &QWidget::close);
+
+    const std::pair<QPushButton*, QAction*> pulsanti[] = {
+        {mUi->cmdNuova, mUi->azNuova},           {mUi->cmdNuovaLdv, mUi->azNuovaLdv},
+        {mUi->cmdGestione, mUi->azGestione},     {mUi->cmdReso, mUi->azReso},
+        {mUi->cmdRiconsegna, mUi->azRiconsegna}, {mUi->cmdEsci, mUi->azEsci},
+    };
+    for (const auto& [pulsante, azione] : pulsanti)
+        connect(pulsante, &QPushButton::clicked, azione, &QAction::trigger);
+    for (const QLineEdit* campo : {mUi->txtLdv, mUi->txtDataLdv, mUi->txtFiliale, mUi->txtCliente})
+        connect(campo, &QLineEdit::returnPressed, mUi->azNuovaLdv, &QAction::trigger);
+
+    connect(mUi->cmdChiudiMessaggio, &QPushButton::clicked, this, &Finestra::nascondiMessaggio);
+    connect(mGiacenza.get(), &cGiacenza::fine, this, &Finestra::schermataChiusa);
+}
+
+void Finestra::mostraLogo(const QString& file)
+{
+    const QPixmap logo(file);
+    if (!logo.isNull())
+        mUi->lblLogo->setPixmap(logo.scaledToHeight(72, Qt::SmoothTransformation));
+}
+
+void Finestra::apri(const QString& schermata, const std::function<void()>& apertura)
+{
+    nascondiMessaggio();
+    try {
+        apertura();
+        mUi->statusbar->showMessage(QStringLiteral("%1: schermata aperta.").arg(schermata));
+        return;
+    } catch (const giacenza::ErroreDatabase& errore) {
+        mostraMessaggio(spiega(errore));
+    } catch (const std::exception& errore) {
+        mostraMessaggio(
+            QStringLiteral("La schermata non è stata aperta. %1").arg(QString::fromUtf8(errore.what())));
+    }
+    mUi->statusbar->showMessage(QStringLiteral("%1: schermata non aperta.").arg(schermata));
+}
+
+void Finestra::apriPerLdv()
+{
+    const QString numero = mUi->txtLdv->text();
+    const QString data = dataTypata(*mUi->txtDataLdv);
+    const QString filiale = mUi->txtFiliale->text();
+    const QString cliente = mUi->txtCliente->text();
+    apri(QStringLiteral("Nuova giacenza per la LDV %1").arg(numero),
+         [&] { mGiacenza->NuovaGiacenzaEXT(numero, data, filiale, cliente); });
+}
+
+void Finestra::apriRiconsegna(cGiacenza::Reso tipo, const QString& schermata)
+{
+    apri(schermata, [this, tipo] {
+        mGiacenza->setTipoReso(tipo);
+        mGiacenza->MostraRiconsegna();
+    });
+}
+
+void Finestra::schermataChiusa()
+{
+    mUi->statusbar->showMessage(QStringLiteral("Schermata chiusa alle %1.")
+                                    .arg(QTime::currentTime().toString(QStringLiteral("HH:mm:ss"))));
+}
+
+void Finestra::mostraMessaggio(const QString& testo)
+{
+    mUi->lblMessaggio->setText(testo);
+    mUi->fraMessaggio->show();
+    QAccessibleEvent annuncio(mUi->lblMessaggio, QAccessible::Alert);
+    QAccessible::updateAccessibility(&annuncio);
+}
+
+void Finestra::nascondiMessaggio()
+{
+    mUi->fraMessaggio->hide();
+    mUscitaAnnunciata = false;
+}
+
+void Finestra::closeEvent(QCloseEvent* evento)
+{
+    if (!mUscitaAnnunciata && altreFinestreAperte(this)) {
+        mostraMessaggio(
+            QStringLiteral("Ci sono schermate ancora aperte: uscendo si perde ciò che non è salvato. "
+                           "Per uscire lo stesso, chiudere di nuovo."));
+        mUscitaAnnunciata = true;
+        evento->ignore();
+        return;
+    }
+    evento->accept();
+    // The screens do not keep the program alive, nor do they end it: the host's window does.
+    QCoreApplication::quit();
+}
+
+} // namespace deposito
