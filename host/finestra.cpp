@@ -117,11 +117,11 @@ void Finestra::apri(const QString& schermata, const std::function<void()>& apert
 void Finestra::apriPerLdv()
 {
     const QString numero = mUi->txtLdv->text();
-    const QString data = dataTypata(*mUi->txtDataLdv);
+    const QString giorno = dataTypata(*mUi->txtDataLdv);
     const QString filiale = mUi->txtFiliale->text();
     const QString cliente = mUi->txtCliente->text();
     apri(QStringLiteral("Nuova giacenza per la LDV %1").arg(numero),
-         [&] { mGiacenza->NuovaGiacenzaEXT(numero, data, filiale, cliente); });
+         [&] { mGiacenza->NuovaGiacenzaEXT(numero, giorno, filiale, cliente); });
 }
 
 void Finestra::apriRiconsegna(cGiacenza::Reso tipo, const QString& schermata)
