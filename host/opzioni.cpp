@@ -11,6 +11,8 @@ namespace deposito {
 
 Opzioni leggiOpzioni(const QCoreApplication& applicazione)
 {
+    const QCommandLineOption aiuto({QStringLiteral("h"), QStringLiteral("help")},
+                                   QStringLiteral("Mostra queste righe."));
     const QCommandLineOption database(QStringLiteral("database"),
                                       QStringLiteral("Stringa di connessione ODBC dell'archivio."),
                                       QStringLiteral("stringa"));
@@ -25,9 +27,10 @@ Opzioni leggiOpzioni(const QCoreApplication& applicazione)
     QCommandLineParser riga;
     riga.setApplicationDescription(
         QStringLiteral("Il programma del deposito: apre le schermate delle giacenze."));
-    riga.addHelpOption();
-    riga.addOptions({database, ini, logo});
+    riga.addOptions({aiuto, database, ini, logo});
     riga.process(applicazione);
+    if (riga.isSet(aiuto))
+        riga.showHelp();
     if (!riga.positionalArguments().isEmpty())
         riga.showHelp(1);
     return {riga.value(database), riga.value(ini), riga.value(logo)};
