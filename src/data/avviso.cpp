@@ -1,0 +1,59 @@
+#include "data/avviso.h"
+
+#include "data/recordset.h"
+
+#include <array>
+
+namespace giacenza {
+
+namespace {
+
+struct StatoAvviso
+{
+    QString numero;
+    QString data;
+};
+
+/// The count and the date of the last notice, empty for null; both empty when there is no such held shipment.
+StatoAvviso LeggiDatiAvviso(const QString& stringa, const ChiaveCaso& chiave)
+{
+    const QString istruzione = std::visit([](const auto& c) { return istruzioni::statoAvviso(c); }, chiave);
+    Connessione connessione;
+    connessione.apri(stringa);
+    Recordset stato;
+    stato.apri(connessione, istruzione);
+    if (stato.bof() || stato.eof())
+        return {};
+    return {stato.valore(0).value_or(QString()), stato.valore(1).value_or(QString())};
+}
+
+QString istruzioneSuccessivo(const ChiaveCaso& chiave, int numero, QDate oggi, const QString& descrizione)
+{
+    if (const auto* giacenza = std::get_if<ChiaveGiacenza>(&chiave))
+        return istruzioni::avvisoSuccessivo(*giacenza, numero, oggi, descrizione);
+    return istruzioni::avvisoSuccessivo(std::get<ChiaveSpedizione>(chiave), numero, oggi);
+}
+
+} // namespace
+
+ContoAvviso contaAvviso(Connessione& connessione, const QString& stringa, const ChiaveCaso& chiave, QDate oggi,
+                        const QString& descrizione)
+{
+    const StatoAvviso stato = LeggiDatiAvviso(stringa, chiave);
+    if (stato.numero.isEmpty()) {
+        connessione.esegui(std::visit([&](const auto& c) { return istruzioni::primoAvviso(c, oggi); }, chiave));
+        return ContoAvviso::primo;
+    }
+    const auto ultimo = leggiData(stato.data);
+    if (!ultimo)
+        throw ErroreConversione(QStringLiteral("La data dell'ultimo avviso non è una data: %1").arg(stato.data));
+    if (*ultimo >= oggi)
+        return ContoAvviso::stessoGiorno;
+    const int numero = intero16(stato.numero) + 1;
+    if (numero > std::numeric_limits<qint16>::max())
+        throw ErroreConversione(QStringLiteral("Il numero degli avvisi è troppo grande: %1").arg(numero));
+    connessione.esegui(istruzioneSuccessivo(chiave, numero, oggi, descrizione));
+    return ContoAvviso::successivo;
+}
+
+} // namespace giacenza

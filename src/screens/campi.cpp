@@ -1,0 +1,167 @@
+#include "screens/campi.h"
+
+#include "screens/campodata.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QStyle>
+
+#include <stdexcept>
+
+namespace giacenza {
+
+namespace {
+
+constexpr char proprietaAvanzo[] = "avanzo";
+constexpr char proprietaTag[] = "tag";
+/// True once a row gave the control its value: only then can the value be a left-over of another waybill.
+constexpr char proprietaRiempito[] = "riempito";
+
+void segnaAvanzo(QWidget* controllo, bool avanzo)
+{
+    if (eAvanzo(controllo) == avanzo)
+        return;
+    controllo->setProperty(proprietaAvanzo, avanzo);
+    controllo->setToolTip(avanzo ? QStringLiteral("Valore di un'altra lettera di vettura: non viene usato.")
+                                 : QString());
+    controllo->style()->unpolish(controllo);
+    controllo->style()->polish(controllo);
+}
+
+void scriviMostrato(QWidget* controllo, const QString& testo)
+{
+    if (auto* data = qobject_cast<CampoData*>(controllo))
+        data->imposta(testo);
+    else if (auto* riga = qobject_cast<QLineEdit*>(controllo))
+        riga->setText(testo);
+    else if (auto* etichetta = qobject_cast<QLabel*>(controllo))
+        etichetta->setText(testo);
+    else if (auto* elenco = qobject_cast<QComboBox*>(controllo))
+        elenco->setCurrentText(testo);
+    else if (auto* blocco = qobject_cast<QPlainTextEdit*>(controllo))
+        blocco->setPlainText(QString(testo).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+    else
+        throw std::logic_error("a control of a kind that holds no text");
+}
+
+/// What was typed, or set by the program, is nobody's left-over.
+void proprio(QWidget* controllo)
+{
+    controllo->setProperty(proprietaRiempito, false);
+    segnaAvanzo(controllo, false);
+}
+
+} // namespace
+
+QString testoMostrato(const QWidget* controllo)
+{
+    if (const auto* data = qobject_cast<const CampoData*>(controllo))
+        return data->testo();
+    if (const auto* riga = qobject_cast<const QLineEdit*>(controllo))
+        return riga->text();
+    if (const auto* etichetta = qobject_cast<const QLabel*>(controllo))
+        return etichetta->text();
+    if (const auto* elenco = qobject_cast<const QComboBox*>(controllo))
+        return elenco->currentText();
+    if (const auto* blocco = qobject_cast<const QPlainTextEdit*>(controllo))
+        return blocco->toPlainText();
+    throw std::logic_error("a control of a kind that holds no text");
+}
+
+QString testo(const QWidget* controllo)
+{
+    return eAvanzo(controllo) ? QString() : testoMostrato(controllo);
+}
+
+void scrivi(QWidget* controllo, const QString& testo)
+{
+    scriviMostrato(controllo, testo);
+    proprio(controllo);
+}
+
+bool eAvanzo(const QWidget* controllo)
+{
+    return controllo->property(proprietaAvanzo).toBool();
+}
+
+QString numeroLdv(const QLineEdit* campo)
+{
+    return campo->text().isEmpty() ? tag(campo) : campo->text();
+}
+
+QString tag(const QLineEdit* campo)
+{
+    return campo->property(proprietaTag).toString();
+}
+
+CampiSchermata::CampiSchermata(QWidget* schermata, const MappaSpedizione& mappa)
+    : QObject(schermata), mSchermata(schermata)
+{
+    for (const PassoSpedizione& passo : mappa)
+        if (*passo.controllo)
+            osserva(controllo(QLatin1String(passo.controllo)));
+}
+
+void CampiSchermata::osserva(QWidget* controllo)
+{
+    const auto digitato = [controllo] { proprio(controllo); };
+    if (auto* riga = qobject_cast<QLineEdit*>(controllo))
+        connect(riga, &QLineEdit::textEdited, this, digitato);
+    else if (auto* elenco = qobject_cast<QComboBox*>(controllo)) {
+        connect(elenco, &QComboBox::editTextChanged, this, digitato);
+        connect(elenco, &QComboBox::activated, this, digitato);
+    } else if (auto* blocco = qobject_cast<QPlainTextEdit*>(controllo))
+        connect(blocco, &QPlainTextEdit::textChanged, this, digitato);
+}
+
+void CampiSchermata::scrivi(QLatin1String nome, const QString& testo)
+{
+    QWidget* dove = controllo(nome);
+    giacenza::scrivi(dove, testo);
+    dove->setProperty(proprietaRiempito, true);
+}
+
+void CampiSchermata::scriviTag(QLatin1String nome, const QString& testo)
+{
+    QWidget* dove = controllo(nome);
+    dove->setProperty(proprietaTag, testo);
+    if (auto* riga = qobject_cast<QLineEdit*>(dove))
+        riga->setPlaceholderText(testo);
+}
+
+void CampiSchermata::seleziona(QLatin1String nome, int riga)
+{
+    auto* elenco = qobject_cast<QComboBox*>(controllo(nome));
+    if (!elenco)
+        throw std::logic_error("rows can be selected in a list only");
+    if (riga >= -1 && riga < elenco->count())
+        elenco->setCurrentIndex(riga);
+    proprio(elenco);
+    elenco->setProperty(proprietaRiempito, true);
+}
+
+void CampiSchermata::lascia(QLatin1String nome)
+{
+    if (nome.isEmpty())
+        return;
+    QWidget* dove = controllo(nome);
+    if (dove->property(proprietaRiempito).toBool() && !testoMostrato(dove).isEmpty())
+        segnaAvanzo(dove, true);
+}
+
+void CampiSchermata::giaInGiacenza(bool giacente)
+{
+    Q_EMIT giacenzaLetta(giacente);
+}
+
+QWidget* CampiSchermata::controllo(QLatin1String nome) const
+{
+    auto* trovato = mSchermata->findChild<QWidget*>(nome);
+    if (!trovato)
+        throw std::logic_error("no control of the name " + std::string(nome.data(), nome.size()));
+    return trovato;
+}
+
+} // namespace giacenza

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "data/spedizione.h"
+
+#include <QPointer>
+#include <QWidget>
+
+class QLineEdit;
+
+namespace giacenza {
+
+/// What a control of a screen shows, whatever its kind: a line or masked field, a text box, a list, a label.
+///
+/// A control that was filled from a row and has nothing in the next one keeps showing its old value, dimmed: a
+/// left-over of another waybill. Every routine that reads it takes it as empty. Typing in it, or writing it, takes the
+/// mark away.
+
+/// The text that counts: empty for a left-over. Line ends are LF.
+QString testo(const QWidget* controllo);
+/// The text on the screen, a left-over's too.
+QString testoMostrato(const QWidget* controllo);
+/// Writes the text as the program's own: no left-over, and nothing to leave over.
+void scrivi(QWidget* controllo, const QString& testo);
+bool eAvanzo(const QWidget* controllo);
+
+/// The number of the waybill field: its text if there is one, else the number found, kept in its tag.
+QString numeroLdv(const QLineEdit* campo);
+/// The number found by the last lookup.
+QString tag(const QLineEdit* campo);
+
+/// Fills the controls of a screen, found by object name, from a row. Every control that it may mark is watched for
+/// typing from the constructor on.
+class CampiSchermata : public QObject, public DestinazioneSpedizione
+{
+    Q_OBJECT
+
+public:
+    /// schermata: the parent of the controls, and of this object; mappa: the columns it will be filled from.
+    CampiSchermata(QWidget* schermata, const MappaSpedizione& mappa);
+
+    void scrivi(QLatin1String controllo, const QString& testo) override;
+    void scriviTag(QLatin1String controllo, const QString& testo) override;
+    void seleziona(QLatin1String controllo, int riga) override;
+    void lascia(QLatin1String controllo) override;
+    void giaInGiacenza(bool giacente) override;
+
+Q_SIGNALS:
+    void giacenzaLetta(bool giacente);
+
+private:
+    QWidget* controllo(QLatin1String nome) const;
+    void osserva(QWidget* controllo);
+
+    QWidget* mSchermata;
+};
+
+} // namespace giacenza

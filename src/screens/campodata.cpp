@@ -1,0 +1,67 @@
+#include "screens/campodata.h"
+
+#include <QFocusEvent>
+#include <QMouseEvent>
+
+namespace giacenza {
+
+namespace {
+
+const QString maschera = QStringLiteral("00/00/0000;_");
+const QString mascheraVuota = QStringLiteral("__/__/____");
+
+} // namespace
+
+CampoData::CampoData(QWidget* parent) : QLineEdit(parent)
+{
+    setPlaceholderText(QStringLiteral("gg/mm/aaaa"));
+}
+
+QString CampoData::testo() const
+{
+    // text() drops the mask's blanks and shifts nothing back: only what is displayed tells an incomplete date.
+    const QString mostrato = displayText();
+    return mostrato == mascheraVuota ? QString() : mostrato;
+}
+
+void CampoData::imposta(const QString& data)
+{
+    // Without the mask any text stands as it is: it is only set for typing, over what is there.
+    setInputMask(data.isEmpty() || !hasFocus() ? QString() : maschera);
+    setText(data);
+}
+
+void CampoData::focusInEvent(QFocusEvent* evento)
+{
+    if (!isReadOnly() && inputMask().isEmpty()) {
+        const QString prima = testo();
+        setInputMask(maschera);
+        setText(prima);
+    }
+    QLineEdit::focusInEvent(evento);
+    if (evento->reason() != Qt::ActiveWindowFocusReason && evento->reason() != Qt::PopupFocusReason) {
+        if (testo().isEmpty())
+            setCursorPosition(0);
+        else
+            selectAll();
+    }
+}
+
+void CampoData::mousePressEvent(QMouseEvent* evento)
+{
+    QLineEdit::mousePressEvent(evento);
+    // A click into the empty mask would start typing in the middle of the date.
+    if (testo().isEmpty())
+        setCursorPosition(0);
+}
+
+void CampoData::focusOutEvent(QFocusEvent* evento)
+{
+    if (testo().isEmpty()) {
+        setInputMask({});
+        clear();
+    }
+    QLineEdit::focusOutEvent(evento);
+}
+
+} // namespace giacenza

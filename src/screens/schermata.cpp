@@ -1,0 +1,269 @@
+#include "screens/schermata.h"
+
+#include "component/impostazioni.h"
+#include "component/orologio.h"
+#include "component/servizi.h"
+#include "data/istruzioni.h"
+#include "screens/campi.h"
+#include "screens/campodata.h"
+#include "screens/porto.h"
+#include "screens/tasti.h"
+
+#include <giacenza/RicercaTabella.h>
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include <stdexcept>
+
+namespace giacenza {
+
+namespace {
+
+/// Ends the handlers of a screen that was closed under them; told to nobody.
+struct Abbandono
+{};
+
+} // namespace
+
+Schermata::Schermata(const QString& nome) : mConvalida(new Convalida(this))
+{
+    setObjectName(nome);
+    setAttribute(Qt::WA_QuitOnClose, false);
+}
+
+Schermata::~Schermata() = default;
+
+template<class Controllo>
+Controllo* Schermata::trova(const char* nome) const
+{
+    auto* controllo = findChild<Controllo*>(QLatin1String(nome));
+    if (!controllo)
+        throw std::logic_error(std::string("the form has no control of the name ") + nome);
+    return controllo;
+}
+
+void Schermata::preparaComuni(const MappaSpedizione& mappa)
+{
+    mMappa = &mappa;
+    mCampi = new CampiSchermata(this, mappa);
+    txtCodiceCli = trova<QLineEdit>("txtCodiceCli");
+    barCliente = trova<QLabel>("barCliente");
+    cmdCercaCliente = trova<QPushButton>("cmdCercaCliente");
+    txtFilialeGia = trova<QLineEdit>("txtFilialeGia");
+    barFilialeGia = trova<QLabel>("barFilialeGia");
+    txtDataGia = trova<CampoData>("txtDataGia");
+    lblDataLav = trova<QLabel>("lblDataLav");
+    lblDataBuonFine = trova<QLabel>("lblDataBuonFine");
+    lblNrGia = trova<QLabel>("lblNrGia");
+    barGiorniSosta = trova<QLabel>("barGiorniSosta");
+    cmbNaturaMerce = trova<QComboBox>("cmbNaturaMerce");
+    cmbPorto = trova<QComboBox>("cmbPorto");
+    mStato = trova<QLabel>("lblStato");
+
+    auto* cmdEsci = trova<QPushButton>("cmdEsci");
+    connect(cmdEsci, &QPushButton::clicked, this, &QWidget::close);
+    mConvalida->esenta(cmdEsci);
+    mConvalida->aggiungi(txtDataGia, [this] { return convalidaDataGia(); });
+    collegaCliente();
+    collegaTasti();
+}
+
+void Schermata::collegaCliente()
+{
+    mConvalida->aggiungi(txtCodiceCli, [this] { return convalidaCliente(); });
+    connect(txtCodiceCli, &QLineEdit::returnPressed, this, [this] { cmdCercaCliente->setFocus(); });
+}
+
+void Schermata::collegaTasti()
+{
+    suTasto(txtFilialeGia, Qt::Key_F12, gestore([this] { cercaFiliale(); }));
+    suTasto(cmbNaturaMerce, Qt::Key_F11, gestore([this] {
+                AggiungiNaturaMerce(cmbNaturaMerce);
+                CaricaNaturaMerce(cmbNaturaMerce);
+            }));
+}
+
+void Schermata::carica()
+{
+    connessione();
+    CaricaNaturaMerce(cmbNaturaMerce);
+    caricaPorto();
+    const QString oggiBreve = dataBreve(oggi());
+    scrivi(txtDataGia, oggiBreve);
+    scrivi(lblDataLav, oggiBreve);
+}
+
+void Schermata::caricaPorto()
+{
+    try {
+        CaricaPorto(cmbPorto, connessione());
+    } catch (const ErroreDatabase& errore) {
+        stato(QStringLiteral("I termini di porto non si leggono: %1").arg(errore.testo()));
+    }
+}
+
+Connessione& Schermata::connessione()
+{
+    mConnessione.apri(impostazioni().percorsoDatabase);
+    return mConnessione;
+}
+
+void Schermata::stato(const QString& testo)
+{
+    mStato->setText(testo);
+}
+
+std::function<void()> Schermata::gestore(std::function<void()> azione)
+{
+    return [this, azione = std::move(azione)] {
+        try {
+            try {
+                azione();
+            } catch (const Errore& errore) {
+                guasto(errore);
+            }
+        } catch (const Abbandono&) {
+            // The screen is gone: there is nobody to tell.
+        }
+    };
+}
+
+void Schermata::restaAperta(const QPointer<const Schermata>& io) const
+{
+    if (!io || io->mUscita)
+        throw Abbandono{};
+}
+
+Risposta Schermata::messaggio(const QString& testo, Stile stile, const QString& titolo)
+{
+    const QPointer<const Schermata> io(this);
+    const Risposta risposta = mostraMessaggio(this, {testo, stile, titolo});
+    restaAperta(io);
+    return risposta;
+}
+
+void Schermata::guasto(const Errore& errore)
+{
+    stato(errore.testo());
+    messaggio(QStringLiteral("Operazione non riuscita: il database o un suo dato non risponde come dovrebbe.\n\n%1")
+                  .arg(errore.testo()),
+              Stile::critico, titoloGestione());
+}
+
+Seguito Schermata::rifiuta(QWidget* campo, const QString& testo, Stile stile, const QString& titolo)
+{
+    return gestore([this, campo, testo, stile, titolo] {
+        messaggio(testo, stile, titolo);
+        campo->setFocus();
+    });
+}
+
+bool Schermata::event(QEvent* evento)
+{
+    if (evento->type() == QEvent::WindowActivate)
+        attivata();
+    return QWidget::event(evento);
+}
+
+void Schermata::attivata()
+{
+    SempreInPrimoPiano(this, true);
+}
+
+void Schermata::closeEvent(QCloseEvent* evento)
+{
+    evento->accept();
+    if (mUscita)
+        return;
+    mUscita = true;
+    mConvalida->sospendi();
+    mConnessione.chiudi();
+    hide();
+    deleteLater();
+    Q_EMIT Uscita();
+}
+
+bool Schermata::mostraSpedizione(const QString& istruzione)
+{
+    Recordset riga;
+    riga.apri(connessione(), istruzione);
+    if (riga.bof() || riga.eof())
+        return false;
+    CaricaDatiSpedizione(riga, *mMappa, *mCampi);
+    riga.chiudi();
+    leggiFilialeGia();
+    CalcolaGiorniSosta();
+    return true;
+}
+
+void Schermata::CalcolaGiorniSosta()
+{
+    if (const auto inizio = leggiData(testo(txtDataGia)))
+        scrivi(barGiorniSosta, QString::number(giorniSosta(*inizio, testo(lblDataBuonFine), oggi())));
+}
+
+Seguito Schermata::convalidaDataGia()
+{
+    const QString digitata = testo(txtDataGia);
+    if (!digitata.isEmpty() && !eData(digitata))
+        return rifiuta(txtDataGia, QStringLiteral("Controllare l'immissione della data giacenza."), Stile::avviso);
+    CalcolaGiorniSosta();
+    return {};
+}
+
+Seguito Schermata::convalidaCliente()
+{
+    const QString codice = txtCodiceCli->text();
+    if (codice.isEmpty() || txtCodiceCli->isReadOnly())
+        return {};
+    if (!eNumero(codice))
+        return rifiuta(txtCodiceCli, QStringLiteral("Codice cliente assente o errato"), Stile::avviso);
+    try {
+        Recordset cliente;
+        cliente.apri(connessione(), istruzioni::clientePerCodice(codice));
+        if (cliente.eof())
+            return gestore([this] {
+                messaggio(QStringLiteral("Codice Cliente Inesistente"), Stile::informazione, titoloGestione());
+            });
+        scrivi(barCliente, cliente.valore(0).value_or(QString()));
+        txtCodiceCli->setReadOnly(true);
+    } catch (const ErroreDatabase& errore) {
+        stato(errore.testo());
+    }
+    return {};
+}
+
+void Schermata::cercaFiliale()
+{
+    const auto ricerca = creaParteDi<RicercaTabella>(QString::fromUtf16(classeRicercaTabella));
+    if (!ricerca.parte)
+        return stato(ricerca.motivo);
+    ricerca.parte->setPercorsoDatabase(impostazioni().percorsoDatabase);
+    ricerca.parte->setScelta([this](const QStringList& valori) {
+        scrivi(txtFilialeGia, valori.value(0));
+        scrivi(barFilialeGia, valori.value(1));
+    });
+    const QPointer<const Schermata> io(this);
+    ricerca.parte->mostra(istruzioni::elencoFiliali(), QStringLiteral("Ricerca Filiale"), this);
+    restaAperta(io);
+}
+
+void Schermata::leggiFilialeGia()
+{
+    const QString codice = testo(txtFilialeGia);
+    if (codice.isEmpty())
+        return;
+    try {
+        Recordset filiale;
+        filiale.apri(connessione(), istruzioni::descrizioneFiliale(codice));
+        if (!filiale.eof())
+            scrivi(barFilialeGia, filiale.valore(0).value_or(QString()));
+    } catch (const ErroreDatabase& errore) {
+        stato(errore.testo());
+    }
+}
+
+} // namespace giacenza

@@ -1,0 +1,116 @@
+#pragma once
+
+#include "component/messaggi.h"
+#include "data/connessione.h"
+#include "data/recordset.h"
+#include "screens/convalida.h"
+
+#include <QDate>
+#include <QPointer>
+#include <QWidget>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace giacenza {
+
+class CampiSchermata;
+class CampoData;
+
+/// What the three working screens share: the connection, the status line, staying on top, leaving, and the handlers of
+/// the customer code, the holding branch, the held-shipment date and the goods type. A screen's form holds the controls
+/// under these names; what differs between screens is an override.
+class Schermata : public QWidget
+{
+    Q_OBJECT
+
+public:
+    ~Schermata() override;
+
+    /// Opens the screen's connection and fills what does not depend on a shipment. Called once, before the screen is
+    /// shown; throws ErroreDatabase unchanged.
+    virtual void carica();
+
+Q_SIGNALS:
+    /// The operator has left: the connection is closed, and the screen goes by itself.
+    void Uscita();
+
+protected:
+    explicit Schermata(const QString& nome);
+
+    /// Finds the shared controls and connects their handlers; for the constructors, once the form is set up.
+    void preparaComuni(const MappaSpedizione& mappa);
+
+    /// The screen's connection, opened when it is closed. Throws ErroreDatabase.
+    Connessione& connessione();
+
+    /// What the screen says where no message box is due; empty clears it.
+    void stato(const QString& testo);
+
+    /// Makes a handler of what a control starts: a database failure is told, and a screen that was closed under its own
+    /// message or dialog ends the handler without a word.
+    std::function<void()> gestore(std::function<void()> azione);
+
+    /// For handlers: to be called after every dialog; ends the handler when the screen was closed meanwhile.
+    void restaAperta(const QPointer<const Schermata>& io) const;
+
+    /// A message over the screen.
+    Risposta messaggio(const QString& testo, Stile stile, const QString& titolo = titoloApplicazione());
+
+    /// Tells a database failure that no rule of the screen's gives another answer to.
+    void guasto(const Errore& errore);
+
+    /// A refusal of a field: the message, then the focus back in the field.
+    Seguito rifiuta(QWidget* campo, const QString& testo, Stile stile, const QString& titolo = titoloApplicazione());
+
+    /// The screen became the active window.
+    virtual void attivata();
+
+    /// Fills the screen from the first row of a lookup. Returns false, with the screen as it is, when there is none.
+    /// Throws ErroreDatabase.
+    bool mostraSpedizione(const QString& istruzione);
+
+    /// Writes the storage days into their bar: nothing when the held-shipment date is no date.
+    void CalcolaGiorniSosta();
+
+    /// Finds the customer of the code field and locks the field; without one says so.
+    Seguito convalidaCliente();
+
+    bool event(QEvent* evento) override;
+    void closeEvent(QCloseEvent* evento) override;
+
+    Convalida* mConvalida;
+    CampiSchermata* mCampi = nullptr;
+    const MappaSpedizione* mMappa = nullptr;
+
+    QLineEdit* txtCodiceCli = nullptr;
+    QLabel* barCliente = nullptr;
+    QPushButton* cmdCercaCliente = nullptr;
+    QLineEdit* txtFilialeGia = nullptr;
+    QLabel* barFilialeGia = nullptr;
+    CampoData* txtDataGia = nullptr;
+    QLabel* lblDataLav = nullptr;
+    QLabel* lblDataBuonFine = nullptr;
+    QLabel* lblNrGia = nullptr;
+    QLabel* barGiorniSosta = nullptr;
+    QComboBox* cmbNaturaMerce = nullptr;
+    QComboBox* cmbPorto = nullptr;
+
+private:
+    template<class Controllo>
+    Controllo* trova(const char* nome) const;
+    void collegaCliente();
+    void collegaTasti();
+    Seguito convalidaDataGia();
+    void cercaFiliale();
+    void leggiFilialeGia();
+    void caricaPorto();
+
+    Connessione mConnessione;
+    QLabel* mStato = nullptr;
+    bool mUscita = false;
+};
+
+} // namespace giacenza
