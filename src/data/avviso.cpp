@@ -2,7 +2,7 @@
 
 #include "data/recordset.h"
 
-#include <array>
+#include <limits>
 
 namespace giacenza {
 
@@ -27,32 +27,34 @@ StatoAvviso LeggiDatiAvviso(const QString& stringa, const ChiaveCaso& chiave)
     return {stato.valore(0).value_or(QString()), stato.valore(1).value_or(QString())};
 }
 
-QString istruzioneSuccessivo(const ChiaveCaso& chiave, int numero, QDate oggi, const QString& descrizione)
+QString istruzioneSuccessivo(const ChiaveCaso& chiave, qint16 numero, QDate oggi, const QString& descrizione)
 {
     if (const auto* giacenza = std::get_if<ChiaveGiacenza>(&chiave))
-        return istruzioni::avvisoSuccessivo(*giacenza, numero, oggi, descrizione);
+        return istruzioni::avvisoSuccessivo(*giacenza, numero, oggi, RaddoppiaApice(descrizione));
     return istruzioni::avvisoSuccessivo(std::get<ChiaveSpedizione>(chiave), numero, oggi);
 }
 
 } // namespace
 
-ContoAvviso contaAvviso(Connessione& connessione, const QString& stringa, const ChiaveCaso& chiave, QDate oggi,
-                        const QString& descrizione)
+ContoAvviso contaAvviso(Connessione& connessione, const QString& stringa, const ChiaveCaso& chiave,
+                        QDate oggi, const QString& descrizione)
 {
     const StatoAvviso stato = LeggiDatiAvviso(stringa, chiave);
     if (stato.numero.isEmpty()) {
-        connessione.esegui(std::visit([&](const auto& c) { return istruzioni::primoAvviso(c, oggi); }, chiave));
+        connessione.esegui(
+            std::visit([&](const auto& c) { return istruzioni::primoAvviso(c, oggi); }, chiave));
         return ContoAvviso::primo;
     }
     const auto ultimo = leggiData(stato.data);
     if (!ultimo)
-        throw ErroreConversione(QStringLiteral("La data dell'ultimo avviso non è una data: %1").arg(stato.data));
+        throw ErroreConversione(
+            QStringLiteral("La data dell'ultimo avviso non è una data: %1").arg(stato.data));
     if (*ultimo >= oggi)
         return ContoAvviso::stessoGiorno;
     const int numero = intero16(stato.numero) + 1;
     if (numero > std::numeric_limits<qint16>::max())
         throw ErroreConversione(QStringLiteral("Il numero degli avvisi è troppo grande: %1").arg(numero));
-    connessione.esegui(istruzioneSuccessivo(chiave, numero, oggi, descrizione));
+    connessione.esegui(istruzioneSuccessivo(chiave, static_cast<qint16>(numero), oggi, descrizione));
     return ContoAvviso::successivo;
 }
 

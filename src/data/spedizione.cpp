@@ -35,11 +35,14 @@ MappaSpedizione creaMappaGestione()
 {
     MappaSpedizione mappa = mappaRegistrazione();
     const auto inizio = std::next(mappa.begin());
-    const auto fine = std::find_if(inizio, mappa.end(),
-                                   [](const PassoSpedizione& p) { return stessaColonna(p.colonna, u"lefili"); });
+    const auto fine = std::find_if(
+        inizio, mappa.end(), [](const PassoSpedizione& p) { return stessaColonna(p.colonna, u"lefili"); });
     const auto dove = mappa.erase(inizio, fine);
-    mappa.insert(dove, {{u"lenrlv", "txtLDV", testo}, {u"leanlv", "txtAnnoLdv", testo}, {u"lerifd", "txtAnnoRif", anno}});
-    std::erase_if(mappa, [](const PassoSpedizione& p) { return std::string_view(p.controllo) == "txtDataRif"; });
+    mappa.insert(
+        dove,
+        {{u"lenrlv", "txtLDV", testo}, {u"leanlv", "txtAnnoLdv", testo}, {u"lerifd", "txtAnnoRif", anno}});
+    std::erase_if(mappa,
+                  [](const PassoSpedizione& p) { return std::string_view(p.controllo) == "txtDataRif"; });
     return mappa;
 }
 
@@ -168,7 +171,8 @@ const MappaSpedizione& mappaRiconsegna()
     return mappa;
 }
 
-void CaricaDatiSpedizione(const Recordset& riga, const MappaSpedizione& mappa, DestinazioneSpedizione& schermo)
+void CaricaDatiSpedizione(const Recordset& riga, const MappaSpedizione& mappa,
+                          DestinazioneSpedizione& schermo)
 {
     for (const PassoSpedizione& passo : mappa) {
         try {

@@ -29,9 +29,10 @@ public:
     virtual void giaInGiacenza(bool giacente) = 0;
 };
 
-/// What is done with a column on its way to its control. A null, or a value that cannot be converted, leaves the
-/// control as it was, but for the kinds that say otherwise.
-enum class Conversione {
+/// What is done with a column on its way to its control. A null, or a value that cannot be converted, leaves
+/// the control as it was, but for the kinds that say otherwise.
+enum class Conversione
+{
     marca,       ///< the already-held mark: held when the value is a number
     svuota,      ///< no column: the control is emptied
     tag,         ///< kept by the control, not shown
@@ -39,10 +40,10 @@ enum class Conversione {
     testoOVuoto, ///< the text, empty for null
     numero,      ///< an amount or a count with the Italian comma
     numeroOVuoto,
-    data,        ///< a day as "dd/mm/yyyy"
-    dataOVuota,  ///< the same, empty for null: the masked field is cleared before it is given the date
-    anno,        ///< the year of a day
-    posizione,   ///< the 1-based position in a list
+    data,       ///< a day as "dd/mm/yyyy"
+    dataOVuota, ///< the same, empty for null: the masked field is cleared before it is given the date
+    anno,       ///< the year of a day
+    posizione,  ///< the 1-based position in a list
 };
 
 struct PassoSpedizione
@@ -59,12 +60,13 @@ const MappaSpedizione& mappaRegistrazione();
 const MappaSpedizione& mappaGestione();
 const MappaSpedizione& mappaRiconsegna();
 
-/// Fills a screen from the current row. Errors are ignored step by step: a value that cannot be put into its control
-/// leaves that control as it was.
-void CaricaDatiSpedizione(const Recordset& riga, const MappaSpedizione& mappa, DestinazioneSpedizione& schermo);
+/// Fills a screen from the current row. Errors are ignored step by step: a value that cannot be put into its
+/// control leaves that control as it was.
+void CaricaDatiSpedizione(const Recordset& riga, const MappaSpedizione& mappa,
+                          DestinazioneSpedizione& schermo);
 
-/// Whole calendar days from the day the goods were put in storage to the closure, or to oggi while the case is open;
-/// negative when the shipment was put in storage after that.
+/// Whole calendar days from the day the goods were put in storage to the closure, or to oggi while the case
+/// is open; negative when the shipment was put in storage after that.
 ///
 /// dataBuonFine: the closure date's text, empty or no date while the case is open.
 int giorniSosta(QDate dataGiacenza, const QString& dataBuonFine, QDate oggi);

@@ -11,9 +11,9 @@ namespace giacenza {
 
 /// What a control of a screen shows, whatever its kind: a line or masked field, a text box, a list, a label.
 ///
-/// A control that was filled from a row and has nothing in the next one keeps showing its old value, dimmed: a
-/// left-over of another waybill. Every routine that reads it takes it as empty. Typing in it, or writing it, takes the
-/// mark away.
+/// A control that was filled from a row and has nothing in the next one keeps showing its old value, dimmed:
+/// a left-over of another waybill. Every routine that reads it takes it as empty. Typing in it, or writing
+/// it, takes the mark away.
 
 /// The text that counts: empty for a left-over. Line ends are LF.
 QString testo(const QWidget* controllo);
@@ -28,8 +28,8 @@ QString numeroLdv(const QLineEdit* campo);
 /// The number found by the last lookup.
 QString tag(const QLineEdit* campo);
 
-/// Fills the controls of a screen, found by object name, from a row. Every control that it may mark is watched for
-/// typing from the constructor on.
+/// Fills the controls of a screen, found by object name, from a row. Every control that it may mark is
+/// watched for typing from the constructor on.
 class CampiSchermata : public QObject, public DestinazioneSpedizione
 {
     Q_OBJECT

@@ -19,16 +19,17 @@ CampoData::CampoData(QWidget* parent) : QLineEdit(parent)
 
 QString CampoData::testo() const
 {
-    // text() drops the mask's blanks and shifts nothing back: only what is displayed tells an incomplete date.
+    // text() drops the mask's blanks and shifts nothing back: only what is displayed tells an incomplete
+    // date.
     const QString mostrato = displayText();
     return mostrato == mascheraVuota ? QString() : mostrato;
 }
 
-void CampoData::imposta(const QString& data)
+void CampoData::imposta(const QString& giorno)
 {
     // Without the mask any text stands as it is: it is only set for typing, over what is there.
-    setInputMask(data.isEmpty() || !hasFocus() ? QString() : maschera);
-    setText(data);
+    setInputMask(giorno.isEmpty() || !hasFocus() ? QString() : maschera);
+    setText(giorno);
 }
 
 void CampoData::focusInEvent(QFocusEvent* evento)

@@ -4,8 +4,8 @@
 
 namespace giacenza {
 
-/// A masked date field: "dd/mm/yyyy" is typed into "__/__/____", which stands while the field has the focus. Left
-/// untouched it reads empty.
+/// A masked date field: "dd/mm/yyyy" is typed into "__/__/____", which stands while the field has the focus.
+/// Left untouched it reads empty.
 class CampoData : public QLineEdit
 {
     Q_OBJECT
@@ -13,12 +13,13 @@ class CampoData : public QLineEdit
 public:
     explicit CampoData(QWidget* parent = nullptr);
 
-    /// What the field holds: empty when nothing was typed, else as displayed; a half-filled mask keeps its blanks
+    /// What the field holds: empty when nothing was typed, else as displayed; a half-filled mask keeps its
+    /// blanks
     /// ("12/__/2026"), so that it is no date.
     QString testo() const;
 
-    /// Shows a date, "dd/mm/yyyy"; empty clears the field.
-    void imposta(const QString& data);
+    /// Shows a date, "dd/mm/yyyy"; giorno empty clears the field.
+    void imposta(const QString& giorno);
 
 protected:
     void focusInEvent(QFocusEvent* evento) override;

@@ -17,9 +17,10 @@ using Verifica = std::function<Seguito()>;
 
 /// Runs the checks of a screen's fields when they lose the focus.
 ///
-/// A check does not run when the focus leaves because another window or a popup came, because the program disabled the
-/// field, or because the operator leaves the screen. What a check gives back runs once the focus has moved; the click
-/// that moved it is swallowed, so that the button under it does not act on what was refused.
+/// A check does not run when the focus leaves because another window or a popup came, because the program
+/// disabled the field, or because the operator leaves the screen. What a check gives back runs once the focus
+/// has moved; the click that moved it is swallowed, so that the button under it does not act on what was
+/// refused.
 class Convalida : public QObject
 {
     Q_OBJECT

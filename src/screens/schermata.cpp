@@ -148,9 +148,10 @@ Risposta Schermata::messaggio(const QString& testo, Stile stile, const QString& 
 void Schermata::guasto(const Errore& errore)
 {
     stato(errore.testo());
-    messaggio(QStringLiteral("Operazione non riuscita: il database o un suo dato non risponde come dovrebbe.\n\n%1")
-                  .arg(errore.testo()),
-              Stile::critico, titoloGestione());
+    messaggio(
+        QStringLiteral("Operazione non riuscita: il database o un suo dato non risponde come dovrebbe.\n\n%1")
+            .arg(errore.testo()),
+        Stile::critico, titoloGestione());
 }
 
 Seguito Schermata::rifiuta(QWidget* campo, const QString& testo, Stile stile, const QString& titolo)
@@ -209,7 +210,8 @@ Seguito Schermata::convalidaDataGia()
 {
     const QString digitata = testo(txtDataGia);
     if (!digitata.isEmpty() && !eData(digitata))
-        return rifiuta(txtDataGia, QStringLiteral("Controllare l'immissione della data giacenza."), Stile::avviso);
+        return rifiuta(txtDataGia, QStringLiteral("Controllare l'immissione della data giacenza."),
+                       Stile::avviso);
     CalcolaGiorniSosta();
     return {};
 }
@@ -226,7 +228,8 @@ Seguito Schermata::convalidaCliente()
         cliente.apri(connessione(), istruzioni::clientePerCodice(codice));
         if (cliente.eof())
             return gestore([this] {
-                messaggio(QStringLiteral("Codice Cliente Inesistente"), Stile::informazione, titoloGestione());
+                messaggio(QStringLiteral("Codice Cliente Inesistente"), Stile::informazione,
+                          titoloGestione());
             });
         scrivi(barCliente, cliente.valore(0).value_or(QString()));
         txtCodiceCli->setReadOnly(true);

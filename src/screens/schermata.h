@@ -19,9 +19,9 @@ namespace giacenza {
 class CampiSchermata;
 class CampoData;
 
-/// What the three working screens share: the connection, the status line, staying on top, leaving, and the handlers of
-/// the customer code, the holding branch, the held-shipment date and the goods type. A screen's form holds the controls
-/// under these names; what differs between screens is an override.
+/// What the three working screens share: the connection, the status line, staying on top, leaving, and the
+/// handlers of the customer code, the holding branch, the held-shipment date and the goods type. A screen's
+/// form holds the controls under these names; what differs between screens is an override.
 class Schermata : public QWidget
 {
     Q_OBJECT
@@ -29,8 +29,8 @@ class Schermata : public QWidget
 public:
     ~Schermata() override;
 
-    /// Opens the screen's connection and fills what does not depend on a shipment. Called once, before the screen is
-    /// shown; throws ErroreDatabase unchanged.
+    /// Opens the screen's connection and fills what does not depend on a shipment. Called once, before the
+    /// screen is shown; throws ErroreDatabase unchanged.
     virtual void carica();
 
 Q_SIGNALS:
@@ -49,8 +49,8 @@ protected:
     /// What the screen says where no message box is due; empty clears it.
     void stato(const QString& testo);
 
-    /// Makes a handler of what a control starts: a database failure is told, and a screen that was closed under its own
-    /// message or dialog ends the handler without a word.
+    /// Makes a handler of what a control starts: a database failure is told, and a screen that was closed
+    /// under its own message or dialog ends the handler without a word.
     std::function<void()> gestore(std::function<void()> azione);
 
     /// For handlers: to be called after every dialog; ends the handler when the screen was closed meanwhile.
@@ -63,13 +63,14 @@ protected:
     void guasto(const Errore& errore);
 
     /// A refusal of a field: the message, then the focus back in the field.
-    Seguito rifiuta(QWidget* campo, const QString& testo, Stile stile, const QString& titolo = titoloApplicazione());
+    Seguito rifiuta(QWidget* campo, const QString& testo, Stile stile,
+                    const QString& titolo = titoloApplicazione());
 
     /// The screen became the active window.
     virtual void attivata();
 
-    /// Fills the screen from the first row of a lookup. Returns false, with the screen as it is, when there is none.
-    /// Throws ErroreDatabase.
+    /// Fills the screen from the first row of a lookup. Returns false, with the screen as it is, when there
+    /// is none. Throws ErroreDatabase.
     bool mostraSpedizione(const QString& istruzione);
 
     /// Writes the storage days into their bar: nothing when the held-shipment date is no date.
