@@ -62,8 +62,8 @@ void frmGiacenza::eseguiConsegna()
 {
     if (!isVisible() || !std::exchange(mConsegnaPendente, false))
         return;
-    const auto data = leggiData(mDataLdv);
-    if (mNLettVett.isEmpty() || mFiliale.isEmpty() || mCodiceCliente.isEmpty() || !data)
+    const auto giorno = leggiData(mDataLdv);
+    if (mNLettVett.isEmpty() || mFiliale.isEmpty() || mCodiceCliente.isEmpty() || !giorno)
         return;
     // The code of an earlier hand-over is locked: this one's takes its place.
     txtCodiceCli->setReadOnly(false);
@@ -71,7 +71,7 @@ void frmGiacenza::eseguiConsegna()
     if (const Seguito seguito = convalidaCliente())
         seguito();
     scrivi(mUi->txtLDV, mNLettVett);
-    scrivi(mUi->txtDataLdv, dataBreve(*data));
+    scrivi(mUi->txtDataLdv, dataBreve(*giorno));
     scrivi(mUi->txtFiliale, mFiliale);
     ricerca(Chiave::numero);
     mUi->txtDataGia->setFocus();
@@ -121,15 +121,16 @@ void frmGiacenza::ricerca(Chiave chiave)
     const QString numero = perNumero ? numeroLdv(mUi->txtLDV) : mUi->txtRiferimento->text();
     const QString dataScritta = testo(perNumero ? mUi->txtDataLdv : mUi->txtDataRif);
     const QString filiale = mUi->txtFiliale->text();
-    const auto data = leggiData(dataScritta);
+    const auto giorno = leggiData(dataScritta);
     mModificata[static_cast<int>(chiave)] = false;
     PulisciCampi();
-    if (!data)
+    if (!giorno)
         return stato(QStringLiteral("La data non è completa o non è valida: nessuna ricerca."));
     const QString cercata =
         perNumero ? QStringLiteral("LDV %1").arg(numero) : QStringLiteral("Riferimento %1").arg(numero);
-    const QString istruzione = perNumero ? istruzioni::spedizionePerNumeroDataFiliale(numero, *data, filiale)
-                                         : istruzioni::spedizionePerRiferimento(numero, *data, filiale);
+    const QString istruzione = perNumero
+                                   ? istruzioni::spedizionePerNumeroDataFiliale(numero, *giorno, filiale)
+                                   : istruzioni::spedizionePerRiferimento(numero, *giorno, filiale);
     mostra(istruzione,
            QStringLiteral("%1 del %2, filiale %3: non trovata.").arg(cercata, dataScritta, filiale));
 }
@@ -158,10 +159,10 @@ void frmGiacenza::salva()
     CalcolaGiorniSosta();
     Ammissione ammissione;
     try {
-        const auto data = leggiData(testo(mUi->txtDataLdv));
-        if (!data)
+        const auto giorno = leggiData(testo(mUi->txtDataLdv));
+        if (!giorno)
             return stato(QStringLiteral("La data della lettera di vettura non è valida."));
-        ammissione = ControlloInserimento(connessione(), tag(mUi->txtLDV), *data);
+        ammissione = ControlloInserimento(connessione(), tag(mUi->txtLDV), *giorno);
     } catch (const Errore& errore) {
         return stato(errore.testo());
     }
@@ -218,10 +219,10 @@ void frmGiacenza::inserisci()
 
 ChiaveSpedizione frmGiacenza::chiaveCaso() const
 {
-    const auto data = leggiData(testo(mUi->txtDataLdv));
-    if (!data)
+    const auto giorno = leggiData(testo(mUi->txtDataLdv));
+    if (!giorno)
         throw ErroreConversione(QStringLiteral("La data della lettera di vettura non è valida."));
-    return {mUi->txtFiliale->text(), numeroLdv(mUi->txtLDV), data->year()};
+    return {mUi->txtFiliale->text(), numeroLdv(mUi->txtLDV), giorno->year()};
 }
 
 void frmGiacenza::EmettiAvvisoGiacenza()

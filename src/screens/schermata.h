@@ -2,7 +2,7 @@
 
 #include "component/messaggi.h"
 #include "data/connessione.h"
-#include "data/recordset.h"
+#include "data/spedizione.h"
 #include "screens/convalida.h"
 
 #include <QDate>
