@@ -26,7 +26,8 @@ public:
 
     /// Says who makes the form of a name, in place of who did so before; a form that is loaded stays.
     ///
-    /// Classe: made without arguments; a signal Uscita() of its, if it has one, is listened to.
+    /// Classe: made without arguments; a signal Uscita() of its, if it has one, is listened to; its carica(),
+    /// if it has one, is called once before anybody sees the form, and may throw.
     template<class Classe>
     void registra(const QString& nome);
     /// The same for a form that raises no Uscita(). creatore: may throw.
@@ -72,6 +73,8 @@ void Forme::registra(const QString& nome)
             QWidget* uscente = finestra.get();
             connect(finestra.get(), &Classe::Uscita, this, [this, uscente] { esce(uscente); });
         }
+        if constexpr (requires { finestra->carica(); })
+            finestra->carica();
         return finestra;
     });
 }
