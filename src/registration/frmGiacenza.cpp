@@ -66,7 +66,7 @@ void frmGiacenza::eseguiConsegna()
     if (mNLettVett.isEmpty() || mFiliale.isEmpty() || mCodiceCliente.isEmpty() || !giorno)
         return;
     // The code of an earlier hand-over is locked: this one's takes its place.
-    txtCodiceCli->setReadOnly(false);
+    bloccaCliente(false);
     scrivi(txtCodiceCli, mCodiceCliente);
     if (const Seguito seguito = convalidaCliente())
         seguito();
@@ -144,7 +144,6 @@ void frmGiacenza::mostra(const QString& istruzione, const QString& nonTrovata)
 
 void frmGiacenza::segnaGiacenza(bool giacente)
 {
-    mUi->lblGiaInGiacenza->setText(giacente ? QStringLiteral("GIÀ IN GIACENZA") : QString());
     mUi->lblGiaInGiacenza->setVisible(giacente);
 }
 

@@ -26,8 +26,7 @@ void segnaAvanzo(QWidget* controllo, bool avanzo)
     controllo->setProperty(proprietaAvanzo, avanzo);
     controllo->setToolTip(avanzo ? QStringLiteral("Valore di un'altra lettera di vettura: non viene usato.")
                                  : QString());
-    controllo->style()->unpolish(controllo);
-    controllo->style()->polish(controllo);
+    rinnovaAspetto(controllo);
 }
 
 void scriviMostrato(QWidget* controllo, const QString& testo)
@@ -79,6 +78,12 @@ void scrivi(QWidget* controllo, const QString& testo)
 {
     scriviMostrato(controllo, testo);
     proprio(controllo);
+}
+
+void rinnovaAspetto(QWidget* controllo)
+{
+    controllo->style()->unpolish(controllo);
+    controllo->style()->polish(controllo);
 }
 
 bool eAvanzo(const QWidget* controllo)

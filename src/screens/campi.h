@@ -21,6 +21,8 @@ QString testo(const QWidget* controllo);
 QString testoMostrato(const QWidget* controllo);
 /// Writes the text as the program's own: no left-over, and nothing to leave over.
 void scrivi(QWidget* controllo, const QString& testo);
+/// Draws a control anew after one of its properties, on which its looks depend, has changed.
+void rinnovaAspetto(QWidget* controllo);
 bool eAvanzo(const QWidget* controllo);
 
 /// The number of the waybill field: its text if there is one, else the number found, kept in its tag.

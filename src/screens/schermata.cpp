@@ -22,6 +22,15 @@ namespace giacenza {
 
 namespace {
 
+/// What tells a field to type in from one to look at, and a value that counts from one that does not.
+constexpr char16_t aspetto[] = uR"(
+QLineEdit[readOnly="true"], QPlainTextEdit[readOnly="true"] { background-color: palette(window); }
+QComboBox:disabled { color: palette(text); }
+QLabel[barra="true"] { padding: 3px 4px; }
+QLabel#lblGiaInGiacenza { background-color: #a3261b; color: white; font-weight: bold; padding: 3px 10px; }
+*[avanzo="true"] { color: #808080; font-style: italic; }
+)";
+
 /// Ends the handlers of a screen that was closed under them; told to nobody.
 struct Abbandono
 {};
@@ -32,6 +41,7 @@ Schermata::Schermata(const QString& nome) : mConvalida(new Convalida(this))
 {
     setObjectName(nome);
     setAttribute(Qt::WA_QuitOnClose, false);
+    setStyleSheet(QString::fromUtf16(aspetto));
 }
 
 Schermata::~Schermata() = default;
@@ -113,7 +123,8 @@ Connessione& Schermata::connessione()
 
 void Schermata::stato(const QString& testo)
 {
-    mStato->setText(testo);
+    mStato->setText(testo.section(QLatin1Char('\n'), 0, 0));
+    mStato->setToolTip(testo);
 }
 
 std::function<void()> Schermata::gestore(std::function<void()> azione)
@@ -232,11 +243,17 @@ Seguito Schermata::convalidaCliente()
                           titoloGestione());
             });
         scrivi(barCliente, cliente.valore(0).value_or(QString()));
-        txtCodiceCli->setReadOnly(true);
+        bloccaCliente(true);
     } catch (const ErroreDatabase& errore) {
         stato(errore.testo());
     }
     return {};
+}
+
+void Schermata::bloccaCliente(bool bloccato)
+{
+    txtCodiceCli->setReadOnly(bloccato);
+    rinnovaAspetto(txtCodiceCli);
 }
 
 void Schermata::cercaFiliale()

@@ -79,6 +79,9 @@ protected:
     /// Finds the customer of the code field and locks the field; without one says so.
     Seguito convalidaCliente();
 
+    /// Locks the customer code, once it is known to be good, or opens it again.
+    void bloccaCliente(bool bloccato);
+
     bool event(QEvent* evento) override;
     void closeEvent(QCloseEvent* evento) override;
 
