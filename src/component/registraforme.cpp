@@ -1,13 +1,9 @@
 #include "component/registraforme.h"
 
 #include "component/forme.h"
-#include "registration/frmGiacenza.h"
 
 namespace giacenza {
 
-void registraForme(Forme& forme)
-{
-    forme.registra<frmGiacenza>(QStringLiteral("frmGiacenza"));
-}
+void registraForme([[maybe_unused]] Forme& forme) {}
 
 } // namespace giacenza
