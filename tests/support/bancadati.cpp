@@ -1,0 +1,221 @@
+#include "support/bancadati.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QUuid>
+
+#include <stdexcept>
+
+namespace giacenza::prove {
+
+namespace {
+
+QString leggiFile(const QString& percorso, const char* perche)
+{
+    QFile file(percorso);
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error("Non si legge " + percorso.toStdString() + ": " + perche);
+    return QString::fromUtf8(file.readAll());
+}
+
+QString fileSchema(const QString& nome)
+{
+    return leggiFile(QStringLiteral(GIACENZA_CARTELLA_SCHEMA "/") + nome, "lo schema del database manca.");
+}
+
+Connessione aperta(const QString& stringa)
+{
+    Connessione connessione;
+    connessione.apri(stringa);
+    return connessione;
+}
+
+} // namespace
+
+/// How the databases of one kind are made and thrown away.
+class BancaDati::Motore
+{
+public:
+    Motore() = default;
+    Motore(const Motore&) = delete;
+    Motore& operator=(const Motore&) = delete;
+    virtual ~Motore() = default;
+    virtual QString stringa() const = 0;
+    virtual QString stringaAmministratore() const = 0;
+};
+
+namespace {
+
+class MotoreSqlite : public BancaDati::Motore
+{
+public:
+    explicit MotoreSqlite(Contenuto contenuto)
+    {
+        if (!mCartella.isValid())
+            throw std::runtime_error("Non si crea una cartella: " + mCartella.errorString().toStdString());
+        Connessione connessione = aperta(MotoreSqlite::stringa());
+        connessione.esegui(QStringLiteral("pragma journal_mode=wal"));
+        // Nobody needs the tables of a test after a power cut.
+        connessione.esegui(QStringLiteral("pragma synchronous=off"));
+        if (contenuto == Contenuto::schema)
+            eseguiTutte(connessione, fileSchema(QStringLiteral("sqlite.sql")));
+    }
+
+    QString stringa() const override
+    {
+        return QStringLiteral("DRIVER={SQLite3};Database=%1;StepAPI=1;Timeout=5000;FKSupport=1;LoadExt=%2")
+            .arg(mCartella.filePath(QStringLiteral("prova.db")), QStringLiteral(GIACENZA_ESTENSIONE_SQLITE));
+    }
+
+    QString stringaAmministratore() const override { return stringa(); }
+
+private:
+    QTemporaryDir mCartella;
+};
+
+class MotoreMariadb : public BancaDati::Motore
+{
+public:
+    explicit MotoreMariadb(Contenuto contenuto)
+    {
+        Connessione server = aperta(mServer);
+        server.esegui(QStringLiteral("create database %1 character set utf8mb4").arg(mNome));
+        server.esegui(QStringLiteral("create user %1 identified by '%2'").arg(utente(), mNome));
+        server.esegui(QStringLiteral("use %1").arg(mNome));
+        if (contenuto == Contenuto::vuoto) {
+            server.esegui(
+                QStringLiteral("grant select, insert, update, delete on %1.* to %2").arg(mNome, utente()));
+            return;
+        }
+        eseguiTutte(server, fileSchema(QStringLiteral("mariadb.sql")));
+        QString permessi = fileSchema(QStringLiteral("grants.sql"));
+        permessi.replace(QStringLiteral(":base"), QStringLiteral("`%1`").arg(mNome));
+        permessi.replace(QStringLiteral(":utente"), utente());
+        eseguiTutte(server, permessi);
+    }
+
+    ~MotoreMariadb() override
+    {
+        try {
+            Connessione server = aperta(mServer);
+            server.esegui(QStringLiteral("drop database %1").arg(mNome));
+            server.esegui(QStringLiteral("drop user %1").arg(utente()));
+        } catch (const Errore& errore) {
+            ADD_FAILURE() << "Il database " << mNome.toStdString()
+                          << " non si è potuto eliminare: " << errore.what();
+        }
+    }
+
+    QString stringa() const override
+    {
+        return QStringLiteral("%1;UID=%2;PWD=%2;DATABASE=%2").arg(senzaUtente(), mNome);
+    }
+
+    QString stringaAmministratore() const override
+    {
+        return QStringLiteral("%1;DATABASE=%2").arg(mServer, mNome);
+    }
+
+private:
+    QString utente() const { return QStringLiteral("'%1'@'127.0.0.1'").arg(mNome); }
+
+    QString senzaUtente() const
+    {
+        QStringList pezzi = mServer.split(u';');
+        pezzi.removeIf([](const QString& pezzo) {
+            return pezzo.startsWith(QStringLiteral("UID=")) || pezzo.startsWith(QStringLiteral("PWD="));
+        });
+        return pezzi.join(u';');
+    }
+
+    QString mServer = stringaServer();
+    // Database, user and password: one name of this test alone.
+    QString mNome = QStringLiteral("prova_") + QUuid::createUuid().toString(QUuid::Id128).left(16);
+};
+
+std::unique_ptr<BancaDati::Motore> creaMotore(const std::string& tipo, Contenuto contenuto)
+{
+    if (tipo == "sqlite")
+        return std::make_unique<MotoreSqlite>(contenuto);
+    if (tipo == "mariadb")
+        return std::make_unique<MotoreMariadb>(contenuto);
+    throw std::runtime_error("Un database di tipo \"" + tipo + "\" non esiste.");
+}
+
+} // namespace
+
+QString stringaServer()
+{
+    return leggiFile(QStringLiteral(GIACENZA_CARTELLA_SERVER "/amministratore"),
+                     "il server MariaDB delle prove non è avviato. Lo avvia ctest, per le prove con "
+                     "l'etichetta \"server\"; a mano: tools/mariadb-privato avvia " GIACENZA_CARTELLA_SERVER)
+        .trimmed();
+}
+
+void eseguiTutte(Connessione& connessione, const QString& istruzioni)
+{
+    QStringList righe;
+    const QStringList tutte = istruzioni.split(u'\n');
+    for (const QString& riga : tutte) {
+        if (riga.trimmed().isEmpty() || riga.startsWith(QStringLiteral("--")))
+            continue;
+        righe += riga;
+        if (riga.endsWith(u';')) {
+            connessione.esegui(righe.join(u'\n'));
+            righe.clear();
+        }
+    }
+    if (!righe.isEmpty())
+        connessione.esegui(righe.join(u'\n'));
+}
+
+BancaDati::BancaDati(const std::string& tipo, Contenuto contenuto) : mMotore(creaMotore(tipo, contenuto)) {}
+
+BancaDati::~BancaDati() = default;
+
+QString BancaDati::stringa() const
+{
+    return mMotore->stringa();
+}
+
+Connessione BancaDati::connessione() const
+{
+    return aperta(mMotore->stringa());
+}
+
+Connessione BancaDati::amministratore() const
+{
+    return aperta(mMotore->stringaAmministratore());
+}
+
+void BancaDati::esegui(const QString& istruzioni) const
+{
+    Connessione connessione = amministratore();
+    eseguiTutte(connessione, istruzioni);
+}
+
+Valore BancaDati::leggi(const QString& istruzione) const
+{
+    Connessione connessione = amministratore();
+    Recordset recordset;
+    recordset.apri(connessione, istruzione);
+    return recordset.valore(0);
+}
+
+QList<QStringList> BancaDati::righe(const QString& istruzione) const
+{
+    Connessione connessione = amministratore();
+    Recordset recordset;
+    QList<QStringList> tutte;
+    for (recordset.apri(connessione, istruzione); !recordset.eof(); recordset.successivo()) {
+        QStringList riga;
+        for (int colonna = 0; colonna < recordset.colonne(); ++colonna)
+            riga += recordset.valore(colonna).value_or(QStringLiteral("NULL"));
+        tutte += riga;
+    }
+    return tutte;
+}
+
+} // namespace giacenza::prove
