@@ -66,6 +66,7 @@ void mostraScorrevole(QMessageBox& scatola)
     griglia->removeWidget(etichetta);
     etichetta->hide();
     griglia->addWidget(testo, riga, colonna, righe, colonne);
+    scatola.defaultButton()->setFocus();
 }
 
 bool sempreInPrimoPiano(const QWidget* padre)
@@ -95,6 +96,7 @@ Risposta mostraScatola(QWidget* padre, const Messaggio& messaggio)
     scatola->setTextFormat(Qt::PlainText);
     scatola->setText(messaggio.testo);
     scatola->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    scatola->setAttribute(Qt::WA_QuitOnClose, false);
     scatola->setWindowModality(padre ? Qt::WindowModal : Qt::ApplicationModal);
     if (sempreInPrimoPiano(padre))
         scatola->setWindowFlag(Qt::WindowStaysOnTopHint, true);

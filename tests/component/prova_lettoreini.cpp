@@ -1,0 +1,121 @@
+#include "component/cartellaprova.h"
+#include "component/lettoreini.h"
+#include "component/servizi.h"
+
+using giacenza::impostazioni;
+using giacenza::LeggiIni;
+using giacenza::LettoreIniProprio;
+
+namespace {
+
+class LettoreProprio : public CartellaProva
+{
+protected:
+    QString valore(const char16_t* sezione, const char16_t* chiave)
+    {
+        return LettoreIniProprio().leggi(impostazioni().percorsoFileIni, QString::fromUtf16(sezione),
+                                         QString::fromUtf16(chiave));
+    }
+
+    void scriviIni(const QByteArray& byte) { scrivi(QStringLiteral("gest.ini"), byte); }
+};
+
+class LettoreDellOspite : public giacenza::LettoreIni
+{
+public:
+    QString leggi(const QString& percorsoFile, const QString& sezione, const QString& chiave) override
+    {
+        return percorsoFile + u'|' + sezione + u'|' + chiave;
+    }
+};
+
+} // namespace
+
+TEST_F(LettoreProprio, ilValoreTieneOgniCarattere)
+{
+    scriviIni("[Bord]\nCaptionLbl1 = Ore 8;12, \"via\" C:\\dati\\x ; # fine = 1  \n");
+    EXPECT_EQ(valore(u"Bord", u"CaptionLbl1"), QStringLiteral("Ore 8;12, \"via\" C:\\dati\\x ; # fine = 1"));
+}
+
+TEST_F(LettoreProprio, unValoreLungoNonSiTaglia)
+{
+    const QByteArray lungo(5000, 'x');
+    scriviIni("[Bord]\nCaptionLbl1=" + lungo + "\n");
+    EXPECT_EQ(valore(u"Bord", u"CaptionLbl1"), QString::fromLatin1(lungo));
+}
+
+TEST_F(LettoreProprio, sezioneEChiaveSenzaMaiuscole)
+{
+    scriviIni("[dllSTAMPE]\r\n  identificativodll=Prova\r\n");
+    EXPECT_EQ(valore(u"DLLStampe", u"IdentificativoDll"), QStringLiteral("Prova"));
+}
+
+TEST_F(LettoreProprio, utf8EUtf8ConSegno)
+{
+    scriviIni("[Bord]\nCaptionLbl1=Città – è già lì €\n");
+    EXPECT_EQ(valore(u"Bord", u"CaptionLbl1"), QStringLiteral("Città – è già lì €"));
+    scriviIni("\xEF\xBB\xBF[Bord]\nCaptionLbl1=Città\n");
+    EXPECT_EQ(valore(u"Bord", u"CaptionLbl1"), QStringLiteral("Città"));
+}
+
+TEST_F(LettoreProprio, windows1252)
+{
+    scriviIni("[Bord]\r\nCaptionLbl1=Citt\xE0 \x80 12\r\n");
+    EXPECT_EQ(valore(u"Bord", u"CaptionLbl1"), QStringLiteral("Città € 12"));
+}
+
+TEST_F(LettoreProprio, siRileggeAOgniChiamata)
+{
+    scriviIni("[DLLStampe]\nIdentificativoDll=Uno\n");
+    EXPECT_EQ(valore(u"DLLStampe", u"IdentificativoDll"), QStringLiteral("Uno"));
+    scriviIni("[DLLStampe]\nIdentificativoDll=Due\n");
+    EXPECT_EQ(valore(u"DLLStampe", u"IdentificativoDll"), QStringLiteral("Due"));
+}
+
+TEST_F(LettoreProprio, ciòCheMancaEVuoto)
+{
+    EXPECT_EQ(valore(u"DLLStampe", u"IdentificativoDll"), QString());
+    scriviIni("IdentificativoDll=Prova\n; nessuna sezione\nCaptionLbl1\n");
+    EXPECT_EQ(valore(u"DLLStampe", u"IdentificativoDll"), QString());
+    scriviIni("[DLLStampe]\n;IdentificativoDll=Prova\n[Altra]\nIdentificativoDll=Altra\n");
+    EXPECT_EQ(valore(u"DLLStampe", u"IdentificativoDll"), QString());
+    scriviIni("");
+    EXPECT_EQ(valore(u"DLLStampe", u"IdentificativoDll"), QString());
+}
+
+TEST_F(LettoreProprio, delleChiaviDoppieContaLaPrima)
+{
+    scriviIni("[DLLStampe]\nIdentificativoDll=Prima\nIdentificativoDll=Seconda\n"
+              "[DLLStampe]\nIdentificativoDll=Terza\n");
+    EXPECT_EQ(valore(u"DLLStampe", u"IdentificativoDll"), QStringLiteral("Prima"));
+}
+
+TEST_F(LettoreProprio, laBarraRovesciaSeparaLeCartelle)
+{
+    ASSERT_TRUE(QDir().mkpath(percorso(QStringLiteral("dati"))));
+    scrivi(QStringLiteral("dati/gest.ini"), "[DLLStampe]\nIdentificativoDll=Prova\n");
+    impostazioni().percorsoFileIni = percorso(QStringLiteral("dati\\gest.ini"));
+    EXPECT_EQ(valore(u"DLLStampe", u"IdentificativoDll"), QStringLiteral("Prova"));
+}
+
+TEST_F(LettoreProprio, unaCartellaAlPostoDelFileEVuota)
+{
+    ASSERT_TRUE(QDir().mkpath(impostazioni().percorsoFileIni));
+    EXPECT_EQ(valore(u"DLLStampe", u"IdentificativoDll"), QString());
+}
+
+TEST_F(LettoreProprio, serveDoveNessunoNeRegistraUnAltro)
+{
+    scriviIni("[DLLStampe]\nIdentificativoDll=Prova\n");
+    const QString sezione = QStringLiteral("DLLStampe");
+    const QString chiave = QStringLiteral("IdentificativoDll");
+    EXPECT_EQ(LeggiIni(sezione, chiave), QStringLiteral("Prova"));
+
+    const QString classe = QStringView(giacenza::classeLettoreIni).toString();
+    giacenza::registraParte(classe.toUpper(), [] { return std::make_unique<LettoreDellOspite>(); });
+    EXPECT_EQ(LeggiIni(sezione, chiave),
+              impostazioni().percorsoFileIni + QStringLiteral("|DLLStampe|IdentificativoDll"));
+
+    giacenza::registraParte(classe, {});
+    EXPECT_EQ(LeggiIni(sezione, chiave), QStringLiteral("Prova"));
+}
