@@ -7,7 +7,7 @@
 #include "registration/ui_frmGiacenza.h"
 #include "screens/campi.h"
 #include "screens/stampa.h"
-#include "screens/tasti.h"
+#include "widgets/tasti.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #include "screens/campi.h"
 
-#include "screens/campodata.h"
+#include "widgets/campodata.h"
 
 #include <QComboBox>
 #include <QLabel>

@@ -5,9 +5,9 @@
 #include "component/servizi.h"
 #include "data/istruzioni.h"
 #include "screens/campi.h"
-#include "screens/campodata.h"
 #include "screens/porto.h"
-#include "screens/tasti.h"
+#include "widgets/campodata.h"
+#include "widgets/tasti.h"
 
 #include <giacenza/RicercaTabella.h>
 

@@ -1,4 +1,4 @@
-#include "screens/tasti.h"
+#include "widgets/tasti.h"
 
 #include <QKeySequence>
 #include <QShortcut>

@@ -1,4 +1,4 @@
-#include "screens/campodata.h"
+#include "widgets/campodata.h"
 
 #include <QFocusEvent>
 #include <QMouseEvent>
