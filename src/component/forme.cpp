@@ -10,7 +10,10 @@ std::shared_ptr<Forme> Forme::delThread()
 
 void Forme::registra(const QString& nome, Creatore creatore)
 {
-    mCreatori.insert(nome, std::move(creatore));
+    if (creatore)
+        mCreatori.insert(nome, std::move(creatore));
+    else
+        mCreatori.remove(nome);
 }
 
 bool Forme::registrata(const QString& nome) const

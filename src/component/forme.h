@@ -30,7 +30,8 @@ public:
     /// if it has one, is called once before anybody sees the form, and may throw.
     template<class Classe>
     void registra(const QString& nome);
-    /// The same for a form that raises no Uscita(). creatore: may throw.
+    /// The same for a form that raises no Uscita(). creatore: may throw; an empty one takes the
+    /// registration away.
     void registra(const QString& nome, Creatore creatore);
     bool registrata(const QString& nome) const;
 

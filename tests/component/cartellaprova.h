@@ -1,7 +1,8 @@
 #pragma once
 
 #include "component/impostazioni.h"
-#include "component/messaggi.h"
+#include "support/registromessaggi.h"
+#include "support/stampa.h"
 
 #include <QDir>
 #include <QFile>
@@ -9,29 +10,19 @@
 
 #include <gtest/gtest.h>
 
-#include <vector>
+namespace giacenza::prove {
 
-/// A folder of the test's own that holds the settings file, settings as new, and every message recorded and
-/// answered with OK.
+/// A folder of the test's own that holds the settings file, settings as new, and every message recorded.
 class CartellaProva : public ::testing::Test
 {
 protected:
     CartellaProva()
     {
-        giacenza::impostazioni() = {};
-        giacenza::impostazioni().percorsoFileIni = percorso(QStringLiteral("gest.ini"));
-        mPrima = giacenza::impostaPortaMessaggi([this](QWidget* padre, const giacenza::Messaggio& messaggio) {
-            mPadri.push_back(padre);
-            mMessaggi.push_back(messaggio);
-            return giacenza::Risposta::ok;
-        });
+        impostazioni() = {};
+        impostazioni().percorsoFileIni = percorso(QStringLiteral("gest.ini"));
     }
 
-    ~CartellaProva() override
-    {
-        giacenza::impostaPortaMessaggi(mPrima);
-        giacenza::impostazioni() = {};
-    }
+    ~CartellaProva() override { impostazioni() = {}; }
 
     QString percorso(const QString& nome) const { return mCartella.filePath(nome); }
 
@@ -49,10 +40,10 @@ protected:
         return file.readAll();
     }
 
-    std::vector<giacenza::Messaggio> mMessaggi;
-    std::vector<QWidget*> mPadri;
+    RegistroMessaggi mRegistro;
 
 private:
     QTemporaryDir mCartella;
-    giacenza::PortaMessaggi mPrima;
 };
+
+} // namespace giacenza::prove

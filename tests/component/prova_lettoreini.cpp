@@ -8,7 +8,7 @@ using giacenza::LettoreIniProprio;
 
 namespace {
 
-class LettoreProprio : public CartellaProva
+class LettoreProprio : public giacenza::prove::CartellaProva
 {
 protected:
     QString valore(const char16_t* sezione, const char16_t* chiave)

@@ -208,9 +208,10 @@ TEST_F(Messaggi, laPortaImpostaStaAlPostoDellaScatola)
 TEST_F(Messaggi, iTitoli)
 {
     EXPECT_EQ(giacenza::titoloGestione(), QStringLiteral("Gestione Trasporti"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Deposito di prova"));
-    EXPECT_EQ(giacenza::titoloApplicazione(), QStringLiteral("Deposito di prova"));
-    QApplication::setApplicationDisplayName({});
+    const QString prima = QApplication::applicationDisplayName();
+    QApplication::setApplicationDisplayName(QStringLiteral("Deposito della prova"));
+    EXPECT_EQ(giacenza::titoloApplicazione(), QStringLiteral("Deposito della prova"));
+    QApplication::setApplicationDisplayName(prima);
 }
 
 TEST(PrimoPiano, cambiaLOrdineENientAltro)

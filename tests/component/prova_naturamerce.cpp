@@ -7,9 +7,12 @@
 #include <QComboBox>
 #include <QSignalSpy>
 
+#include <gmock/gmock.h>
+
 using giacenza::AggiungiNaturaMerce;
 using giacenza::CaricaNaturaMerce;
 using giacenza::impostazioni;
+using giacenza::Messaggio;
 using giacenza::percorsoNaturaMerce;
 using giacenza::Stile;
 
@@ -17,10 +20,14 @@ namespace {
 
 const QString lista = QStringLiteral("listbox.dat");
 
-class NaturaMerce : public CartellaProva
+class NaturaMerce : public giacenza::prove::CartellaProva
 {
 protected:
-    NaturaMerce() { mElenco.setEditable(true); }
+    NaturaMerce()
+    {
+        mElenco.setEditable(true);
+        mRegistro.mentreAperto([this](QWidget* padre, const Messaggio&) { EXPECT_EQ(padre, &mElenco); });
+    }
 
     QStringList voci() const
     {
@@ -37,15 +44,13 @@ protected:
         EXPECT_EQ(mElenco.currentText(), testo);
     }
 
+    void nessunMessaggio() { EXPECT_EQ(mRegistro.testi(), QStringList()); }
+
     void unSoloMessaggio(const QString& testo, Stile stile)
     {
-        ASSERT_EQ(mMessaggi.size(), 1U);
-        EXPECT_EQ(mMessaggi[0].testo, testo);
-        EXPECT_EQ(mMessaggi[0].stile, stile);
-        EXPECT_EQ(mMessaggi[0].titolo, QStringLiteral("Gestione Trasporti"));
-        EXPECT_EQ(mPadri[0], &mElenco);
-        mMessaggi.clear();
-        mPadri.clear();
+        const std::vector<Messaggio> mostrati = mRegistro.prendi();
+        EXPECT_THAT(mostrati,
+                    ::testing::ElementsAre(Messaggio{testo, stile, QStringLiteral("Gestione Trasporti")}));
     }
 
     void aggiuntaRifiutata()
@@ -88,7 +93,7 @@ TEST_F(NaturaMerce, senzaFileNonAccadeNulla)
     CaricaNaturaMerce(&mElenco);
     EXPECT_EQ(voci(), QStringList{QStringLiteral("PRIMA")});
     EXPECT_EQ(mElenco.currentText(), QStringLiteral("scritto"));
-    EXPECT_TRUE(mMessaggi.empty());
+    nessunMessaggio();
 }
 
 TEST_F(NaturaMerce, ogniRigaNellOrdineDelFileEIlTestoDiPrima)
@@ -101,7 +106,7 @@ TEST_F(NaturaMerce, ogniRigaNellOrdineDelFileEIlTestoDiPrima)
                                    QStringLiteral("COLLI")}));
     EXPECT_EQ(mElenco.currentText(), QStringLiteral("scritto a mano"));
     EXPECT_EQ(mElenco.currentIndex(), -1);
-    EXPECT_TRUE(mMessaggi.empty());
+    nessunMessaggio();
 }
 
 TEST_F(NaturaMerce, ilTestoDiPrimaSceglieLaSuaRiga)
@@ -169,7 +174,7 @@ TEST_F(NaturaMerce, dieciMegabyte)
     EXPECT_EQ(mElenco.count(), molte.count('\n'));
     aggiungi(QStringLiteral("colli"));
     EXPECT_EQ(leggi(lista), molte + "COLLI\n");
-    EXPECT_TRUE(mMessaggi.empty());
+    nessunMessaggio();
 }
 
 TEST_F(NaturaMerce, unaCartellaAlPostoDellaLista)
@@ -199,7 +204,7 @@ TEST_F(NaturaMerce, siAggiungeInMaiuscolo)
     scrivi(lista, "VEDI DDT\n");
     aggiungi(QStringLiteral("caffè in grani"));
     EXPECT_EQ(leggi(lista), "VEDI DDT\nCAFFÈ IN GRANI\n");
-    EXPECT_TRUE(mMessaggi.empty());
+    nessunMessaggio();
     CaricaNaturaMerce(&mElenco);
     EXPECT_EQ(voci(), (QStringList{QStringLiteral("VEDI DDT"), QStringLiteral("CAFFÈ IN GRANI")}));
     EXPECT_EQ(mElenco.currentText(), QStringLiteral("caffè in grani"));
@@ -209,7 +214,7 @@ TEST_F(NaturaMerce, ilFileNuovoCominciaConVediDdt)
 {
     aggiungi(QStringLiteral("Scatole"));
     EXPECT_EQ(leggi(lista), "VEDI DDT\nSCATOLE\n");
-    EXPECT_TRUE(mMessaggi.empty());
+    nessunMessaggio();
 }
 
 TEST_F(NaturaMerce, unaVoceCheCEGiaSiRifiuta)
@@ -283,7 +288,7 @@ TEST_F(NaturaMerce, cartellaCheMancaECartellaCheNonLoE)
 {
     impostazioni().percorsoFileIni = percorso(QStringLiteral("manca/gest.ini"));
     CaricaNaturaMerce(&mElenco);
-    EXPECT_TRUE(mMessaggi.empty());
+    nessunMessaggio();
     aggiungi(QStringLiteral("colli"));
     aggiuntaRifiutata();
 

@@ -28,7 +28,7 @@ const QString classeBuona = QStringLiteral("ReportDocProva.cModuliStampa");
 class ParteVuota : public ParteEsterna
 {};
 
-class Parti : public CartellaProva
+class Parti : public giacenza::prove::CartellaProva
 {
 protected:
     Parti() { qputenv("GIACENZA_PARTI", moduli.toUtf8()); }
