@@ -6,7 +6,7 @@
 stringaSqlite()
 {
     printf 'DRIVER={SQLite3};Database=%s;StepAPI=1;Timeout=5000;FKSupport=1;LoadExt=%s' \
-        "$1" "$COSTRUITO/lib/giacenza/giacenza_sqlite.so"
+        "$1" "$COSTRUITO/lib/giacenza/libgiacenza_sqlite.so"
 }
 
 # What chiudiTutto has to put in order: a child, a folder to remove, a server to stop.
