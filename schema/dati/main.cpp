@@ -1,5 +1,5 @@
-#include "schema/dati/opzioni.h"
 #include "data/valori.h"
+#include "schema/dati/opzioni.h"
 
 #include <QElapsedTimer>
 #include <QLocale>
