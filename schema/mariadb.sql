@@ -79,6 +79,8 @@ create table ekelvorqzt_tabge00f (
     primary key (Riga)
 ) engine = InnoDB default charset = utf8mb4 collate = utf8mb4_general_nopad_ci;
 
+-- The number leads every key in which the branch stands too: a depot may have but one branch, and a key that
+-- starts with it would then pass for a way to the row while it reads the table.
 create table letve00f (
     lefili varchar(10) not null,
     lenrlv varchar(20) character set utf8mb4 collate utf8mb4_nopad_bin not null,
@@ -109,7 +111,7 @@ create table letve00f (
     LERFGI varchar(20) character set utf8mb4 collate utf8mb4_nopad_bin,
     LEANGI smallint,
     LEDTCO date,
-    primary key (lefili, lenrlv, leanlv),
+    primary key (lenrlv, leanlv, lefili),
     key letve_numero (lenrlv, ledtlv, lefili),
     key letve_riferimento (lerife, lerifd, lefili),
     key letve_cliente (lecodi, lefili, lerife, ledtlv),
@@ -140,7 +142,7 @@ create table giace00f (
     GICOFA varchar(10),
     GIVNRG varchar(20) character set utf8mb4 collate utf8mb4_nopad_bin,
     GIVDTG date,
-    primary key (GIFILI, GINRLV, GIANLV),
+    primary key (GINRLV, GIANLV, GIFILI),
     unique key giace_numero (GIANGI, GINRGI),
     key giace_data (GIDTGI, GINRGI)
 ) engine = InnoDB default charset = utf8mb4 collate = utf8mb4_general_nopad_ci;

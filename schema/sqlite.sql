@@ -69,6 +69,8 @@ create table ekelvorqzt_tabge00f (
     DataBorderau date
 );
 
+-- The number leads every key in which the branch stands too: a depot may have but one branch, and a key that
+-- starts with it would then pass for a way to the row while it reads the table.
 create table letve00f (
     lefili varchar(10) not null collate nocase,
     lenrlv varchar(20) not null,
@@ -99,7 +101,7 @@ create table letve00f (
     LERFGI varchar(20),
     LEANGI integer,
     LEDTCO date,
-    primary key (lefili, lenrlv, leanlv)
+    primary key (lenrlv, leanlv, lefili)
 );
 
 create index letve_numero on letve00f (lenrlv, ledtlv, lefili);
@@ -139,7 +141,7 @@ create table giace00f (
     GICOFA varchar(10),
     GIVNRG varchar(20),
     GIVDTG date,
-    primary key (GIFILI, GINRLV, GIANLV)
+    primary key (GINRLV, GIANLV, GIFILI)
 );
 
 create unique index giace_numero on giace00f (GIANGI, GINRGI);

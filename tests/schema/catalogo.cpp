@@ -1,0 +1,138 @@
+#include "catalogo.h"
+
+#include "data/istruzioni.h"
+#include "data/istruzioniricerca.h"
+
+#include <stdexcept>
+
+namespace giacenza::prove {
+
+namespace {
+
+using namespace giacenza::istruzioni;
+using namespace Qt::StringLiterals;
+
+/// The keys of one waybill that is held and has a sender reference.
+struct Campione
+{
+    ChiaveSpedizione spedizione;
+    ChiaveGiacenza giacenza;
+    QDate data;
+    QDate dataGiacenza;
+    QString riferimento;
+    QDate dataRiferimento;
+    QString cliente;
+};
+
+Campione campione(const BancaDati& base)
+{
+    const QList<QStringList> righe = base.righe(
+        u"select gifili, ginrlv, gianlv, ginrgi, giangi, ledtlv, gidtgi, lerife, lerifd, lecodi "
+        "from giace00f inner join letve00f on lefili=gifili and lenrlv=ginrlv and leanlv=gianlv "
+        "where lerife like 'DDT%' and gidtbf is null order by giangi desc, cast(ginrgi as unsigned)"_s);
+    if (righe.isEmpty())
+        throw std::runtime_error("nessuna giacenza nel database");
+    const QStringList& r = righe.first();
+    const auto data = [&r](qsizetype i) { return QDate::fromString(r.at(i), Qt::ISODate); };
+    return {{r.at(0), r.at(1), r.at(2).toInt()},
+            {r.at(3), r.at(4).toInt()},
+            data(5),
+            data(6),
+            r.at(7),
+            data(8),
+            r.at(9)};
+}
+
+std::vector<VoceCatalogo> ricerche(const Campione& c)
+{
+    DatiRicerca dati;
+    dati.cliente = c.cliente;
+    dati.filiale = c.spedizione.filiale;
+    dati.riferimento = c.riferimento;
+    dati.numero = c.spedizione.numero;
+    dati.giacenza = c.giacenza.numero;
+    dati.annoGiacenza = QString::number(c.giacenza.anno);
+    dati.annoCorrente = c.giacenza.anno;
+    DatiRicerca conAnno = dati;
+    conAnno.annoOData = QString::number(c.spedizione.anno);
+    DatiRicerca numero = dati;
+    numero.valore = c.spedizione.numero;
+    DatiRicerca numeroEAnno = numero;
+    numeroEAnno.annoOData = conAnno.annoOData;
+    DatiRicerca riferimento = dati;
+    riferimento.valore = c.riferimento;
+    DatiRicerca giorno = dati;
+    giorno.annoOData = c.dataGiacenza.toString(u"dd/MM/yyyy"_s);
+    return {
+        {u"ricercaApertura 1"_s, ricercaApertura(ModoRicerca::riferimento, dati)},
+        {u"ricercaApertura 1 anno"_s, ricercaApertura(ModoRicerca::riferimento, conAnno)},
+        {u"ricercaApertura 7"_s, ricercaApertura(ModoRicerca::letteraVettura, dati)},
+        {u"ricercaApertura 7 anno"_s, ricercaApertura(ModoRicerca::letteraVettura, conAnno)},
+        {u"ricercaApertura 10"_s, ricercaApertura(ModoRicerca::riconsegne, dati)},
+        {u"ricercaApertura 11"_s, ricercaApertura(ModoRicerca::giacenze, dati)},
+        {u"ricercaVisualizza 1"_s, ricercaVisualizza(ModoRicerca::riferimento, riferimento)},
+        {u"ricercaVisualizza 7"_s, ricercaVisualizza(ModoRicerca::letteraVettura, numero)},
+        {u"ricercaVisualizza 7 anno"_s, ricercaVisualizza(ModoRicerca::letteraVettura, numeroEAnno)},
+        {u"ricercaVisualizza 11"_s, ricercaVisualizza(ModoRicerca::giacenze, giorno)},
+    };
+}
+
+std::vector<VoceCatalogo> letture(const Campione& c)
+{
+    const QString& numero = c.spedizione.numero;
+    return {
+        {u"spedizionePerNumeroDataFiliale"_s,
+         spedizionePerNumeroDataFiliale(numero, c.data, c.spedizione.filiale)},
+        {u"spedizionePerNumeroData esterna"_s,
+         spedizionePerNumeroData(numero, c.data, Giunzione::esternaMinuscola)},
+        {u"spedizionePerNumeroData interna"_s, spedizionePerNumeroData(numero, c.data, Giunzione::interna)},
+        {u"spedizionePerRiferimento"_s,
+         spedizionePerRiferimento(c.riferimento, c.dataRiferimento, c.spedizione.filiale)},
+        {u"spedizionePerGiacenza"_s, spedizionePerGiacenza(c.giacenza.numero, c.dataGiacenza)},
+        {u"spedizioneIntera"_s, spedizioneIntera(c.spedizione)},
+        {u"clientePerCodice"_s, clientePerCodice(c.cliente)},
+        {u"elencoFiliali"_s, elencoFiliali()},
+        {u"descrizioneFiliale"_s, descrizioneFiliale(c.spedizione.filiale)},
+        {u"filialeIntera"_s, filialeIntera(c.spedizione.filiale)},
+        {u"elencoPorto"_s, elencoPorto()},
+        {u"ammissione"_s, ammissione(numero, c.data)},
+        {u"ultimoNumGiacenza"_s, ultimoNumGiacenza()},
+        {u"statoAvviso giacenza"_s, statoAvviso(c.giacenza)},
+        {u"statoAvviso spedizione"_s, statoAvviso(c.spedizione)},
+        {u"istruzioniAvviso"_s, istruzioniAvviso()},
+        {u"dataBuonFine giacenza"_s, dataBuonFine(c.giacenza)},
+        {u"dataBuonFine spedizione"_s, dataBuonFine(c.spedizione)},
+        {u"condizioniFatturazione anno"_s, condizioniFatturazione(numero, c.spedizione.anno)},
+        {u"condizioniFatturazione data"_s, condizioniFatturazione(numero, c.data)},
+        {u"riconsegne"_s, riconsegne(c.giacenza)},
+    };
+}
+
+std::vector<VoceCatalogo> scritture(const Campione& c)
+{
+    const QDate oggi = c.dataGiacenza.addDays(1);
+    return {
+        {u"collegaGiacenza"_s, collegaGiacenza(c.giacenza, c.spedizione.numero, c.spedizione.anno)},
+        {u"aggiornaUltimoNumGiacenza"_s, aggiornaUltimoNumGiacenza(u"90000"_s)},
+        {u"primoAvviso giacenza"_s, primoAvviso(c.giacenza, oggi)},
+        {u"primoAvviso spedizione"_s, primoAvviso(c.spedizione, oggi)},
+        {u"avvisoSuccessivo giacenza"_s, avvisoSuccessivo(c.giacenza, 2, oggi, u"RIFIUTA LA MERCE"_s)},
+        {u"avvisoSuccessivo spedizione"_s, avvisoSuccessivo(c.spedizione, 2, oggi)},
+        {u"chiusura"_s, chiusura(c.giacenza, oggi, u"1"_s)},
+        {u"chiusuraRipetuta"_s, chiusuraRipetuta(c.giacenza, u"1"_s)},
+        {u"salvaCosti"_s, salvaCosti(c.spedizione, u"2,50"_s, u"15"_s)},
+    };
+}
+
+} // namespace
+
+std::vector<VoceCatalogo> catalogo(const BancaDati& base)
+{
+    const Campione c = campione(base);
+    std::vector<VoceCatalogo> tutte = letture(c);
+    for (const auto& altre : {scritture(c), ricerche(c)})
+        tutte.insert(tutte.end(), altre.begin(), altre.end());
+    return tutte;
+}
+
+} // namespace giacenza::prove
