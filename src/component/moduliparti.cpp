@@ -9,6 +9,8 @@
 #include <QPluginLoader>
 
 #include <dlfcn.h>
+#include <elf.h>
+#include <link.h>
 
 namespace giacenza {
 
@@ -24,6 +26,19 @@ QString cartellaPropria()
     if (dladdr(reinterpret_cast<const void*>(&fileModuli), &dove) == 0 || dove.dli_fname == nullptr)
         return QCoreApplication::applicationDirPath();
     return QFileInfo(QFile::decodeName(dove.dli_fname)).absolutePath();
+}
+
+// True for a shared library that has all its bytes: its last table ends within the file.
+bool libreriaIntera(const QString& percorso)
+{
+    QFile file(percorso);
+    ElfW(Ehdr) testata{};
+    if (!file.open(QIODevice::ReadOnly) ||
+        file.read(reinterpret_cast<char*>(&testata), sizeof testata) != sizeof testata)
+        return false;
+    const quint64 fine = testata.e_shoff + quint64(testata.e_shnum) * testata.e_shentsize;
+    return QByteArrayView(testata.e_ident, SELFMAG) == QByteArrayView(ELFMAG, SELFMAG) &&
+           fine <= static_cast<quint64>(file.size());
 }
 
 bool serve(const QJsonObject& metadati, const QString& nomeClasse)
@@ -92,8 +107,13 @@ ParteProvata parteDalModulo(const QString& percorso, const QString& nomeClasse)
     QPluginLoader modulo(percorso);
     modulo.setLoadHints(QLibrary::PreventUnloadHint);
     const QJsonObject metadati = modulo.metaData();
-    if (metadati.isEmpty())
+    if (metadati.isEmpty()) {
+        // Libraries of another kind may lie in the same folder; a file that is none, or half of one, is worth
+        // a word.
+        if (libreriaIntera(percorso))
+            return {};
         return {nullptr, QStringLiteral("non è un modulo leggibile")};
+    }
     if (!serve(metadati, nomeClasse))
         return {};
     const QString iid = metadati.value(QStringLiteral("IID")).toString();

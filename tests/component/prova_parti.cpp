@@ -150,6 +150,13 @@ TEST_F(Parti, fileCheNonEUnModulo)
     EXPECT_NE(creaParte(classeBuona).parte, nullptr);
 }
 
+TEST_F(Parti, unaLibreriaDiAltroGenereNonEUnaCausa)
+{
+    ASSERT_TRUE(QFile::copy(QStringLiteral(GIACENZA_PROVA_LIBRERIA), percorso(QStringLiteral("altra.so"))));
+    qputenv("GIACENZA_PARTI", percorso({}).toUtf8());
+    rifiutata(classeBuona, {});
+}
+
 TEST_F(Parti, moduloTroncato)
 {
     QFile intero(moduli + QStringLiteral("/buono.so"));
