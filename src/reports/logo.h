@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+namespace giacenza::report {
+
+/// The letterhead logo, opaque on white and no larger than paper needs.
+///
+/// percorso: a file, or a folder that holds "logo.gif". A null image when there is none or it cannot be read.
+QImage leggiLogo(const QString& percorso);
+
+} // namespace giacenza::report
