@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace giacenza::stampa {
+
+/// A document's name as a file name, without folder and ending: what is not a letter, a digit, a blank or one
+/// of
+/// "_-." becomes "-", and so does a leading point.
+QString nomeSicuro(const QString& nome);
+
+/// Keeps a PDF in a folder, which is made if it is missing, and returns the file's path.
+///
+/// nome: made safe by nomeSicuro(). The file is nome + ".pdf", or the next free one of "-2", "-3"...: an
+/// earlier document is never replaced. Either the whole file is there under its name, or no file is. Throws
+/// Errore, which names folder or file.
+QString archivia(const QString& cartella, const QString& nome, const QByteArray& byte);
+
+} // namespace giacenza::stampa

@@ -1,0 +1,37 @@
+#include "stampa/pdf.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QPainter>
+#include <QPdfWriter>
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza::stampa {
+
+std::optional<QByteArray> pdf(Documento& documento)
+{
+    constexpr int puntiPerPollice = 1200;
+    QBuffer memoria;
+    memoria.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter scrittore(&memoria);
+        scrittore.setPdfVersion(QPagedPaintDevice::PdfVersion_A1b);
+        scrittore.setResolution(puntiPerPollice);
+        scrittore.setTitle(documento.titolo());
+        scrittore.setCreator(QCoreApplication::applicationName());
+        scrittore.setPageLayout(documento.impaginazione());
+        QPainter pittore(&scrittore);
+        for (int pagina = 0; pagina < documento.pagine() && pittore.isActive(); ++pagina) {
+            if (pagina > 0)
+                scrittore.newPage();
+            if (!documento.dipingi(pagina, pittore))
+                return std::nullopt;
+        }
+    }
+    if (!memoria.data().startsWith("%PDF-") || !memoria.data().trimmed().endsWith("%%EOF"))
+        throw Errore(u"Impossibile comporre il PDF di \"%1\"."_s.arg(documento.titolo()));
+    return memoria.data();
+}
+
+} // namespace giacenza::stampa
