@@ -1,7 +1,9 @@
 #include "catalogo.h"
 
 #include "data/istruzioni.h"
+#include "data/istruzionireport.h"
 #include "data/istruzioniricerca.h"
+#include "data/istruzionisoggetti.h"
 
 #include <stdexcept>
 
@@ -77,6 +79,21 @@ std::vector<VoceCatalogo> ricerche(const Campione& c)
     };
 }
 
+/// The search of a party, on the one table of parties that grows.
+std::vector<VoceCatalogo> soggetti(const Campione& c)
+{
+    const auto voce = [](const QString& nome, CampoSoggetto campo, const QString& parametro) {
+        return VoceCatalogo{u"ricercaSoggetti "_s + nome, ricercaSoggetti(u"Clien"_s, campo), {parametro}};
+    };
+    return {
+        voce(u"codice"_s, CampoSoggetto::codice, c.cliente),
+        voce(u"partitaIva"_s, CampoSoggetto::partitaIva, u"01000000016"_s),
+        voce(u"ragioneSociale"_s, CampoSoggetto::ragioneSociale, modelloSoggetti(u"Ferr"_s, false)),
+        voce(u"localita"_s, CampoSoggetto::localita, modelloSoggetti(u"Milano"_s, false)),
+        voce(u"provincia"_s, CampoSoggetto::provincia, modelloSoggetti(u"MI"_s, false)),
+    };
+}
+
 std::vector<VoceCatalogo> letture(const Campione& c)
 {
     const QString& numero = c.spedizione.numero;
@@ -105,6 +122,9 @@ std::vector<VoceCatalogo> letture(const Campione& c)
         {u"condizioniFatturazione anno"_s, condizioniFatturazione(numero, c.spedizione.anno)},
         {u"condizioniFatturazione data"_s, condizioniFatturazione(numero, c.data)},
         {u"riconsegne"_s, riconsegne(c.giacenza)},
+        {u"giacenzaReport"_s, giacenzaReport(c.giacenza.numero, QString::number(c.giacenza.anno))},
+        {u"spedizioneReport"_s,
+         spedizioneReport(c.spedizione.filiale, numero, QString::number(c.spedizione.anno))},
     };
 }
 
@@ -130,7 +150,7 @@ std::vector<VoceCatalogo> catalogo(const BancaDati& base)
 {
     const Campione c = campione(base);
     std::vector<VoceCatalogo> tutte = letture(c);
-    for (const auto& altre : {scritture(c), ricerche(c)})
+    for (const auto& altre : {scritture(c), ricerche(c), soggetti(c)})
         tutte.insert(tutte.end(), altre.begin(), altre.end());
     return tutte;
 }

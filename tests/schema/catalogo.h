@@ -11,6 +11,7 @@ struct VoceCatalogo
 {
     QString nome; ///< of its function in src/data, a blank, and which of its forms
     QString testo;
+    std::vector<Valore> parametri{}; ///< for each "?" of the text
 };
 
 inline void PrintTo(const VoceCatalogo& voce, std::ostream* uscita)

@@ -74,17 +74,19 @@ QStringList Piano::scansioni() const
     return nomi;
 }
 
-Piano leggiPiano(Connessione& connessione, const QString& istruzione)
+Piano leggiPiano(Connessione& connessione, const QString& istruzione, std::span<const Valore> parametri)
 {
     Piano piano;
     Recordset righe;
     if (connessione.dialetto() == Dialetto::sqlite) {
-        righe.apri(connessione, QStringLiteral("explain query plan ") + istruzione);
+        righe.apri(connessione, QStringLiteral("explain query plan ") + istruzione,
+                   Recordset::Cursore::chiave, parametri);
         for (; !righe.eof(); righe.successivo())
             leggiSqlite(piano, righe.valore(QStringLiteral("detail")).value_or(QString()));
         return piano;
     }
-    righe.apri(connessione, QStringLiteral("explain format=json ") + istruzione);
+    righe.apri(connessione, QStringLiteral("explain format=json ") + istruzione, Recordset::Cursore::chiave,
+               parametri);
     piano.testo = righe.valore(0).value_or(QString());
     leggiMariadb(piano, QJsonDocument::fromJson(piano.testo.toUtf8()).object());
     return piano;

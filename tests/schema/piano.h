@@ -25,6 +25,6 @@ struct Piano
 };
 
 /// Asks the database; the statement is not run. Throws ErroreDatabase.
-Piano leggiPiano(Connessione& connessione, const QString& istruzione);
+Piano leggiPiano(Connessione& connessione, const QString& istruzione, std::span<const Valore> parametri = {});
 
 } // namespace giacenza::prove

@@ -78,7 +78,7 @@ TEST_F(Privilegi, bastanoAOgniIstruzioneDelComponente)
         try {
             Recordset righe;
             if (lettura)
-                righe.apri(mConnessione, voce.testo);
+                righe.apri(mConnessione, voce.testo, Recordset::Cursore::chiave, voce.parametri);
             else
                 EXPECT_GE(mConnessione.esegui(voce.testo), 0);
         } catch (const ErroreDatabase& errore) {
