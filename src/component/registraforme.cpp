@@ -1,9 +1,13 @@
 #include "component/registraforme.h"
 
 #include "component/forme.h"
+#include "registration/frmGiacenza.h"
 
 namespace giacenza {
 
-void registraForme([[maybe_unused]] Forme& forme) {}
+void registraForme(Forme& forme)
+{
+    forme.registra<frmGiacenza>(QStringLiteral("frmGiacenza"));
+}
 
 } // namespace giacenza

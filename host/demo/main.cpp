@@ -1,0 +1,47 @@
+#include "registrazione.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFont>
+
+#include <cstdio>
+
+namespace {
+
+int racconta(const QString& cartella, const QString& database)
+{
+    giacenza::cGiacenza componente;
+    componente.setPercorsoDatabase(database);
+    componente.setPercorsoFileIni(QDir(cartella).filePath(QStringLiteral("giacenza.ini")));
+    componente.setPercorsoLogoIntestazione(QCoreApplication::applicationDirPath());
+    Regista regista(cartella);
+    Archivio archivio(database);
+    raccontaRegistrazione(regista, componente, archivio, cartella);
+    regista.passo(QStringLiteral("Fatto: le righe attese sono in archivio."));
+    return 0;
+}
+
+} // namespace
+
+/// Plays the operator's day on the real screens; exits 0 only when the rows it expects are in the database.
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication applicazione(argc, argv);
+    QApplication::setApplicationDisplayName(QStringLiteral("Gestione Trasporti"));
+    QCommandLineParser opzioni;
+    opzioni.addOptions(
+        {{QStringLiteral("cartella"), QStringLiteral("Dove restano immagini e documenti."),
+          QStringLiteral("cartella")},
+         {QStringLiteral("database"), QStringLiteral("Stringa di connessione."), QStringLiteral("stringa")}});
+    opzioni.addHelpOption();
+    opzioni.process(applicazione);
+    try {
+        return racconta(opzioni.value(QStringLiteral("cartella")), opzioni.value(QStringLiteral("database")));
+    } catch (const std::exception& errore) {
+        std::fprintf(stderr, "La dimostrazione si è fermata: %s\n", errore.what());
+        return 1;
+    }
+}

@@ -1,0 +1,150 @@
+#include "regista.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QTest>
+
+#include <cstdio>
+
+namespace {
+
+constexpr int pazienza = 10'000;
+
+} // namespace
+
+Regista::Regista(const QString& cartella) : mCartella(cartella)
+{
+    mSguardo.setInterval(5);
+    connect(&mSguardo, &QTimer::timeout, this, &Regista::guardaDialoghi);
+}
+
+void Regista::passo(const QString& testo)
+{
+    std::printf("%s\n", qUtf8Printable(testo));
+    std::fflush(stdout);
+}
+
+void Regista::fotografa(QWidget* finestra, const QString& nome)
+{
+    QCoreApplication::processEvents();
+    const QString file = QStringLiteral("%1-%2.png").arg(++mFoto, 2, 10, QLatin1Char('0')).arg(nome);
+    verifica(finestra->grab().save(QDir(mCartella).filePath(file)),
+             QStringLiteral("l'immagine %1 non è stata scritta").arg(file));
+}
+
+QWidget* Regista::finestra(const QString& nome)
+{
+    QWidget* trovata = nullptr;
+    attende(
+        [&] {
+            const auto finestre = QApplication::topLevelWidgets();
+            for (QWidget* candidata : finestre)
+                if (candidata->objectName() == nome && candidata->isVisible())
+                    trovata = candidata;
+            return trovata != nullptr;
+        },
+        QStringLiteral("la finestra %1 non si è aperta").arg(nome));
+    return trovata;
+}
+
+QWidget* Regista::controllo(QWidget* finestra, const QString& nome)
+{
+    auto* trovato = finestra->findChild<QWidget*>(nome);
+    verifica(trovato, QStringLiteral("in %1 manca %2").arg(finestra->objectName(), nome));
+    return trovato;
+}
+
+QString Regista::testo(QWidget* finestra, const QString& nome)
+{
+    const QWidget* dove = controllo(finestra, nome);
+    for (const char* proprieta : {"text", "plainText", "currentText"})
+        if (const QVariant valore = dove->property(proprieta); valore.isValid())
+            return valore.toString();
+    throw Imprevisto(QStringLiteral("%1 non ha un testo").arg(nome));
+}
+
+void Regista::scrive(QWidget* finestra, const QString& nome, const QString& testo)
+{
+    QWidget* dove = controllo(finestra, nome);
+    dove->setFocus(Qt::OtherFocusReason);
+    QTest::keyClick(dove, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(dove, testo);
+    QCoreApplication::processEvents();
+}
+
+void Regista::preme(QWidget* destinatario, Qt::Key tasto, Qt::KeyboardModifiers modificatori)
+{
+    QTest::keyClick(destinatario, tasto, modificatori);
+    QCoreApplication::processEvents();
+}
+
+void Regista::clicca(QWidget* finestra, const QString& nome)
+{
+    QTest::mouseClick(controllo(finestra, nome), Qt::LeftButton);
+    QCoreApplication::processEvents();
+}
+
+void Regista::rispondendo(const std::function<void()>& azione, std::deque<Risposta> risposte)
+{
+    mRisposte = std::move(risposte);
+    mRisposto = nullptr;
+    mSguardo.start();
+    azione();
+    // What an action starts may be queued behind it.
+    if (mFallito.isEmpty() && !mRisposte.empty())
+        attende([this] { return mRisposte.empty() || !mFallito.isEmpty(); },
+                QStringLiteral("si attendeva ancora una finestra di dialogo"));
+    attende([] { return !QApplication::activeModalWidget(); }, QStringLiteral("un dialogo è rimasto aperto"));
+    mSguardo.stop();
+    if (!mFallito.isEmpty())
+        throw Imprevisto(std::exchange(mFallito, {}));
+}
+
+void Regista::guardaDialoghi()
+{
+    QWidget* dialogo = QApplication::activeModalWidget();
+    if (!dialogo || !dialogo->isVisible() || dialogo == mRisposto)
+        return;
+    mRisposto = dialogo;
+    // Boxes follow one another at one address: a closed one is no longer the one that was answered.
+    connect(dialogo, &QObject::destroyed, this, [this] { mRisposto = nullptr; });
+    if (mRisposte.empty()) {
+        mFallito = QStringLiteral("si è aperta una finestra inattesa: %1 %2")
+                       .arg(dialogo->objectName(), dialogo->property("text").toString());
+        dialogo->close();
+        return;
+    }
+    const Risposta risposta = std::move(mRisposte.front());
+    mRisposte.pop_front();
+    try {
+        risposta(dialogo);
+    } catch (const Imprevisto& imprevisto) {
+        mFallito = QString::fromUtf8(imprevisto.what());
+        mRisposte.clear();
+        dialogo->close();
+    }
+}
+
+Regista::Risposta Regista::messaggio(const QString& testo, Qt::Key tasto)
+{
+    return [this, testo, tasto](QWidget* dialogo) {
+        const QString mostrato = dialogo->property("text").toString();
+        fotografa(dialogo, QStringLiteral("messaggio"));
+        verifica(mostrato == testo,
+                 QStringLiteral("messaggio inatteso: \"%1\" al posto di \"%2\"").arg(mostrato, testo));
+        passo(QStringLiteral("    messaggio: %1").arg(mostrato));
+        QTest::keyClick(dialogo, tasto);
+    };
+}
+
+void Regista::verifica(bool fatto, const QString& altrimenti)
+{
+    if (!fatto)
+        throw Imprevisto(altrimenti);
+}
+
+void Regista::attende(const std::function<bool()>& fatto, const QString& che)
+{
+    verifica(QTest::qWaitFor(fatto, pazienza), che);
+}
