@@ -21,19 +21,19 @@ Ammissione ControlloInserimento(Connessione& connessione, const QString& numeroL
 /// What the screen holds when a held shipment is saved, as texts of its controls.
 struct DatiGiacenza
 {
-    QString filiale;   ///< of the waybill
-    QString numeroLdv; ///< as it was found
-    QString dataLdv;   ///< its year is the key's
-    QString cliente;
-    QString filialeGiacenza; ///< that holds the goods
-    QString giorniSosta;
-    QString dataAvviso; ///< this and the next four: not written when empty
-    QString dataBuonFine;
-    QString imponibile;
-    QString giacenzaPrecedente;
-    QString dataPrecedente;
-    QString dataGiacenza;
-    QString motivo;
+    QString filiale = {};   ///< of the waybill
+    QString numeroLdv = {}; ///< as it was found
+    QString dataLdv = {};   ///< its year is the key's
+    QString cliente = {};
+    QString filialeGiacenza = {}; ///< that holds the goods
+    QString giorniSosta = {};
+    QString dataAvviso = {}; ///< this and the next four: not written when empty
+    QString dataBuonFine = {};
+    QString imponibile = {};
+    QString giacenzaPrecedente = {};
+    QString dataPrecedente = {};
+    QString dataGiacenza = {};
+    QString motivo = {};
 };
 
 /// Adds the held shipment and links it on its waybill, in one transaction on a connection of its own; either

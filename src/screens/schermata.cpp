@@ -229,7 +229,7 @@ Seguito Schermata::convalidaDataGia()
 
 Seguito Schermata::convalidaCliente()
 {
-    const QString codice = txtCodiceCli->text();
+    const QString codice = txtCodiceCli->text().trimmed();
     if (codice.isEmpty() || txtCodiceCli->isReadOnly())
         return {};
     if (!eNumero(codice))
@@ -243,6 +243,7 @@ Seguito Schermata::convalidaCliente()
                           titoloGestione());
             });
         scrivi(barCliente, cliente.valore(0).value_or(QString()));
+        txtCodiceCli->setText(codice);
         bloccaCliente(true);
     } catch (const ErroreDatabase& errore) {
         stato(errore.testo());
