@@ -1,0 +1,162 @@
+#include "registration/schermatadiprova.h"
+
+#include "component/impostazioni.h"
+#include "data/traccia.h"
+#include "support/stampa.h"
+
+#include <QTest>
+
+using namespace giacenza;
+using namespace giacenza::prove;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+namespace {
+
+class RegistrazioneGuasti : public SchermataDiProva
+{
+protected:
+    /// While it lives, every statement that begins so fails; with 08S01 the connection is lost too.
+    void fallisce(const QString& inizio, const QString& sqlstate = QStringLiteral("HY000"))
+    {
+        impostaTraccia([=](EventoDati evento, const QString& testo) {
+            if (evento == EventoDati::istruzione && testo.startsWith(inizio, Qt::CaseInsensitive))
+                throw ErroreDatabase(sqlstate, 1, QStringLiteral("guasto di prova"), testo);
+        });
+    }
+    ~RegistrazioneGuasti() override { impostaTraccia({}); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Basi, RegistrazioneGuasti, testing::Values("sqlite", "mariadb"),
+                         nomeBase<testing::TestParamInfo<std::string>>);
+
+TEST_P(RegistrazioneGuasti, UnSalvataggioFallitoLoDiceENonLasciaNiente)
+{
+    const Messaggio impossibile = {QStringLiteral("Impossibile aggiungere la nuova giacenza."),
+                                   Stile::critico, titoloApplicazione()};
+    consegna(QStringLiteral("4711"));
+    for (const char16_t* punto : {u"select UltimoNumGiacenza", u"update ekelvorqzt",
+                                  u"select * from giace00f", u"insert into giace00f", u"update letve00f"}) {
+        fallisce(QString::fromUtf16(punto), QStringLiteral("08S01"));
+        clicca("cmdSalva");
+        impostaTraccia({});
+        EXPECT_THAT(mMessaggi.prendi(), ElementsAre(impossibile));
+        EXPECT_EQ(mostrato("lblNrGia"), QString()) << "the label shows what it showed before";
+        EXPECT_EQ(mBase.leggi(QStringLiteral("select count(*) from giace00f where GINRLV='4711'")),
+                  QStringLiteral("0"));
+        EXPECT_EQ(mBase.leggi(QStringLiteral("select LEDTCO from letve00f where lenrlv='4711'")),
+                  QStringLiteral("2026-11-14"));
+    }
+    EXPECT_THAT(mStampe, IsEmpty());
+    clicca("cmdSalva");
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(QStringLiteral("Giacenza aggiunta in database.")))
+        << "and then it works";
+}
+
+TEST_P(RegistrazioneGuasti, UnGuastoFuoriDallInserimentoFinisceSenzaMessaggio)
+{
+    consegna(QStringLiteral("4711"));
+    fallisce(QStringLiteral("select Lerico"));
+    clicca("cmdSalva");
+    impostaTraccia({});
+    EXPECT_EQ(mostrato("lblStato"), QStringLiteral("guasto di prova"));
+
+    fallisce(QStringLiteral("select GINRAV"));
+    clicca("cmdSalva");
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(QStringLiteral("Giacenza aggiunta in database.")));
+    EXPECT_EQ(mBase.leggi(QStringLiteral("select GINRAV from giace00f where GINRLV='4711'")), std::nullopt);
+    EXPECT_THAT(mStampe, IsEmpty());
+}
+
+TEST_P(RegistrazioneGuasti, LEtichettaDellAvvisoCambiaSoloDopoLIstruzione)
+{
+    consegna(QStringLiteral("4714"));
+    mBase.esegui(QStringLiteral("update giace00f set GIDTAV='2026-11-20' where GINRGI='40';"));
+    fallisce(QStringLiteral("UPDATE giace00f SET GINRAV"));
+    clicca("cmdAvvisoGia");
+    EXPECT_EQ(mMessaggi.prendi().size(), 1U);
+    EXPECT_EQ(mostrato("lblDataAvviso"), QStringLiteral("15/11/2026"));
+    EXPECT_THAT(mStampe, IsEmpty());
+}
+
+TEST_P(RegistrazioneGuasti, UnContoCheNonEUnNumeroFermaLAvviso)
+{
+    consegna(QStringLiteral("4714"));
+    for (const char16_t* conto : {u"due", u"32767"}) {
+        mBase.esegui(QStringLiteral("update giace00f set GIDTAV='2026-11-20', GINRAV='%1' where GINRGI='40';")
+                         .arg(QString::fromUtf16(conto)));
+        clicca("cmdAvvisoGia");
+        EXPECT_EQ(mMessaggi.prendi().size(), 1U);
+        EXPECT_EQ(mBase.leggi(QStringLiteral("select GINRAV from giace00f where GINRGI='40'")),
+                  QString::fromUtf16(conto));
+    }
+    EXPECT_THAT(mStampe, IsEmpty());
+}
+
+TEST_P(RegistrazioneGuasti, UnaStampaCheNonRiesceSiDiceELaGiacenzaResta)
+{
+    const auto salva = [this](const char16_t* ldv) {
+        consegna(QString::fromUtf16(ldv));
+        clicca("cmdSalva");
+        const auto messaggi = mMessaggi.prendi();
+        EXPECT_EQ(messaggi.size(), 2U);
+        EXPECT_EQ(
+            mBase.leggi(
+                QStringLiteral("select GINRAV from giace00f where GINRLV='%1'").arg(QString::fromUtf16(ldv))),
+            QStringLiteral("1"));
+        return messaggi.back().testo.toStdString();
+    };
+    const std::string inizio = "L'avviso di giacenza non è stato stampato; la giacenza resta registrata.\n\n";
+    mGuastoStampa = QStringLiteral("Il disco è pieno.");
+    EXPECT_EQ(salva(u"4711"), inizio + "Il disco è pieno.");
+    mGuastoStampa.clear();
+    mStampaNonProdotta = true;
+    EXPECT_EQ(salva(u"4712"), inizio + "Il modulo di stampa non ha prodotto il documento.");
+    impostazioni().percorsoFileIni = QStringLiteral("/non/ce.ini");
+    mBase.esegui(QStringLiteral("insert into letve00f (lefili,lenrlv,leanlv,ledtlv,lecodi,lerife) values "
+                                "('MI','4716',2026,'2026-11-12',1001,'X');"));
+    EXPECT_THAT(salva(u"4716"), StartsWith(inizio + "Manca la voce IdentificativoDll"));
+}
+
+TEST_P(RegistrazioneGuasti, SenzaDatabaseLaSchermataNonSiApre)
+{
+    impostazioni().percorsoDatabase = QStringLiteral("DRIVER={Non esiste};SERVER=127.0.0.1");
+    frmGiacenza schermata;
+    EXPECT_THROW(schermata.carica(), ErroreDatabase);
+    EXPECT_FALSE(schermata.isVisible());
+}
+
+TEST_P(RegistrazioneGuasti, TestiCheRomperebberoUnIstruzione)
+{
+    apri();
+    scrivi("txtCodiceCli", QStringLiteral("1001"));
+    scrivi("txtFiliale", QStringLiteral("MI"));
+    scrivi("txtDataLdv", QStringLiteral("12112026"));
+    const QString lungo(10'000, QLatin1Char('9'));
+    for (const QString& numero :
+         {QStringLiteral("%"), QStringLiteral("47;11"), QStringLiteral("4711 -- "), QStringLiteral("4711/*"),
+          QStringLiteral("47\\11"), QStringLiteral("O''Neil"), QString::fromUtf8("47🚚11"), lungo}) {
+        qobject_cast<QLineEdit*>(c("txtLDV"))->setText(numero);
+        EXPECT_EQ(istruzioni([&] { tasto("txtLDV", Qt::Key_F12); }).size(), 1)
+            << numero.left(20).toStdString();
+        EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
+        EXPECT_THAT(mostrato("lblStato").toStdString(), testing::EndsWith("non trovata."));
+    }
+    qobject_cast<QLineEdit*>(c("txtLDV"))->setText(QStringLiteral("4711' or '1'='1"));
+    EXPECT_THAT(istruzioni([&] { tasto("txtLDV", Qt::Key_F12); }), IsEmpty()) << "it is not sent";
+    EXPECT_EQ(mMessaggi.prendi().size(), 1U);
+    EXPECT_EQ(mostrato("txtDestinatario"), QString());
+    EXPECT_TRUE(c("cmdSalva")->isEnabled());
+}
+
+TEST_P(RegistrazioneGuasti, UnaTabellaCheMancaSiDice)
+{
+    consegna(QStringLiteral("4711"));
+    mBase.esegui(QStringLiteral("drop table codicizona;"));
+    tasto("txtLDV", Qt::Key_F12);
+    ASSERT_EQ(mMessaggi.messaggi().size(), 1U);
+    EXPECT_EQ(mMessaggi.messaggi().front().stile, Stile::critico);
+}
+
+} // namespace

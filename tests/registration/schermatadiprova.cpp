@@ -1,0 +1,160 @@
+#include "registration/schermatadiprova.h"
+
+#include "component/impostazioni.h"
+#include "component/orologio.h"
+#include "data/traccia.h"
+#include "screens/campi.h"
+#include "support/stampa.h"
+#include "support/trova.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QTest>
+
+namespace giacenza::prove {
+
+namespace {
+
+const QString classeStampa = QStringLiteral("ReportDocProva.cModuliStampa");
+
+} // namespace
+
+void ModuloDiProva::setPercorsoDatabase(const QString& percorso)
+{
+    mChiamate << QStringLiteral("database ") + percorso;
+}
+
+void ModuloDiProva::setPercorsoLogo(const QString& percorso)
+{
+    mChiamate << QStringLiteral("logo ") + percorso;
+}
+
+void ModuloDiProva::setDidascalie(const std::array<QString, 4>& didascalie)
+{
+    mChiamate << QStringLiteral("didascalie ") +
+                     QStringList(didascalie.begin(), didascalie.end()).join(QLatin1Char('|'));
+}
+
+void ModuloDiProva::setStampa(bool stampa)
+{
+    mChiamate << QStringLiteral("stampa %1").arg(stampa);
+}
+
+void ModuloDiProva::setTipoDocumento(TipoDocumento tipo)
+{
+    mChiamate << QStringLiteral("tipo %1").arg(static_cast<int>(tipo));
+}
+
+void ModuloDiProva::stampaDocumento(const QString& chiave, bool& nonProdotto)
+{
+    mChiamate << QStringLiteral("documento ") + chiave;
+    if (!mGuasto.isEmpty())
+        throw Errore(mGuasto);
+    nonProdotto = mNonProdotto;
+}
+
+SchermataDiProva::SchermataDiProva()
+{
+    riempiDeposito(mBase);
+    impostaOggi(QDate(2026, 11, 21));
+    QFile ini(mCartella.filePath(QStringLiteral("giacenza.ini")));
+    if (!ini.open(QIODevice::WriteOnly) || ini.write("[DLLStampe]\nIdentificativoDll=Prova\n[Bord]"
+                                                     "\nCaptionLbl1=uno\nCaptionLbl2=due\nCaptionLbl3=tre\n"
+                                                     "CaptionLbl4=quattro\n") < 0)
+        throw std::runtime_error("the settings file of the test cannot be written");
+    impostazioni() = {mBase.stringa(), ini.fileName(), QStringLiteral("/logo"), {}};
+    registraParte(classeStampa, [this] {
+        return std::make_unique<ModuloDiProva>(mStampe, mGuastoStampa, mStampaNonProdotta);
+    });
+}
+
+SchermataDiProva::~SchermataDiProva()
+{
+    delete mSchermata;
+    registraParte(classeStampa, {});
+    impostaOggi(std::nullopt);
+    impostazioni() = {};
+}
+
+void SchermataDiProva::apri()
+{
+    auto nuova = std::make_unique<frmGiacenza>();
+    nuova->carica();
+    mSchermata = nuova.release();
+    mSchermata->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(mSchermata));
+}
+
+void SchermataDiProva::consegna(const QString& ldv, const QString& data, const QString& filiale,
+                                const QString& cliente)
+{
+    if (!mSchermata)
+        apri();
+    mSchermata->setProperty("NLettVett", ldv);
+    mSchermata->setProperty("DataLdv", data);
+    mSchermata->setProperty("Filiale", filiale);
+    mSchermata->setProperty("CodiceCliente", cliente);
+    QCoreApplication::processEvents();
+}
+
+void SchermataDiProva::consegna(const QString& ldv)
+{
+    consegna(ldv, QStringLiteral("12/11/2026"), QStringLiteral("MI"), QStringLiteral("1001"));
+}
+
+QWidget* SchermataDiProva::c(const char* nome) const
+{
+    return trova<QWidget>(mSchermata, QLatin1String(nome));
+}
+
+QString SchermataDiProva::mostrato(const char* nome) const
+{
+    return testoMostrato(c(nome));
+}
+
+bool SchermataDiProva::avanzo(const char* nome) const
+{
+    return eAvanzo(c(nome));
+}
+
+void SchermataDiProva::scrivi(const char* nome, const QString& testo)
+{
+    c(nome)->setFocus();
+    QTest::keyClick(c(nome), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(c(nome), Qt::Key_Delete);
+    QTest::keyClicks(c(nome), testo);
+}
+
+void SchermataDiProva::lascia(const char* nome)
+{
+    QTest::keyClick(c(nome), Qt::Key_Tab);
+    QCoreApplication::processEvents();
+}
+
+void SchermataDiProva::clicca(const char* nome)
+{
+    QTest::mouseClick(c(nome), Qt::LeftButton);
+    QCoreApplication::processEvents();
+}
+
+void SchermataDiProva::tasto(const char* nome, Qt::Key tasto)
+{
+    c(nome)->setFocus();
+    QTest::keyClick(c(nome), tasto);
+    QCoreApplication::processEvents();
+}
+
+QStringList SchermataDiProva::istruzioni(const std::function<void()>& azione) const
+{
+    QStringList inviate;
+    const Traccia prima = impostaTraccia([&](EventoDati evento, const QString& testo) {
+        if (evento == EventoDati::istruzione && !testo.contains(QLatin1String("@@")) &&
+            !testo.startsWith(QLatin1String("pragma"), Qt::CaseInsensitive))
+            inviate << testo;
+    });
+    azione();
+    impostaTraccia(prima);
+    return inviate;
+}
+
+} // namespace giacenza::prove

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "registration/frmGiacenza.h"
+#include "support/bancadati.h"
+#include "support/registromessaggi.h"
+#include "support/spedizioni.h"
+
+#include <giacenza/ModuloStampa.h>
+
+#include <QPointer>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+
+namespace giacenza::prove {
+
+/// A print module that keeps what it is driven with, in order: "database …", "logo …", "didascalie a|b|c|d",
+/// "stampa 1", "tipo 5", "documento 42_2026".
+class ModuloDiProva : public ModuloStampa
+{
+public:
+    ModuloDiProva(QStringList& chiamate, const QString& guasto, bool nonProdotto)
+        : mChiamate(chiamate), mGuasto(guasto), mNonProdotto(nonProdotto)
+    {}
+
+    void setPercorsoDatabase(const QString& percorso) override;
+    void setPercorsoLogo(const QString& percorso) override;
+    void setDidascalie(const std::array<QString, 4>& didascalie) override;
+    void setStampa(bool stampa) override;
+    void setTipoDocumento(TipoDocumento tipo) override;
+    void stampaDocumento(const QString& chiave, bool& nonProdotto) override;
+
+private:
+    QStringList& mChiamate;
+    QString mGuasto;
+    bool mNonProdotto;
+};
+
+/// The registration screen, shown, on a database with the small depot; the day is 21/11/2026.
+class SchermataDiProva : public testing::TestWithParam<std::string>
+{
+protected:
+    SchermataDiProva();
+    ~SchermataDiProva() override;
+
+    /// Opens the screen as NuovaGiacenza does.
+    void apri();
+    /// Opens it, if it is not, with a waybill handed over, and lets it react.
+    void consegna(const QString& ldv, const QString& data, const QString& filiale, const QString& cliente);
+    /// A waybill of the small depot, of 12/11/2026 and branch MI.
+    void consegna(const QString& ldv);
+
+    QWidget* c(const char* nome) const;
+    QString mostrato(const char* nome) const;
+    bool avanzo(const char* nome) const;
+    void scrivi(const char* nome, const QString& testo);
+    void lascia(const char* nome);
+    void clicca(const char* nome);
+    void tasto(const char* nome, Qt::Key tasto);
+
+    /// The statements that data access sends while this lives, but for the session's own.
+    QStringList istruzioni(const std::function<void()>& azione) const;
+
+    BancaDati mBase{GetParam()};
+    QTemporaryDir mCartella;
+    RegistroMessaggi mMessaggi;
+    QStringList mStampe;
+    QString mGuastoStampa;
+    bool mStampaNonProdotta = false;
+    QPointer<frmGiacenza> mSchermata;
+};
+
+} // namespace giacenza::prove
