@@ -4,6 +4,7 @@
 #include "data/traccia.h"
 #include "support/stampa.h"
 
+#include <QLineEdit>
 #include <QTest>
 
 using namespace giacenza;
