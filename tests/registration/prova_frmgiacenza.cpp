@@ -185,7 +185,7 @@ TEST_P(Registrazione, SalvaEAvvisaSoloConITasti)
     EXPECT_EQ(mostrato("barGiorniSosta"), QStringLiteral("1"));
     scrivi("txtFilialeGia", QStringLiteral("BO"));
     scrivi("txtDescGia", QStringLiteral("L'insegna manca"));
-    QTest::keyClick(mSchermata, Qt::Key_S, Qt::AltModifier);
+    scorciatoia(Qt::Key_S);
 
     EXPECT_THAT(
         mMessaggi.prendi(),

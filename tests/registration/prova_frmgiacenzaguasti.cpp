@@ -65,6 +65,7 @@ TEST_P(RegistrazioneGuasti, UnGuastoFuoriDallInserimentoFinisceSenzaMessaggio)
 
     fallisce(QStringLiteral("select GINRAV"));
     clicca("cmdSalva");
+    impostaTraccia({});
     EXPECT_THAT(mMessaggi.testi(), ElementsAre(QStringLiteral("Giacenza aggiunta in database.")));
     EXPECT_EQ(mBase.leggi(QStringLiteral("select GINRAV from giace00f where GINRLV='4711'")), std::nullopt);
     EXPECT_THAT(mStampe, IsEmpty());
@@ -76,6 +77,7 @@ TEST_P(RegistrazioneGuasti, LEtichettaDellAvvisoCambiaSoloDopoLIstruzione)
     mBase.esegui(QStringLiteral("update giace00f set GIDTAV='2026-11-20' where GINRGI='40';"));
     fallisce(QStringLiteral("UPDATE giace00f SET GINRAV"));
     clicca("cmdAvvisoGia");
+    impostaTraccia({});
     EXPECT_EQ(mMessaggi.prendi().size(), 1U);
     EXPECT_EQ(mostrato("lblDataAvviso"), QStringLiteral("15/11/2026"));
     EXPECT_THAT(mStampe, IsEmpty());
@@ -134,6 +136,7 @@ TEST_P(RegistrazioneGuasti, TestiCheRomperebberoUnIstruzione)
     scrivi("txtCodiceCli", QStringLiteral("1001"));
     scrivi("txtFiliale", QStringLiteral("MI"));
     scrivi("txtDataLdv", QStringLiteral("12112026"));
+    lascia("txtDataLdv");
     const QString lungo(10'000, QLatin1Char('9'));
     for (const QString& numero :
          {QStringLiteral("%"), QStringLiteral("47;11"), QStringLiteral("4711 -- "), QStringLiteral("4711/*"),

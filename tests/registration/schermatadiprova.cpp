@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QPushButton>
 #include <QTest>
 
 namespace giacenza::prove {
@@ -142,6 +143,17 @@ void SchermataDiProva::tasto(const char* nome, Qt::Key tasto)
     c(nome)->setFocus();
     QTest::keyClick(c(nome), tasto);
     QCoreApplication::processEvents();
+}
+
+void SchermataDiProva::scorciatoia(Qt::Key lettera)
+{
+    const auto bottoni = mSchermata->findChildren<QPushButton*>();
+    int scattati = 0;
+    QObject osservatore; // its connections go with it
+    for (const QPushButton* bottone : bottoni)
+        QObject::connect(bottone, &QPushButton::clicked, &osservatore, [&] { ++scattati; });
+    QTest::keyClick(mSchermata, lettera, Qt::AltModifier);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return scattati > 0; }));
 }
 
 QStringList SchermataDiProva::istruzioni(const std::function<void()>& azione) const

@@ -57,6 +57,8 @@ protected:
     void lascia(const char* nome);
     void clicca(const char* nome);
     void tasto(const char* nome, Qt::Key tasto);
+    /// Alt and a letter; waits for the button, which Qt shows pressed before it acts.
+    void scorciatoia(Qt::Key lettera);
 
     /// The statements that data access sends while this lives, but for the session's own.
     QStringList istruzioni(const std::function<void()>& azione) const;
