@@ -323,7 +323,7 @@ TEST_P(Registrazione, LaDataDellaGiacenzaSiControlla)
     }
     clicca("cmdSalva");
     EXPECT_THAT(mMessaggi.prendi(), ElementsAre(attesa)) << "the click that left the field is swallowed";
-    QTest::keyClick(mSchermata, Qt::Key_S, Qt::AltModifier);
+    scorciatoia(Qt::Key_S);
     EXPECT_THAT(mMessaggi.prendi(), ElementsAre(attesa))
         << "a shortcut moves no focus: the save checks first";
     EXPECT_EQ(mBase.leggi(QStringLiteral("select count(*) from giace00f where GINRLV='4711'")),
