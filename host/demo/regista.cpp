@@ -75,6 +75,10 @@ void Regista::scrive(QWidget* finestra, const QString& nome, const QString& test
 
 void Regista::preme(QWidget* destinatario, Qt::Key tasto, Qt::KeyboardModifiers modificatori)
 {
+    // Without a window manager nobody gives the window its focus back when a box over it has closed.
+    destinatario->activateWindow();
+    attende([&] { return destinatario->isActiveWindow(); },
+            QStringLiteral("la finestra di %1 non è attiva").arg(destinatario->objectName()));
     QTest::keyClick(destinatario, tasto, modificatori);
     QCoreApplication::processEvents();
 }
