@@ -135,7 +135,7 @@ void frmRicerca::prova(const std::function<void()>& azione)
 void frmRicerca::cerca()
 {
     if (mInChiusura) {
-        done(mTrovato ? Accepted : Rejected);
+        chiudi();
         return;
     }
     mCampoCercato = campo();
@@ -181,29 +181,36 @@ void frmRicerca::scegli(const QListWidgetItem* voce)
 {
     if (mInChiusura)
         return;
-    mInChiusura = true;
-    // Queued: the click must be over when the dialog goes, or the window below gets its second half.
+    // What follows is queued: the click must be over when the dialog goes, or the window below gets its
+    // second half.
     const QString codice = voce->data(ruoloCodice).toString().trimmed();
-    const QString ragioneSociale = voce->data(ruoloRagioneSociale).toString();
-    QMetaObject::invokeMethod(
-        this, [this, codice, ragioneSociale] { prova([&] { prendi(codice, ragioneSociale); }); },
-        Qt::QueuedConnection);
+    mIdRecord = codice.toInt(&mTrovato);
+    if (!mTrovato) {
+        QMetaObject::invokeMethod(
+            this,
+            [this, codice] {
+                mostraErrore(Errore(
+                    u"Il codice \"%1\" non è un numero: il soggetto non può essere scelto."_s.arg(codice)));
+            },
+            Qt::QueuedConnection);
+        return;
+    }
+    mInChiusura = true;
+    mRagioneSociale = voce->data(ruoloRagioneSociale).toString();
+    QMetaObject::invokeMethod(this, &frmRicerca::chiudi, Qt::QueuedConnection);
 }
 
-void frmRicerca::prendi(const QString& codice, const QString& ragioneSociale)
+void frmRicerca::chiudi()
 {
-    if (!isVisible())
-        return;
-    bool numero = false;
-    const qint32 record = codice.toInt(&numero);
-    if (!numero) {
-        mInChiusura = false;
-        throw Errore(u"Il codice \"%1\" non è un numero: il soggetto non può essere scelto."_s.arg(codice));
-    }
-    mTrovato = true;
-    mIdRecord = record;
-    mRagioneSociale = ragioneSociale;
-    accept();
+    if (isVisible() && mInChiusura)
+        done(mTrovato ? Accepted : Rejected);
+}
+
+void frmRicerca::azzera()
+{
+    mTrovato = false;
+    mIdRecord = 0;
+    mRagioneSociale.clear();
 }
 
 void frmRicerca::mostraErrore(const Errore& errore)
@@ -223,10 +230,8 @@ void frmRicerca::showEvent(QShowEvent* evento)
 {
     if (!evento->spontaneous()) {
         mInChiusura = false;
-        mTrovato = false;
         mNonTrovata = false;
-        mIdRecord = 0;
-        mRagioneSociale.clear();
+        azzera();
         mUi->lstCerca->clear();
         abilitaElenco(false);
         mUi->txtCerca->setFocus();
@@ -237,6 +242,8 @@ void frmRicerca::showEvent(QShowEvent* evento)
 void frmRicerca::done(int esito)
 {
     mInChiusura = true;
+    if (esito != Accepted)
+        azzera();
     mRicerca.chiudi();
     QDialog::done(esito);
 }

@@ -70,7 +70,8 @@ private:
     /// Adds the next page of rows.
     void CaricaLista();
     void scegli(const QListWidgetItem* voce);
-    void prendi(const QString& codice, const QString& ragioneSociale);
+    void chiudi();
+    void azzera();
     void mostraErrore(const Errore& errore);
     CampoSoggetto campo() const;
     QString voce(const Soggetto& soggetto) const;
