@@ -73,7 +73,7 @@ void frmPorto::annulla()
 void frmPorto::done([[maybe_unused]] int esito)
 {
     if (mUi->cmbPorto->currentIndex() >= 0)
-        mPorto = mUi->cmbPorto->currentData().toInt();
+        mPorto = mUi->cmbPorto->currentData().toString().toInt(); // the variant's own cuts large numbers off
     mControlloGiacenza = mUi->optGiacenza->isChecked();
     mStampaLDV = mUi->optStampaLDV->isChecked();
     mConnessione.chiudi();
