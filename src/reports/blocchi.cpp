@@ -50,7 +50,7 @@ void didascalie(Sezione& sezione)
 
 Sezione intestazione()
 {
-    Sezione sezione{u"Intestazione_pagina"_s, 27, {}};
+    Sezione sezione{u"Intestazione_pagina"_s, 26, {}};
     Controllo& logo = metti(sezione, etichetta(u"imgLogo"_s, {sinistra, 0, 62, 20}, {}));
     logo.genere = Genere::immagine;
     logo.altezza = Altezza::elastica;
@@ -107,7 +107,7 @@ Definizione lettera(const QString& nome)
 {
     Definizione definizione;
     definizione.nome = nome;
-    definizione.margineAlto = 14;
+    definizione.margineAlto = 12;
     definizione.margineBasso = 10;
     definizione.intestazione = intestazione();
     definizione.dettaglio.nome = u"Dettaglio_Dettaglio"_s;
@@ -146,7 +146,7 @@ double indirizzo(Sezione& sezione, double y, const QString& campoData)
         {campo(u"txtMittente"_s, {}, u"RagioneSociale"_s, {11, true}),
          campo(u"txtIndMittente"_s, {}, u"Indirizzo"_s, destinatario),
          campoLocalita(u"txtLocalitaMitt"_s, u"CLCAP"_s, u"Localita"_s, u"Provincia"_s, destinatario)});
-    return y + 28;
+    return y + 26;
 }
 
 double titolo(Sezione& sezione, double y, const QString& testo)

@@ -40,7 +40,7 @@ enum class Posto
 };
 /// gruppo: see Controllo.
 void voce(Sezione& sezione, double y, Posto posto, const QString& testo, Controllo campo, int gruppo = 0);
-inline constexpr double passoVoce = 6;      ///< from one line of labels to the next
+inline constexpr double passoVoce = 5.8;    ///< from one line of labels to the next
 inline constexpr double dopoCapitolo = 3.6; ///< below the last line under a heading
 
 /// A heading and beneath it a column's text over the whole width, as high as it needs; both go when there is

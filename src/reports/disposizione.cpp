@@ -40,15 +40,15 @@ private:
     /// How far a placed control's lower edge has moved.
     double mosso(std::size_t i) const { return mAree[i].bottom() - mControlli[i].area.bottom(); }
 
-    /// A rule has no height: it is not above what starts where it lies.
+    /// A rule has no height: it is above what starts where it lies, but not above another rule there.
     bool sopra(std::size_t alto, std::size_t basso) const
     {
         const QRectF& area = mControlli[alto].area;
-        const double y = mControlli[basso].area.top();
+        const QRectF& altra = mControlli[basso].area;
         const int uno = mControlli[alto].gruppo;
         const int altro = mControlli[basso].gruppo;
         const bool insieme = uno == 0 || altro == 0 || uno == altro;
-        return insieme && area.bottom() <= y + 1e-6 && area.top() < y - 1e-6;
+        return insieme && area.bottom() <= altra.top() + 1e-6 && area.top() < altra.bottom() - 1e-6;
     }
 
     /// The direct neighbours above are those with nothing wholly between them and the control.
