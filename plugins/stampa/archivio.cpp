@@ -8,6 +8,8 @@
 #include <QScopeGuard>
 
 #include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -68,6 +70,19 @@ void scrivi(QFile& file, const QByteArray& byte, const QString& percorso)
         nonScritto(percorso);
 }
 
+/// Renames a file unless the new name is taken, in one step: the toolkit's own renaming looks first and
+/// renames then, and two workstations may look at the same instant. Sets errno.
+bool rinomina(const QString& da, const QString& a)
+{
+    const QByteArray vecchio = QFile::encodeName(da);
+    const QByteArray nuovo = QFile::encodeName(a);
+    if (::renameat2(AT_FDCWD, vecchio.constData(), AT_FDCWD, nuovo.constData(), RENAME_NOREPLACE) == 0)
+        return true;
+    // File systems over the network that do not know the flag know links.
+    return errno == EINVAL && ::link(vecchio.constData(), nuovo.constData()) == 0 &&
+           ::unlink(vecchio.constData()) == 0;
+}
+
 } // namespace
 
 QString nomeSicuro(const QString& nome)
@@ -95,11 +110,8 @@ QString archivia(const QString& cartella, const QString& nome, const QByteArray&
     auto togli = qScopeGuard([&] { file.remove(); });
     scrivi(file, byte, percorso);
 
-    errno = 0;
-    // Renaming never replaces a file: whoever else takes the same name at this instant is first, and we go
-    // on.
-    for (int copia = 2; !file.rename(percorso); ++copia) {
-        if (!QFile::exists(percorso))
+    for (int copia = 2; !rinomina(file.fileName(), percorso); ++copia) {
+        if (errno != EEXIST)
             nonScritto(percorso);
         percorso = u"%1-%2.pdf"_s.arg(base, QString::number(copia));
     }
