@@ -14,7 +14,14 @@ const QString mascheraVuota = QStringLiteral("__/__/____");
 
 CampoData::CampoData(QWidget* parent) : QLineEdit(parent)
 {
-    setPlaceholderText(QStringLiteral("gg/mm/aaaa"));
+    chiediData(true);
+}
+
+void CampoData::chiediData(bool perData)
+{
+    mData = perData;
+    setPlaceholderText(perData ? QStringLiteral("gg/mm/aaaa") : QStringLiteral("aaaa"));
+    imposta({});
 }
 
 QString CampoData::testo() const
@@ -28,13 +35,13 @@ QString CampoData::testo() const
 void CampoData::imposta(const QString& giorno)
 {
     // Without the mask any text stands as it is: it is only set for typing, over what is there.
-    setInputMask(giorno.isEmpty() || !hasFocus() ? QString() : maschera);
+    setInputMask(mData && hasFocus() && !isReadOnly() ? maschera : QString());
     setText(giorno);
 }
 
 void CampoData::focusInEvent(QFocusEvent* evento)
 {
-    if (!isReadOnly() && inputMask().isEmpty()) {
+    if (mData && !isReadOnly() && inputMask().isEmpty()) {
         const QString prima = testo();
         setInputMask(maschera);
         setText(prima);

@@ -14,17 +14,22 @@ public:
     explicit CampoData(QWidget* parent = nullptr);
 
     /// What the field holds: empty when nothing was typed, else as displayed; a half-filled mask keeps its
-    /// blanks
-    /// ("12/__/2026"), so that it is no date.
+    /// blanks ("12/__/2026"), so that it is no date.
     QString testo() const;
 
     /// Shows a date, "dd/mm/yyyy"; giorno empty clears the field.
     void imposta(const QString& giorno);
 
+    /// Whether the field asks for a date, as it does at first; else it is a plain one, for a year. Clears it.
+    void chiediData(bool perData);
+
 protected:
     void focusInEvent(QFocusEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
     void focusOutEvent(QFocusEvent* evento) override;
+
+private:
+    bool mData = true;
 };
 
 } // namespace giacenza

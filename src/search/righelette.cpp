@@ -1,0 +1,69 @@
+#include "search/righelette.h"
+
+namespace giacenza {
+
+namespace {
+
+// A length is written seven bits to a byte, lowest first; the eighth bit tells that more follow. It counts
+// from one, since zero is null.
+constexpr int bitLunghezza = 7;
+constexpr quint32 ancora = 1U << bitLunghezza;
+
+void scriviLunghezza(QByteArray& byte, quint32 lunghezza)
+{
+    for (; lunghezza >= ancora; lunghezza >>= bitLunghezza)
+        byte.append(static_cast<char>(lunghezza | ancora));
+    byte.append(static_cast<char>(lunghezza));
+}
+
+quint32 leggiLunghezza(const char*& posto)
+{
+    quint32 lunghezza = 0;
+    for (int bit = 0;; bit += bitLunghezza) {
+        const auto parte = static_cast<unsigned char>(*posto++);
+        lunghezza |= (parte & (ancora - 1U)) << bit;
+        if (parte < ancora)
+            return lunghezza;
+    }
+}
+
+} // namespace
+
+void RigheLette::svuota()
+{
+    mPagine = {};
+    mRighe = 0;
+}
+
+void RigheLette::aggiungiRiga()
+{
+    if (mRighe % righePagina == 0) {
+        if (!mPagine.empty())
+            mPagine.back().byte.squeeze(); // a full page grows no more
+        mPagine.emplace_back().inizi.reserve(righePagina);
+    }
+    mPagine.back().inizi.push_back(static_cast<quint32>(mPagine.back().byte.size()));
+    ++mRighe;
+}
+
+void RigheLette::aggiungiValore(std::optional<QByteArrayView> valore)
+{
+    QByteArray& byte = mPagine.back().byte;
+    scriviLunghezza(byte, valore ? static_cast<quint32>(valore->size()) + 1 : 0);
+    if (valore)
+        byte.append(*valore);
+}
+
+std::optional<QByteArrayView> RigheLette::valore(int riga, int colonna) const
+{
+    const Pagina& pagina = mPagine[static_cast<std::size_t>(riga / righePagina)];
+    const char* posto = pagina.byte.constData() + pagina.inizi[static_cast<std::size_t>(riga % righePagina)];
+    for (;; --colonna) {
+        const quint32 lunghezza = leggiLunghezza(posto);
+        if (colonna == 0)
+            return lunghezza ? std::optional(QByteArrayView(posto, lunghezza - 1)) : std::nullopt;
+        posto += lunghezza ? lunghezza - 1 : 0;
+    }
+}
+
+} // namespace giacenza
