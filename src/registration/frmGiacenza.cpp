@@ -3,9 +3,11 @@
 #include "component/impostazioni.h"
 #include "component/orologio.h"
 #include "data/avviso.h"
+#include "redelivery/frmCalendario.h"
 #include "registration/salvataggio.h"
 #include "registration/ui_frmGiacenza.h"
 #include "screens/campi.h"
+#include "screens/ricercaspedizione.h"
 #include "screens/stampa.h"
 #include "widgets/tasti.h"
 
@@ -32,15 +34,39 @@ void frmGiacenza::collega()
     connect(mUi->cmdAvvisoGia, &QPushButton::clicked, this, gestore([this] { EmettiAvvisoGiacenza(); }));
     connect(mCampi, &CampiSchermata::giacenzaLetta, this, &frmGiacenza::segnaGiacenza);
 
-    const auto campi = {std::pair{Chiave::numero, std::pair{mUi->txtLDV, mUi->txtDataLdv}},
-                        std::pair{Chiave::riferimento, std::pair{mUi->txtRiferimento, mUi->txtDataRif}}};
-    for (const auto& [chiave, coppia] : campi) {
-        const auto modificata = [this, chiave = chiave] { mModificata[static_cast<int>(chiave)] = true; };
-        connect(coppia.first, &QLineEdit::textEdited, this, modificata);
-        connect(coppia.second, &QLineEdit::textEdited, this, modificata);
-        suTasto(coppia.first, Qt::Key_F12, gestore([this, chiave = chiave] { ricerca(chiave); }));
-        mConvalida->aggiungi(coppia.second, [this, chiave = chiave] { return lascia(chiave); });
+    connect(mUi->cmdData, &QPushButton::clicked, this, gestore([this] { scegliData(); }));
+    suTasto(txtDataGia, Qt::Key_F12, gestore([this] { scegliData(); }));
+    connect(mUi->cmdCercaLdv, &QPushButton::clicked, this,
+            gestore([this] { RicercaSpedizione(Chiave::numero); }));
+    connect(mUi->cmdCercaRif, &QPushButton::clicked, this,
+            gestore([this] { RicercaSpedizione(Chiave::riferimento); }));
+    suTasto(mUi->txtFiliale, Qt::Key_F9, gestore([this] { RicercaSpedizione(Chiave::numero); }));
+
+    for (const Chiave chiave : {Chiave::numero, Chiave::riferimento}) {
+        const auto modificata = [this, chiave] { mModificata[static_cast<int>(chiave)] = true; };
+        const auto elenco = gestore([this, chiave] { RicercaSpedizione(chiave); });
+        for (QLineEdit* riga : {campo(chiave), static_cast<QLineEdit*>(campoData(chiave))}) {
+            connect(riga, &QLineEdit::textEdited, this, modificata);
+            suTasto(riga, Qt::Key_F9, elenco);
+        }
+        suTasto(campo(chiave), Qt::Key_F12, gestore([this, chiave] { ricerca(chiave); }));
+        mConvalida->aggiungi(campoData(chiave), [this, chiave] { return lascia(chiave); });
     }
+}
+
+QLineEdit* frmGiacenza::campo(Chiave chiave) const
+{
+    return chiave == Chiave::numero ? mUi->txtLDV : mUi->txtRiferimento;
+}
+
+CampoData* frmGiacenza::campoData(Chiave chiave) const
+{
+    return chiave == Chiave::numero ? mUi->txtDataLdv : mUi->txtDataRif;
+}
+
+QString frmGiacenza::cercato(Chiave chiave) const
+{
+    return chiave == Chiave::numero ? numeroLdv(mUi->txtLDV) : mUi->txtRiferimento->text();
 }
 
 void frmGiacenza::setCodiceCliente(const QString& codice)
@@ -104,12 +130,14 @@ bool frmGiacenza::clienteScelto()
 
 Seguito frmGiacenza::lascia(Chiave chiave)
 {
-    const QWidget* campo = chiave == Chiave::numero ? mUi->txtDataLdv : mUi->txtDataRif;
-    if (!mModificata[static_cast<int>(chiave)] || testo(campo).isEmpty())
+    const QString scritta = testo(campoData(chiave));
+    if (!mModificata[static_cast<int>(chiave)] || scritta.isEmpty())
         return {};
-    if (txtCodiceCli->text().isEmpty() || mUi->txtFiliale->text().isEmpty())
-        return gestore([this, chiave] { ricerca(chiave); });
-    gestore([this, chiave] { ricerca(chiave); })();
+    const auto cerca = gestore([this, chiave] { ricerca(chiave); });
+    const bool conDialogo = mUi->txtFiliale->text().isEmpty() && eData(scritta);
+    if (txtCodiceCli->text().isEmpty() || conDialogo)
+        return cerca;
+    cerca();
     return {};
 }
 
@@ -117,22 +145,90 @@ void frmGiacenza::ricerca(Chiave chiave)
 {
     if (!clienteScelto())
         return;
-    const bool perNumero = chiave == Chiave::numero;
-    const QString numero = perNumero ? numeroLdv(mUi->txtLDV) : mUi->txtRiferimento->text();
-    const QString dataScritta = testo(perNumero ? mUi->txtDataLdv : mUi->txtDataRif);
-    const QString filiale = mUi->txtFiliale->text();
-    const auto giorno = leggiData(dataScritta);
-    mModificata[static_cast<int>(chiave)] = false;
-    PulisciCampi();
+    const auto giorno = leggiData(testo(campoData(chiave)));
     if (!giorno)
         return stato(QStringLiteral("La data non è completa o non è valida: nessuna ricerca."));
-    const QString cercata =
-        perNumero ? QStringLiteral("LDV %1").arg(numero) : QStringLiteral("Riferimento %1").arg(numero);
-    const QString istruzione = perNumero
-                                   ? istruzioni::spedizionePerNumeroDataFiliale(numero, *giorno, filiale)
-                                   : istruzioni::spedizionePerRiferimento(numero, *giorno, filiale);
-    mostra(istruzione,
-           QStringLiteral("%1 del %2, filiale %3: non trovata.").arg(cercata, dataScritta, filiale));
+    if (mUi->txtFiliale->text().isEmpty())
+        return RicercaSpedizione(chiave);
+    ricercaDiretta(chiave, *giorno);
+}
+
+void frmGiacenza::ricercaDiretta(Chiave chiave, QDate giorno)
+{
+    const QString numero = cercato(chiave);
+    const QString filiale = mUi->txtFiliale->text();
+    mModificata[static_cast<int>(chiave)] = false;
+    PulisciCampi();
+    if (chiave == Chiave::numero)
+        mostra(istruzioni::spedizionePerNumeroDataFiliale(numero, giorno, filiale),
+               QStringLiteral("LDV %1 del %2, filiale %3: non trovata.")
+                   .arg(numero, dataBreve(giorno), filiale));
+    else
+        mostra(istruzioni::spedizionePerRiferimento(numero, giorno, filiale),
+               QStringLiteral("Riferimento %1 del %2, filiale %3: non trovato.")
+                   .arg(numero, dataBreve(giorno), filiale));
+}
+
+bool frmGiacenza::ControllaImmissione(Chiave chiave)
+{
+    if (!cercato(chiave).isEmpty() && eData(testo(campoData(chiave))))
+        return true;
+    messaggio(
+        chiave == Chiave::numero
+            ? QStringLiteral("Controllare l'immissione del num. Ldv e/o data Ldv")
+            : QStringLiteral("Controllare l'immissione del riferimento cliente e/o data rifer. cliente"),
+        Stile::avviso);
+    return false;
+}
+
+void frmGiacenza::RicercaSpedizione(Chiave chiave)
+{
+    if (!clienteScelto() || !ControllaImmissione(chiave))
+        return;
+    const bool perNumero = chiave == Chiave::numero;
+    const QPointer<const Schermata> io(this);
+    const auto scelta = apriRicercaSpedizione(
+        this, {.tipoRicerca = perNumero ? 7 : 1,
+               .titolo = perNumero ? QStringLiteral("Ricerca per lettera di vettura")
+                                   : QStringLiteral("Ricerca per riferimento"),
+               .captionLabel = perNumero ? QStringLiteral("Num. LDV") : QStringLiteral("Riferimento"),
+               .ragioneSocialeCliente = barCliente->text(),
+               .cliente = txtCodiceCli->text(),
+               .filiale = mUi->txtFiliale->text(),
+               .riferimento = perNumero ? QString() : cercato(chiave),
+               .numero = perNumero ? cercato(chiave) : QString(),
+               .annoOdata = testo(campoData(chiave))});
+    restaAperta(io);
+    mModificata[static_cast<int>(chiave)] = false;
+    const auto giorno = scelta ? leggiData(scelta->data) : std::nullopt;
+    if (!giorno)
+        return;
+    PulisciCampi();
+    mostra(istruzioni::spedizionePerNumeroData(scelta->numero, *giorno,
+                                               perNumero ? Giunzione::esternaMinuscola : Giunzione::esterna),
+           QStringLiteral("LDV %1 del %2: non trovata.").arg(scelta->numero, scelta->data));
+}
+
+void frmGiacenza::clienteCercato()
+{
+    mUi->cmdData->setEnabled(false);
+}
+
+void frmGiacenza::scegliData()
+{
+    const QPointer<const Schermata> io(this);
+    const QPointer<frmCalendario> calendario = new frmCalendario(this);
+    calendario->setDataAttuale(leggiData(testo(lblDataLav)));
+    calendario->exec();
+    restaAperta(io);
+    const auto giorno = calendario->scelta() ? calendario->DataAttuale() : std::nullopt;
+    delete calendario;
+    if (!giorno)
+        return;
+    const QString scelta = dataBreve(*giorno);
+    scrivi(lblDataLav, scelta);
+    scrivi(txtDataGia, scelta);
+    CalcolaGiorniSosta();
 }
 
 void frmGiacenza::mostra(const QString& istruzione, const QString& nonTrovata)

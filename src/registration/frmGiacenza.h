@@ -37,6 +37,7 @@ public:
 
 protected:
     void attivata() override;
+    void clienteCercato() override;
 
 private:
     enum class Chiave
@@ -51,6 +52,13 @@ private:
 
     Seguito lascia(Chiave chiave);
     void ricerca(Chiave chiave);
+    void ricercaDiretta(Chiave chiave, QDate giorno);
+    bool ControllaImmissione(Chiave chiave);
+    void RicercaSpedizione(Chiave chiave);
+    void scegliData();
+    QLineEdit* campo(Chiave chiave) const;
+    CampoData* campoData(Chiave chiave) const;
+    QString cercato(Chiave chiave) const;
     bool clienteScelto();
     void mostra(const QString& istruzione, const QString& nonTrovata);
     void segnaGiacenza(bool giacente);

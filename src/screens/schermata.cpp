@@ -6,6 +6,7 @@
 #include "data/istruzioni.h"
 #include "screens/campi.h"
 #include "screens/porto.h"
+#include "search/apriricerca.h"
 #include "widgets/campodata.h"
 #include "widgets/tasti.h"
 
@@ -85,6 +86,20 @@ void Schermata::collegaCliente()
 {
     mConvalida->aggiungi(txtCodiceCli, [this] { return convalidaCliente(); });
     connect(txtCodiceCli, &QLineEdit::returnPressed, this, [this] { cmdCercaCliente->setFocus(); });
+    connect(cmdCercaCliente, &QPushButton::clicked, this, gestore([this] { cercaCliente(); }));
+    suTasto(txtCodiceCli, Qt::Key_F12, gestore([this] { cercaCliente(); }));
+}
+
+void Schermata::cercaCliente()
+{
+    const QPointer<const Schermata> io(this);
+    const RisultatoRicerca trovato = ApriRicerca(QStringLiteral("1"), QStringLiteral("Clien"), this);
+    restaAperta(io);
+    if (!trovato.trovato)
+        return;
+    scrivi(txtCodiceCli, QString::number(trovato.codice));
+    scrivi(barCliente, trovato.ragioneSociale);
+    clienteCercato();
 }
 
 void Schermata::collegaTasti()

@@ -76,6 +76,9 @@ protected:
     /// Writes the storage days into their bar: nothing when the held-shipment date is no date.
     void CalcolaGiorniSosta();
 
+    /// A customer was taken from the party search.
+    virtual void clienteCercato() {}
+
     /// Finds the customer of the code field and locks the field; without one says so.
     Seguito convalidaCliente();
 
@@ -106,6 +109,7 @@ private:
     template<class Controllo>
     Controllo* trova(const char* nome) const;
     void collegaCliente();
+    void cercaCliente();
     void collegaTasti();
     Seguito convalidaDataGia();
     void cercaFiliale();
