@@ -31,12 +31,18 @@ void frmPorto::caricaElenco()
     try {
         mConnessione.apri(impostazioni().percorsoDatabase);
         CaricaPorto(mUi->cmbPorto, mConnessione);
-        mUi->lblStato->clear();
+        stato({});
     } catch (const Errore& errore) {
         // The issue may go on without freight terms, so this is told and stops nothing.
         mUi->cmbPorto->setCurrentIndex(-1);
-        mUi->lblStato->setText(QStringLiteral("I termini di porto non si leggono: %1").arg(errore.testo()));
+        stato(QStringLiteral("I termini di porto non si leggono: %1").arg(errore.testo()));
     }
+}
+
+void frmPorto::stato(const QString& testo)
+{
+    mUi->lblStato->setText(testo);
+    mUi->lblStato->setVisible(!testo.isEmpty());
 }
 
 void frmPorto::showEvent(QShowEvent* evento)
@@ -45,6 +51,7 @@ void frmPorto::showEvent(QShowEvent* evento)
         mAnnullato = false;
         mUi->optGiacenza->setChecked(true);
         mUi->optStampaLDV->setChecked(true);
+        mUi->cmbPorto->setFocus();
         caricaElenco();
         const bool reso = impostazioni().etichettaReso == QStringLiteral("Reso a Mittente");
         if (reso && mUi->cmbPorto->count() > rigaReso)

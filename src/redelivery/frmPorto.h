@@ -54,6 +54,7 @@ protected:
 private:
     void annulla();
     void caricaElenco();
+    void stato(const QString& testo);
 
     std::unique_ptr<Ui::frmPorto> mUi;
     Connessione mConnessione;

@@ -28,6 +28,7 @@ void frmRifiuto::showEvent(QShowEvent* evento)
         mMotivazioneRifiuto.clear();
         mUi->txtDataRifiuto->imposta(dataBreve(oggi()));
         mUi->txtMotivazione->clear();
+        mUi->txtDataRifiuto->setFocus();
     }
     QDialog::showEvent(evento);
 }

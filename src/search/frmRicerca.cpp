@@ -163,6 +163,7 @@ void frmRicerca::CaricaLista()
     const auto guardia = qScopeGuard([this] { mCaricamento = false; });
     for (const Soggetto& soggetto : mRicerca.leggi(mUi->lstCerca->righeVisibili())) {
         auto* nuova = new QListWidgetItem(voce(soggetto), mUi->lstCerca);
+        nuova->setToolTip(nuova->text().toHtmlEscaped()); // the list cuts long names off
         nuova->setData(ruoloCodice, soggetto.codice);
         nuova->setData(ruoloRagioneSociale, soggetto.ragioneSociale);
     }

@@ -41,13 +41,16 @@ void CampoData::imposta(const QString& giorno)
 
 void CampoData::focusInEvent(QFocusEvent* evento)
 {
-    if (mData && !isReadOnly() && inputMask().isEmpty()) {
+    const bool appenaMascherato = mData && !isReadOnly() && inputMask().isEmpty();
+    if (appenaMascherato) {
         const QString prima = testo();
         setInputMask(maschera);
         setText(prima);
     }
     QLineEdit::focusInEvent(evento);
-    if (evento->reason() != Qt::ActiveWindowFocusReason && evento->reason() != Qt::PopupFocusReason) {
+    // A window that comes back finds the field as it was left; the mask's coming loses the place in it.
+    if (appenaMascherato ||
+        (evento->reason() != Qt::ActiveWindowFocusReason && evento->reason() != Qt::PopupFocusReason)) {
         if (testo().isEmpty())
             setCursorPosition(0);
         else

@@ -41,7 +41,7 @@ protected:
     {
         mFinestra.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&mFinestra));
-        mData->setFocus();
+        EXPECT_TRUE(mData->hasFocus());
     }
 
     void scriviData(const QString& cifre)
@@ -75,6 +75,12 @@ TEST_F(Rifiuto, siApreConLaDataDiOggi)
     EXPECT_EQ(mMotivo->text(), QString());
     EXPECT_FALSE(mFinestra.Confermato());
     EXPECT_EQ(mFinestra.MotivazioneRifiuto(), QString());
+}
+
+TEST_F(Rifiuto, appenaApertoSiScriveSopraLaData)
+{
+    QTest::keyClicks(mFinestra.focusWidget(), u"01022026"_s);
+    EXPECT_EQ(mData->testo(), u"01/02/2026"_s);
 }
 
 TEST_F(Rifiuto, confermatoDaDataEMotivo)
