@@ -3,6 +3,7 @@
 #include "ui_frmCalendario.h"
 
 #include "component/orologio.h"
+#include "widgets/secondoclic.h"
 
 #include <QShortcut>
 #include <QShowEvent>
@@ -36,6 +37,7 @@ void frmCalendario::prendi(QDate giorno)
         return;
     mScelta = true;
     mDataAttuale = giorno;
+    ignoraSecondoClic();
     accept();
 }
 

@@ -4,6 +4,7 @@
 
 #include "component/errorenumerato.h"
 #include "search/controlloricerca.h"
+#include "widgets/secondoclic.h"
 
 #include <QGuiApplication>
 #include <QPointer>
@@ -203,8 +204,10 @@ void frmRicerca::scegli(const QListWidgetItem* voce)
 
 void frmRicerca::chiudi()
 {
-    if (isVisible() && mInChiusura)
-        done(mTrovato ? Accepted : Rejected);
+    if (!isVisible() || !mInChiusura)
+        return;
+    ignoraSecondoClic();
+    done(mTrovato ? Accepted : Rejected);
 }
 
 void frmRicerca::azzera()
