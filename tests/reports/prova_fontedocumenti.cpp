@@ -100,6 +100,15 @@ TEST_F(Fonte, ciascunTipoHaIlSuoDocumento)
               u"Buon fine della giacenza 1234/2015"_s);
 }
 
+TEST_F(Fonte, unImportoCheNonENumeroSiMostraENonDaDocumento)
+{
+    const giacenza::prove::BancaDati base("sqlite");
+    giacenza::prove::aggiungiCaso(base);
+    base.esegui(u"update giace00f set GIIMGI='molto'"_s);
+    EXPECT_EQ(fonte().documento(giacenza::prove::richiestaDelCaso(base, TipoDocumento::buonFine)), nullptr);
+    EXPECT_EQ(mRegistro.testi(), QStringList{u"Error #514\r\"molto\" non è un numero."_s});
+}
+
 TEST_F(Fonte, quelloCheSiNascondeNonArrivaAlModulo)
 {
     const giacenza::prove::BancaDati base("sqlite");
