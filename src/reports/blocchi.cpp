@@ -61,11 +61,11 @@ Sezione intestazione()
 
 Sezione pie()
 {
-    Sezione sezione{u"Pie_pagina"_s, 7, {}};
-    metti(sezione, cornice(u"linPie"_s, {sinistra, 0, larghezza, 0}, grigioFilo));
-    metti(sezione, etichetta(u"lblDocumento"_s, {sinistra, 2, 110, 4}, u"{t}"_s, piccolo));
+    Sezione sezione{u"Pie_pagina"_s, 9, {}};
+    metti(sezione, cornice(u"linPie"_s, {sinistra, 2, larghezza, 0}, grigioFilo));
+    metti(sezione, etichetta(u"lblDocumento"_s, {sinistra, 4, 110, 4}, u"{t}"_s, piccolo));
     Controllo& pagina =
-        metti(sezione, etichetta(u"lblPagina"_s, {destra - 50, 2, 50, 4}, u"Pagina {n} di {m}"_s, piccolo));
+        metti(sezione, etichetta(u"lblPagina"_s, {destra - 50, 4, 50, 4}, u"Pagina {n} di {m}"_s, piccolo));
     pagina.allineamento = Allineamento::destra;
     return sezione;
 }
