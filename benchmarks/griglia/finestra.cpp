@@ -1,0 +1,37 @@
+// One run: the search from its opening until its first page is painted. The statement is made by the dialog;
+// the first argument only says which one is expected.
+
+#include "benchmarks/quadro/esito.h"
+#include "component/impostazioni.h"
+#include "component/messaggi.h"
+#include "search/frmRicercaGia.h"
+#include "search/modelloricerca.h"
+
+#include <QApplication>
+
+int main(int argc, char* argv[])
+{
+    const QApplication applicazione(argc, argv);
+    const QStringList argomenti = QApplication::arguments();
+    giacenza::impostazioni().percorsoDatabase = qEnvironmentVariable(banco::variabileConnessione);
+    giacenza::impostaPortaMessaggi([](QWidget*, const giacenza::Messaggio& messaggio) {
+        std::fprintf(stderr, "%s\n", qPrintable(messaggio.testo));
+        return giacenza::Risposta::ok;
+    });
+    giacenza::Connessione schermata;
+    schermata.apri(giacenza::impostazioni().percorsoDatabase);
+    giacenza::frmRicercaGia dialogo;
+    dialogo.setTipoRicerca(giacenza::ModoRicerca::letteraVettura);
+    dialogo.setCodiceCliente(QStringLiteral("1001"));
+    dialogo.setFiliale(QStringLiteral("MI"));
+    const banco::Cronometro cronometro;
+    dialogo.show();
+    QApplication::processEvents();
+    const double millisecondi = cronometro.millisecondi();
+    const auto* modello = dialogo.findChild<giacenza::ModelloRicerca*>();
+    if (modello->istruzione() != argomenti.value(1)) {
+        std::fputs("the dialog ran another statement\n", stderr);
+        return EXIT_FAILURE;
+    }
+    return banco::stampaEsito(millisecondi, modello->rowCount(), argomenti.value(2).toLong());
+}

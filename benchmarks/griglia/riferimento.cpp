@@ -1,0 +1,101 @@
+// One run: the same page by the driver's calls alone, into buffers that are bound once. As in the program of
+// ours, a first connection is there already, like that of the screen that opens the search.
+
+#include "benchmarks/quadro/esito.h"
+
+#include <sql.h>
+#include <sqlext.h>
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int colonneMassime = 16;
+constexpr int larghezza = 256;
+
+struct Riga
+{
+    std::array<std::array<char, larghezza>, colonneMassime> valori;
+    std::array<SQLLEN, colonneMassime> lunghezze;
+};
+
+SQLCHAR* byte(std::string& testo)
+{
+    return reinterpret_cast<SQLCHAR*>(testo.data());
+}
+
+bool riuscita(SQLRETURN esito, const char* chiamata)
+{
+    if (!SQL_SUCCEEDED(esito))
+        std::fprintf(stderr, "%s: %d\n", chiamata, esito);
+    return SQL_SUCCEEDED(esito);
+}
+
+/// The rows that were read, -1 after a failure.
+long leggi(SQLHSTMT istruzione, long attese)
+{
+    SQLSMALLINT colonne = 0;
+    if (!riuscita(SQLNumResultCols(istruzione, &colonne), "SQLNumResultCols"))
+        return -1;
+    Riga riga{};
+    for (SQLUSMALLINT c = 0; c < colonne; ++c)
+        if (!riuscita(SQLBindCol(istruzione, static_cast<SQLUSMALLINT>(c + 1), SQL_C_CHAR,
+                                 riga.valori[c].data(), larghezza, &riga.lunghezze[c]),
+                      "SQLBindCol"))
+            return -1;
+    std::vector<std::string> pagina;
+    pagina.reserve(static_cast<std::size_t>(attese * colonne));
+    long righe = 0;
+    for (; righe < attese && SQL_SUCCEEDED(SQLFetch(istruzione)); ++righe)
+        for (std::size_t c = 0; c < static_cast<std::size_t>(colonne); ++c)
+            pagina.emplace_back(riga.valori[c].data(),
+                                riga.lunghezze[c] < 0 ? 0 : static_cast<std::size_t>(riga.lunghezze[c]));
+    return righe;
+}
+
+SQLHDBC collega(SQLHENV ambiente, std::string stringa)
+{
+    SQLHDBC collegamento = SQL_NULL_HDBC;
+    SQLAllocHandle(SQL_HANDLE_DBC, ambiente, &collegamento);
+    if (!riuscita(SQLDriverConnect(collegamento, nullptr, byte(stringa), SQL_NTS, nullptr, 0, nullptr,
+                                   SQL_DRIVER_NOPROMPT),
+                  "SQLDriverConnect"))
+        return SQL_NULL_HDBC;
+    return collegamento;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const char* connessione = std::getenv(banco::variabileConnessione);
+    if (argc != 3 || !connessione)
+        return EXIT_FAILURE;
+    const long attese = std::atol(argv[2]);
+    SQLHENV ambiente = SQL_NULL_HENV;
+    SQLAllocHandle(SQL_HANDLE_ENV, SQL_NULL_HANDLE, &ambiente);
+    SQLSetEnvAttr(ambiente, SQL_ATTR_ODBC_VERSION, reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3), 0);
+    const SQLHDBC schermata = collega(ambiente, connessione);
+
+    const banco::Cronometro cronometro;
+    const SQLHDBC ricerca = collega(ambiente, connessione);
+    if (!schermata || !ricerca)
+        return EXIT_FAILURE;
+    SQLHSTMT istruzione = SQL_NULL_HSTMT;
+    SQLAllocHandle(SQL_HANDLE_STMT, ricerca, &istruzione);
+    std::string testo = argv[1];
+    if (!riuscita(SQLExecDirect(istruzione, byte(testo), SQL_NTS), "SQLExecDirect"))
+        return EXIT_FAILURE;
+    const long righe = leggi(istruzione, attese);
+    const double millisecondi = cronometro.millisecondi();
+    const int esito = banco::stampaEsito(millisecondi, righe, attese);
+    SQLFreeHandle(SQL_HANDLE_STMT, istruzione);
+    for (const SQLHDBC collegamento : {ricerca, schermata}) {
+        SQLDisconnect(collegamento);
+        SQLFreeHandle(SQL_HANDLE_DBC, collegamento);
+    }
+    SQLFreeHandle(SQL_HANDLE_ENV, ambiente);
+    return esito;
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "benchmarks/quadro/basi.h"
+#include "benchmarks/quadro/misura.h"
+#include "benchmarks/quadro/opzioni.h"
+
+/// What can be measured. A new topic is a function here, a line in main.cpp, and its programs in a folder of
+/// its own.
+namespace banco {
+
+/// The shipment search: until its first page stands, and how much memory that takes.
+std::vector<Confronto> temaGriglia(const Basi& basi, const Opzioni& opzioni);
+
+} // namespace banco
