@@ -108,9 +108,19 @@ void Regista::rispondendo(const std::function<void()>& azione, std::deque<Rispos
 void Regista::guardaDialoghi()
 {
     QWidget* dialogo = QApplication::activeModalWidget();
-    if (!dialogo || !dialogo->isVisible() || dialogo == mRisposto)
+    if (!dialogo || !dialogo->isVisible())
         return;
+    if (dialogo == mRisposto) {
+        // An answer that did not close its dialog would keep the action waiting for ever.
+        if (mDaQuando.hasExpired(pazienza)) {
+            mFallito = QStringLiteral("la finestra %1 è rimasta aperta").arg(dialogo->objectName());
+            mRisposte.clear();
+            dialogo->close();
+        }
+        return;
+    }
     mRisposto = dialogo;
+    mDaQuando.start();
     // Boxes follow one another at one address: a closed one is no longer the one that was answered.
     connect(dialogo, &QObject::destroyed, this, [this] { mRisposto = nullptr; });
     if (mRisposte.empty()) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QStringList>
 #include <QTimer>
@@ -67,5 +68,6 @@ private:
     QTimer mSguardo;
     std::deque<Risposta> mRisposte;
     QWidget* mRisposto = nullptr;
+    QElapsedTimer mDaQuando;
     QString mFallito;
 };

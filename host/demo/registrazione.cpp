@@ -1,73 +1,12 @@
 #include "registrazione.h"
 
-#include <QDir>
+#include "salvata.h"
 
-#include <algorithm>
+#include <QAbstractItemView>
 
 using namespace giacenza;
 
 namespace {
-
-const QString aggiunta = QStringLiteral("Giacenza aggiunta in database.");
-
-struct Numerata
-{
-    Spedizione spedizione;
-    QString numero;
-    int anno = 0;
-};
-
-qint64 contatore(Archivio& archivio)
-{
-    return archivio.valore(QStringLiteral("select UltimoNumGiacenza from ekelvorqzt_tabge00f")).toLongLong();
-}
-
-/// The row, its link and its notice are in the database; the counter has moved by one; the letter is there.
-void verificaCaso(Archivio& archivio, const Numerata& caso, qint64 contatorePrima, const QString& cartella)
-{
-    const Spedizione& s = caso.spedizione;
-    const auto riga =
-        archivio.riga(QStringLiteral("select GINRGI, GIANGI, GINRAV, GIDTAV, GICODI, GIDTBF from giace00f "
-                                     "where GIFILI='%1' and GINRLV='%2' and GIANLV=%3")
-                          .arg(s.filiale, s.numero, s.anno));
-    Regista::verifica(riga.size() == 6, QStringLiteral("la giacenza %1 non è in archivio").arg(caso.numero));
-    Regista::verifica(riga[0] == caso.numero && riga[1] == QString::number(caso.anno),
-                      QStringLiteral("la giacenza %1 è in archivio con un altro numero").arg(caso.numero));
-    Regista::verifica(riga[2] == QStringLiteral("1") && riga[3],
-                      QStringLiteral("l'avviso della giacenza %1 non è contato").arg(caso.numero));
-    Regista::verifica(riga[4] == s.cliente && !riga[5],
-                      QStringLiteral("la giacenza %1 ha un altro cliente, o è chiusa").arg(caso.numero));
-    const auto legame = archivio.riga(QStringLiteral("select LERFGI, LEANGI, LEDTCO from letve00f "
-                                                     "where lefili='%1' and lenrlv='%2' and leanlv=%3")
-                                          .arg(s.filiale, s.numero, s.anno));
-    Regista::verifica(legame.size() == 3 && legame[0] == caso.numero &&
-                          legame[1] == QString::number(caso.anno) && !legame[2],
-                      QStringLiteral("la LDV %1 non è legata alla giacenza %2").arg(s.numero, caso.numero));
-    Regista::verifica(contatore(archivio) == contatorePrima + 1,
-                      QStringLiteral("il contatore non è avanzato di uno"));
-    const QString file = QStringLiteral("%1_%2.pdf").arg(caso.numero).arg(caso.anno);
-    Regista::verifica(QFileInfo(QDir(cartella).filePath(file)).size() > 0,
-                      QStringLiteral("manca il documento %1").arg(file));
-}
-
-/// Presses save, takes the messages, and gives back what the screen shows as the new number.
-Numerata salva(Regista& regista, Archivio& archivio, QWidget* schermata, const Spedizione& spedizione,
-               const QString& cartella)
-{
-    const qint64 prima = contatore(archivio);
-    regista.passo(QStringLiteral("  Alt+S: salva"));
-    regista.rispondendo([&] { regista.preme(schermata, Qt::Key_S, Qt::AltModifier); },
-                        {regista.messaggio(aggiunta)});
-    const Numerata caso = {
-        spedizione, Regista::testo(schermata, QStringLiteral("lblNrGia")),
-        giacenza::leggiData(Regista::testo(schermata, QStringLiteral("txtDataGia")))->year()};
-    regista.fotografa(schermata, QStringLiteral("salvata"));
-    verificaCaso(archivio, caso, prima, cartella);
-    regista.passo(QStringLiteral("  Giacenza %1 del %2 in archivio, LDV legata, avviso %1_%2.pdf")
-                      .arg(caso.numero)
-                      .arg(caso.anno));
-    return caso;
-}
 
 void digitata(Regista& regista, cGiacenza& componente, Archivio& archivio, const Spedizione& s,
               const QString& cartella)
@@ -94,7 +33,7 @@ void digitata(Regista& regista, cGiacenza& componente, Archivio& archivio, const
     regista.scrive(schermata, QStringLiteral("txtDescGia"),
                    QStringLiteral("Destinatario assente, negozio chiuso"));
     regista.fotografa(schermata, QStringLiteral("compilata"));
-    salva(regista, archivio, schermata, s, cartella);
+    salvaEVerifica(regista, archivio, schermata, s, cartella);
 
     regista.passo(QStringLiteral("  Ancora Alt+S: la spedizione è già in giacenza"));
     regista.rispondendo(
@@ -115,7 +54,65 @@ void consegnata(Regista& regista, cGiacenza& componente, Archivio& archivio, con
         QStringLiteral("la LDV %1 non è stata trovata").arg(s.numero));
     regista.scrive(schermata, QStringLiteral("txtDescGia"), QStringLiteral("Indirizzo sconosciuto"));
     regista.fotografa(schermata, QStringLiteral("consegnata"));
-    salva(regista, archivio, schermata, s, cartella);
+    salvaEVerifica(regista, archivio, schermata, s, cartella);
+    regista.clicca(schermata, QStringLiteral("cmdEsci"));
+}
+
+/// Arrow keys down a list or a grid until the row that is wanted is current.
+void scorre(Regista& regista, QWidget* elenco, const std::function<bool(const QModelIndex&)>& voluta)
+{
+    auto* vista = qobject_cast<QAbstractItemView*>(elenco);
+    Regista::verifica(vista && vista->model(), QStringLiteral("non c'è un elenco"));
+    // A list takes no row that only has the focus: the first arrow marks it.
+    const auto scelta = [vista] { return vista->selectionModel()->isSelected(vista->currentIndex()); };
+    for (int passi = 0; !scelta() || !voluta(vista->currentIndex()); ++passi) {
+        Regista::verifica(passi < 2'000, QStringLiteral("la riga cercata non è nell'elenco"));
+        regista.preme(elenco, Qt::Key_Down);
+    }
+}
+
+void cercata(Regista& regista, cGiacenza& componente, Archivio& archivio, const Spedizione& s,
+             const QString& cartella)
+{
+    const QString nome =
+        archivio.valore(QStringLiteral("select RagioneSociale from clien where Codice=%1").arg(s.cliente));
+    regista.passo(QStringLiteral("Registrazione cercando il cliente per nome e la LDV nell'elenco"));
+    componente.NuovaGiacenza();
+    QWidget* schermata = regista.finestra(QStringLiteral("frmGiacenza"));
+    regista.rispondendo(
+        [&] { regista.clicca(schermata, QStringLiteral("cmdCercaCliente")); }, {[&](QWidget* dialogo) {
+            regista.clicca(dialogo, QStringLiteral("optRagSoc"));
+            regista.scrive(dialogo, QStringLiteral("txtCerca"), nome.section(QLatin1Char(' '), 0, 0));
+            regista.preme(Regista::controllo(dialogo, QStringLiteral("txtCerca")), Qt::Key_Return);
+            QWidget* elenco = Regista::controllo(dialogo, QStringLiteral("lstCerca"));
+            elenco->setFocus();
+            scorre(regista, elenco, [&](const QModelIndex& riga) { return riga.data() == nome; });
+            regista.fotografa(dialogo, QStringLiteral("ricerca-cliente"));
+            regista.preme(elenco, Qt::Key_Return);
+        }});
+    Regista::verifica(Regista::testo(schermata, QStringLiteral("txtCodiceCli")) == s.cliente,
+                      QStringLiteral("il cliente %1 non è stato preso").arg(nome));
+    regista.passo(QStringLiteral("  Cliente %1: %2").arg(s.cliente, nome));
+
+    regista.scrive(schermata, QStringLiteral("txtFiliale"), s.filiale);
+    regista.scrive(schermata, QStringLiteral("txtLDV"), s.numero.left(1));
+    regista.scrive(schermata, QStringLiteral("txtDataLdv"), QString(s.data).remove(QLatin1Char('/')));
+    regista.rispondendo(
+        [&] { regista.preme(Regista::controllo(schermata, QStringLiteral("txtDataLdv")), Qt::Key_F9); },
+        {[&](QWidget* dialogo) {
+            QWidget* griglia = Regista::controllo(dialogo, QStringLiteral("Griglia"));
+            griglia->setFocus();
+            scorre(regista, griglia, [&](const QModelIndex& riga) {
+                return riga.siblingAtColumn(0).data() == s.numero && riga.siblingAtColumn(1).data() == s.data;
+            });
+            regista.fotografa(dialogo, QStringLiteral("ricerca-ldv"));
+            regista.preme(griglia, Qt::Key_Return);
+        }});
+    Regista::verifica(Regista::testo(schermata, QStringLiteral("txtDestinatario")) == s.destinatario,
+                      QStringLiteral("la LDV %1 non è stata presa dall'elenco").arg(s.numero));
+    regista.passo(QStringLiteral("  Scelta la LDV %1 del %2").arg(s.numero, s.data));
+    regista.scrive(schermata, QStringLiteral("txtDescGia"), QStringLiteral("Merce rifiutata"));
+    salvaEVerifica(regista, archivio, schermata, s, cartella);
     regista.clicca(schermata, QStringLiteral("cmdEsci"));
 }
 
@@ -132,6 +129,9 @@ void raccontaRegistrazione(Regista& regista, cGiacenza& componente, Archivio& ar
                      QStringLiteral("la chiusura della schermata non è stata annunciata"));
     consegnata(regista, componente, archivio, libere[1], cartella);
     Regista::attende([&] { return chiusure == 2; },
+                     QStringLiteral("la chiusura della schermata non è stata annunciata"));
+    cercata(regista, componente, archivio, libere[2], cartella);
+    Regista::attende([&] { return chiusure == 3; },
                      QStringLiteral("la chiusura della schermata non è stata annunciata"));
     QObject::disconnect(&componente, &cGiacenza::fine, &regista, nullptr);
 }
