@@ -1,6 +1,7 @@
 #include "component/registraforme.h"
 
 #include "component/forme.h"
+#include "management/frmGestGia.h"
 #include "registration/frmGiacenza.h"
 
 namespace giacenza {
@@ -8,6 +9,7 @@ namespace giacenza {
 void registraForme(Forme& forme)
 {
     forme.registra<frmGiacenza>(QStringLiteral("frmGiacenza"));
+    forme.registra<frmGestGia>(QStringLiteral("frmGestGia"));
 }
 
 } // namespace giacenza

@@ -29,33 +29,41 @@ StatoAvviso LeggiDatiAvviso(const QString& stringa, const ChiaveCaso& chiave)
 
 QString istruzioneSuccessivo(const ChiaveCaso& chiave, qint16 numero, QDate oggi, const QString& descrizione)
 {
-    if (const auto* giacenza = std::get_if<ChiaveGiacenza>(&chiave))
-        return istruzioni::avvisoSuccessivo(*giacenza, numero, oggi, RaddoppiaApice(descrizione));
-    return istruzioni::avvisoSuccessivo(std::get<ChiaveSpedizione>(chiave), numero, oggi);
+    const auto* giacenza = std::get_if<ChiaveGiacenza>(&chiave);
+    if (!giacenza)
+        return istruzioni::avvisoSuccessivo(std::get<ChiaveSpedizione>(chiave), numero, oggi);
+    try {
+        return istruzioni::avvisoSuccessivo(*giacenza, numero, oggi,
+                                            RaddoppiaApice(conRitorniACapo(descrizione)));
+    } catch (const ErroreDatabase&) {
+        // The key has already been in a statement: it is the description that would leave its place.
+        throw ErroreConversione(QStringLiteral(
+            "La descrizione non si può scrivere: contiene più di un apostrofo. Lasciarne uno e ripetere."));
+    }
 }
 
 } // namespace
 
-ContoAvviso contaAvviso(Connessione& connessione, const QString& stringa, const ChiaveCaso& chiave,
-                        QDate oggi, const QString& descrizione)
+std::optional<qint16> contaAvviso(Connessione& connessione, const QString& stringa, const ChiaveCaso& chiave,
+                                  QDate oggi, const QString& descrizione)
 {
     const StatoAvviso stato = LeggiDatiAvviso(stringa, chiave);
     if (stato.numero.isEmpty()) {
         connessione.esegui(
             std::visit([&](const auto& c) { return istruzioni::primoAvviso(c, oggi); }, chiave));
-        return ContoAvviso::primo;
+        return 1;
     }
     const auto ultimo = leggiData(stato.data);
     if (!ultimo)
         throw ErroreConversione(
-            QStringLiteral("La data dell'ultimo avviso non è una data: %1").arg(stato.data));
+            QStringLiteral("La data dell'ultimo avviso non è una data: \"%1\"").arg(stato.data));
     if (*ultimo >= oggi)
-        return ContoAvviso::stessoGiorno;
+        return std::nullopt;
     const int numero = intero16(stato.numero) + 1;
     if (numero > std::numeric_limits<qint16>::max())
         throw ErroreConversione(QStringLiteral("Il numero degli avvisi è troppo grande: %1").arg(numero));
     connessione.esegui(istruzioneSuccessivo(chiave, static_cast<qint16>(numero), oggi, descrizione));
-    return ContoAvviso::successivo;
+    return static_cast<qint16>(numero);
 }
 
 } // namespace giacenza

@@ -3,6 +3,8 @@
 #include <QDate>
 #include <QString>
 
+#include <variant>
+
 namespace giacenza {
 
 /// How the registration screen names a held shipment: by the waybill that is held.
@@ -19,6 +21,9 @@ struct ChiaveGiacenza
     QString numero;
     int anno = 0; ///< of the held shipment
 };
+
+/// By what a screen names the held shipment that it shows.
+using ChiaveCaso = std::variant<ChiaveSpedizione, ChiaveGiacenza>;
 
 } // namespace giacenza
 

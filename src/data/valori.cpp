@@ -74,6 +74,11 @@ QString RaddoppiaApice(const QString& testo)
     return primo < 0 ? testo : QString(testo).insert(primo, u'\'');
 }
 
+QString conRitorniACapo(const QString& testo)
+{
+    return QString(testo).replace(u"\r\n"_s, u"\n"_s).replace(u'\n', u"\r\n"_s);
+}
+
 QString valuta(const QString& valore)
 {
     QString testo = arrotonda(valore, 2, Arrotondamento::alPari).replace(u'.', u',');

@@ -71,6 +71,9 @@ QString FormattaNumero(QString& valore);
 /// Doubles the first apostrophe of a text, and only the first.
 QString RaddoppiaApice(const QString& testo);
 
+/// A text of several lines as the database keeps it: every line end, LF or CR LF, becomes CR LF.
+QString conRitorniACapo(const QString& testo);
+
 /// An exact decimal text as Italian currency, whatever the locale of the process: "1234.5" gives "1.234,50
 /// €". Halves to even. Throws ErroreConversione when valore is no number.
 QString valuta(const QString& valore);

@@ -2,13 +2,11 @@
 
 #include "component/impostazioni.h"
 #include "component/orologio.h"
-#include "data/avviso.h"
 #include "redelivery/frmCalendario.h"
 #include "registration/salvataggio.h"
 #include "registration/ui_frmGiacenza.h"
 #include "screens/campi.h"
 #include "screens/ricercaspedizione.h"
-#include "screens/stampa.h"
 #include "widgets/tasti.h"
 
 #include <utility>
@@ -18,7 +16,7 @@ namespace giacenza {
 using istruzioni::Giunzione;
 
 frmGiacenza::frmGiacenza()
-    : Schermata(QStringLiteral("frmGiacenza")), mUi(std::make_unique<Ui::frmGiacenza>())
+    : SchermataCaso(QStringLiteral("frmGiacenza")), mUi(std::make_unique<Ui::frmGiacenza>())
 {
     mUi->setupUi(this);
     preparaComuni(mappaRegistrazione());
@@ -31,7 +29,7 @@ frmGiacenza::~frmGiacenza() = default;
 void frmGiacenza::collega()
 {
     connect(mUi->cmdSalva, &QPushButton::clicked, this, gestore([this] { salva(); }));
-    connect(mUi->cmdAvvisoGia, &QPushButton::clicked, this, gestore([this] { EmettiAvvisoGiacenza(); }));
+    connect(mUi->cmdAvvisoGia, &QPushButton::clicked, this, gestore([this] { EmettiAvvisoGiacenza(false); }));
     connect(mCampi, &CampiSchermata::giacenzaLetta, this, &frmGiacenza::segnaGiacenza);
 
     connect(mUi->cmdData, &QPushButton::clicked, this, gestore([this] { scegliData(); }));
@@ -287,7 +285,7 @@ void frmGiacenza::inserisci()
         .cliente = txtCodiceCli->text(),
         .filialeGiacenza = testo(txtFilialeGia),
         .giorniSosta = testo(barGiorniSosta),
-        .dataAvviso = testo(mUi->lblDataAvviso),
+        .dataAvviso = testo(lblDataAvviso),
         .dataBuonFine = testo(lblDataBuonFine),
         .imponibile = testo(mUi->txtImponibile),
         .giacenzaPrecedente = testo(mUi->txtGiaOld),
@@ -305,42 +303,19 @@ void frmGiacenza::inserisci()
     segnaGiacenza(true);
     messaggio(QStringLiteral("Giacenza aggiunta in database."), Stile::informazione);
     try {
-        EmettiAvvisoGiacenza();
+        EmettiAvvisoGiacenza(false);
     } catch (const Errore& errore) {
         // What follows a save that succeeded ends without a message: the held shipment is there.
         stato(QStringLiteral("L'avviso non è stato emesso: %1").arg(errore.testo()));
     }
 }
 
-ChiaveSpedizione frmGiacenza::chiaveCaso() const
+ChiaveCaso frmGiacenza::chiaveAvviso(const ChiaveGiacenza&) const
 {
     const auto giorno = leggiData(testo(mUi->txtDataLdv));
     if (!giorno)
         throw ErroreConversione(QStringLiteral("La data della lettera di vettura non è valida."));
-    return {mUi->txtFiliale->text(), numeroLdv(mUi->txtLDV), giorno->year()};
-}
-
-void frmGiacenza::EmettiAvvisoGiacenza()
-{
-    const auto dataGiacenza = leggiData(testo(txtDataGia));
-    const QString numero = testo(lblNrGia);
-    if (numero.isEmpty() || !dataGiacenza)
-        return stato(QStringLiteral("Nessuna giacenza sullo schermo: non c'è un avviso da emettere."));
-    const auto didascalie = leggiDidascalie();
-    const QDate giorno = oggi();
-    if (contaAvviso(connessione(), impostazioni().percorsoDatabase, chiaveCaso(), giorno) !=
-        ContoAvviso::stessoGiorno)
-        scrivi(mUi->lblDataAvviso, dataSql(giorno));
-    const QString chiave = QStringLiteral("%1_%2").arg(numero).arg(dataGiacenza->year());
-    const QPointer<const Schermata> io(this);
-    const auto motivo = stampaDocumento(this, TipoDocumento::avviso, chiave, didascalie);
-    restaAperta(io);
-    if (!motivo)
-        return stato(QStringLiteral("Avviso di giacenza %1 prodotto.").arg(chiave));
-    stato(*motivo);
-    messaggio(QStringLiteral("L'avviso di giacenza non è stato stampato; la giacenza resta registrata.\n\n%1")
-                  .arg(*motivo),
-              Stile::avviso);
+    return ChiaveSpedizione{mUi->txtFiliale->text(), numeroLdv(mUi->txtLDV), giorno->year()};
 }
 
 } // namespace giacenza

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "data/istruzioni.h"
-#include "screens/schermata.h"
+#include "screens/schermatacaso.h"
 
 #include <memory>
 
@@ -13,7 +12,7 @@ namespace giacenza {
 
 /// The registration screen: finds a waybill of a customer, takes date, holding branch and reason, saves the
 /// held shipment and has its first notice printed.
-class frmGiacenza : public Schermata
+class frmGiacenza : public SchermataCaso
 {
     Q_OBJECT
     /// A waybill handed over by the host: looked up once all four are set and the screen is shown.
@@ -38,6 +37,7 @@ public:
 protected:
     void attivata() override;
     void clienteCercato() override;
+    ChiaveCaso chiaveAvviso(const ChiaveGiacenza& caso) const override;
 
 private:
     enum class Chiave
@@ -65,8 +65,6 @@ private:
 
     void salva();
     void inserisci();
-    void EmettiAvvisoGiacenza();
-    ChiaveSpedizione chiaveCaso() const;
 
     std::unique_ptr<Ui::frmGiacenza> mUi;
     QString mNLettVett;

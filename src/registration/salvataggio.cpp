@@ -46,11 +46,8 @@ Riga componiRiga(const DatiGiacenza& dati)
     if (!dati.giacenzaPrecedente.isEmpty())
         riga.emplace_back(QStringLiteral("GIVNRG"), dati.giacenzaPrecedente);
     seData(QStringLiteral("GIVDTG"), dati.dataPrecedente);
-    // The database keeps line ends as CR LF; the editor has LF.
-    const QString motivo = QString(dati.motivo)
-                               .replace(QLatin1String("\r\n"), QLatin1String("\n"))
-                               .replace(QLatin1Char('\n'), QLatin1String("\r\n"));
-    riga.emplace_back(QStringLiteral("GIDES1"), dati.dataGiacenza + QStringLiteral(" - ") + motivo);
+    riga.emplace_back(QStringLiteral("GIDES1"),
+                      dati.dataGiacenza + QStringLiteral(" - ") + conRitorniACapo(dati.motivo));
     riga.emplace_back(QStringLiteral("GIANGI"), QString::number(dataGiacenza.year()));
     riga.emplace_back(QStringLiteral("GIDTGI"), dataSql(dataGiacenza));
     return riga;

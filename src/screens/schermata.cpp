@@ -26,9 +26,12 @@ namespace {
 /// What tells a field to type in from one to look at, and a value that counts from one that does not.
 constexpr char16_t aspetto[] = uR"(
 QLineEdit[readOnly="true"], QPlainTextEdit[readOnly="true"] { background-color: palette(window); }
+QLineEdit:disabled { background-color: palette(window); }
 QComboBox:disabled { color: palette(text); }
 QLabel[barra="true"] { padding: 3px 4px; }
 QLabel#lblGiaInGiacenza { background-color: #a3261b; color: white; font-weight: bold; padding: 3px 10px; }
+QLabel#lblStatoCaso { background-color: #1f5c99; color: white; font-weight: bold; padding: 3px 10px; }
+QLabel#lblStatoCaso[chiusa="true"] { background-color: #5a5f66; }
 *[avanzo="true"] { color: #808080; font-style: italic; }
 )";
 
@@ -67,6 +70,7 @@ void Schermata::preparaComuni(const MappaSpedizione& mappa)
     barFilialeGia = trova<QLabel>("barFilialeGia");
     txtDataGia = trova<CampoData>("txtDataGia");
     lblDataLav = trova<QLabel>("lblDataLav");
+    lblDataAvviso = trova<QLabel>("lblDataAvviso");
     lblDataBuonFine = trova<QLabel>("lblDataBuonFine");
     lblNrGia = trova<QLabel>("lblNrGia");
     barGiorniSosta = trova<QLabel>("barGiorniSosta");
@@ -220,6 +224,7 @@ bool Schermata::mostraSpedizione(const QString& istruzione)
     if (riga.bof() || riga.eof())
         return false;
     CaricaDatiSpedizione(riga, *mMappa, *mCampi);
+    rigaMostrata(riga);
     riga.chiudi();
     leggiFilialeGia();
     CalcolaGiorniSosta();

@@ -73,6 +73,9 @@ protected:
     /// is none. Throws ErroreDatabase.
     bool mostraSpedizione(const QString& istruzione);
 
+    /// The row that the screen was just filled from: for what a screen shows besides.
+    virtual void rigaMostrata([[maybe_unused]] const Recordset& riga) {}
+
     /// Writes the storage days into their bar: nothing when the held-shipment date is no date.
     void CalcolaGiorniSosta();
 
@@ -99,6 +102,7 @@ protected:
     QLabel* barFilialeGia = nullptr;
     CampoData* txtDataGia = nullptr;
     QLabel* lblDataLav = nullptr;
+    QLabel* lblDataAvviso = nullptr;
     QLabel* lblDataBuonFine = nullptr;
     QLabel* lblNrGia = nullptr;
     QLabel* barGiorniSosta = nullptr;

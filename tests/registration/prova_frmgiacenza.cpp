@@ -1,4 +1,4 @@
-#include "registration/schermatadiprova.h"
+#include "registration/registrazionediprova.h"
 
 #include "screens/campi.h"
 #include "support/stampa.h"
@@ -15,7 +15,7 @@ using testing::IsEmpty;
 
 namespace {
 
-class Registrazione : public SchermataDiProva
+class Registrazione : public RegistrazioneDiProva
 {};
 
 INSTANTIATE_TEST_SUITE_P(Basi, Registrazione, testing::Values("sqlite", "mariadb"),
@@ -356,8 +356,7 @@ TEST_P(Registrazione, SenzaGiacenzaSulloSchermoNonCELAvviso)
     consegna(QStringLiteral("4711"));
     EXPECT_THAT(istruzioni([&] { clicca("cmdAvvisoGia"); }), IsEmpty());
     EXPECT_THAT(mStampe, IsEmpty());
-    EXPECT_EQ(mostrato("lblStato"),
-              QStringLiteral("Nessuna giacenza sullo schermo: non c'è un avviso da emettere."));
+    EXPECT_EQ(mostrato("lblStato"), QStringLiteral("Nessuna giacenza sullo schermo: richiamarne una prima."));
 }
 
 TEST_P(Registrazione, UscendoChiudeIlCollegamentoEPoiLoDice)

@@ -1,4 +1,4 @@
-#include "registration/schermatadiprova.h"
+#include "registration/registrazionediprova.h"
 
 #include "component/impostazioni.h"
 #include "data/traccia.h"
@@ -15,7 +15,7 @@ using testing::StartsWith;
 
 namespace {
 
-class RegistrazioneGuasti : public SchermataDiProva
+class RegistrazioneGuasti : public RegistrazioneDiProva
 {
 protected:
     /// While it lives, every statement that begins so fails; with 08S01 the connection is lost too.

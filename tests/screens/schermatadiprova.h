@@ -1,6 +1,6 @@
 #pragma once
 
-#include "registration/frmGiacenza.h"
+#include "screens/schermata.h"
 #include "support/bancadati.h"
 #include "support/registromessaggi.h"
 #include "support/spedizioni.h"
@@ -36,19 +36,18 @@ private:
     bool mNonProdotto;
 };
 
-/// The registration screen, shown, on a database with the small depot; the day is 21/11/2026.
+/// A working screen, shown, on a database with the small depot; the day is 21/11/2026. A test of a screen
+/// derives and says which.
 class SchermataDiProva : public testing::TestWithParam<std::string>
 {
 protected:
     SchermataDiProva();
     ~SchermataDiProva() override;
 
-    /// Opens the screen as NuovaGiacenza does.
+    /// The screen under test, not loaded yet.
+    virtual std::unique_ptr<Schermata> crea() const = 0;
+    /// Opens the screen as the component does.
     void apri();
-    /// Opens it, if it is not, with a waybill handed over, and lets it react.
-    void consegna(const QString& ldv, const QString& data, const QString& filiale, const QString& cliente);
-    /// A waybill of the small depot, of 12/11/2026 and branch MI.
-    void consegna(const QString& ldv);
 
     QWidget* c(const char* nome) const;
     QString mostrato(const char* nome) const;
@@ -69,7 +68,7 @@ protected:
     QStringList mStampe;
     QString mGuastoStampa;
     bool mStampaNonProdotta = false;
-    QPointer<frmGiacenza> mSchermata;
+    QPointer<Schermata> mSchermata;
 };
 
 } // namespace giacenza::prove

@@ -1,4 +1,4 @@
-#include "registration/schermatadiprova.h"
+#include "screens/schermatadiprova.h"
 
 #include "component/impostazioni.h"
 #include "component/orologio.h"
@@ -79,28 +79,11 @@ SchermataDiProva::~SchermataDiProva()
 
 void SchermataDiProva::apri()
 {
-    auto nuova = std::make_unique<frmGiacenza>();
+    auto nuova = crea();
     nuova->carica();
     mSchermata = nuova.release();
     mSchermata->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(mSchermata));
-}
-
-void SchermataDiProva::consegna(const QString& ldv, const QString& data, const QString& filiale,
-                                const QString& cliente)
-{
-    if (!mSchermata)
-        apri();
-    mSchermata->setProperty("NLettVett", ldv);
-    mSchermata->setProperty("DataLdv", data);
-    mSchermata->setProperty("Filiale", filiale);
-    mSchermata->setProperty("CodiceCliente", cliente);
-    QCoreApplication::processEvents();
-}
-
-void SchermataDiProva::consegna(const QString& ldv)
-{
-    consegna(ldv, QStringLiteral("12/11/2026"), QStringLiteral("MI"), QStringLiteral("1001"));
 }
 
 QWidget* SchermataDiProva::c(const char* nome) const

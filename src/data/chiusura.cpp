@@ -1,0 +1,63 @@
+#include "data/chiusura.h"
+
+#include "data/recordset.h"
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza {
+
+namespace {
+
+QString dovuto(const Valore& valore, const QString& colonna)
+{
+    if (!valore)
+        throw ErroreConversione(
+            u"Le condizioni di fatturazione del cliente sono incomplete: manca %1."_s.arg(colonna));
+    return *valore;
+}
+
+QString opposto(const QString& numero)
+{
+    return prodotto(numero, u"-1"_s);
+}
+
+} // namespace
+
+QString LeggiDataBuonFine(const QString& stringa, const ChiaveCaso& chiave)
+{
+    const QString istruzione = std::visit([](const auto& c) { return istruzioni::dataBuonFine(c); }, chiave);
+    Connessione connessione;
+    connessione.apri(stringa);
+    Recordset caso;
+    caso.apri(connessione, istruzione);
+    return caso.eof() ? QString() : caso.valore(0).value_or(QString());
+}
+
+std::optional<CondizioniSosta> leggiCondizioni(Connessione& connessione, const QString& numeroLdv,
+                                               const QuandoLdv& quando)
+{
+    Recordset righe;
+    righe.apri(connessione,
+               std::visit([&](auto q) { return istruzioni::condizioniFatturazione(numeroLdv, q); }, quando));
+    if (righe.eof())
+        return std::nullopt;
+    return CondizioniSosta{righe.valore(u"FADFGI"_s), righe.valore(u"FAFRGI"_s), righe.valore(u"FATGIG"_s),
+                           righe.valore(u"FAMIGI"_s)};
+}
+
+ImportiGiacenza calcolaImporti(const CondizioniSosta& condizioni, const QString& giorni)
+{
+    ImportiGiacenza importi = {dovuto(condizioni.fisso, u"FADFGI"_s), u"0"_s};
+    const QString sosta = QString::number(intero16(giorni));
+    const qint16 daPagare = intero16(somma(sosta, opposto(dovuto(condizioni.giorniFranchi, u"FAFRGI"_s))));
+    if (daPagare <= 0)
+        return importi;
+    importi.sosta = arrotonda(prodotto(dovuto(condizioni.alGiorno, u"FATGIG"_s), QString::number(daPagare)),
+                              2, Arrotondamento::alPari);
+    const QString minimo = dovuto(condizioni.minimo, u"FAMIGI"_s);
+    if (confronta(importi.sosta, minimo) < 0)
+        importi.sosta = minimo;
+    return importi;
+}
+
+} // namespace giacenza

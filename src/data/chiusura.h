@@ -1,0 +1,48 @@
+#pragma once
+
+#include "data/connessione.h"
+#include "data/istruzioni.h"
+#include "data/valori.h"
+
+#include <optional>
+#include <variant>
+
+namespace giacenza {
+
+/// The closure date of a held shipment, read on a connection of its own: empty when there is no such held
+/// shipment or it is open. stringa: the connection string. Throws ErroreDatabase.
+QString LeggiDataBuonFine(const QString& stringa, const ChiaveCaso& chiave);
+
+/// A customer's billing terms of storage, as the database has them; amounts in euro.
+struct CondizioniSosta
+{
+    Valore fisso;         ///< FADFGI, charged once
+    Valore giorniFranchi; ///< FAFRGI, days that are not charged
+    Valore alGiorno;      ///< FATGIG, for each day charged
+    Valore minimo;        ///< FAMIGI, the least that is charged when a day is
+};
+
+/// The charges of a held shipment in euro, exact decimals.
+struct ImportiGiacenza
+{
+    QString fisso;
+    QString sosta;
+};
+
+/// What a waybill's terms are found by beside its number: the management screen has its year, the
+/// registration screen its date.
+using QuandoLdv = std::variant<int, QDate>;
+
+/// The terms of the customer of a waybill; the first row when there are several, nothing when there is none.
+/// Throws ErroreDatabase.
+std::optional<CondizioniSosta> leggiCondizioni(Connessione& connessione, const QString& numeroLdv,
+                                               const QuandoLdv& quando);
+
+/// Works the charges out. giorni: the storage days as the screen shows them.
+///
+/// The days beyond the free ones are charged, rounded to cents, halves to even, and at least the minimum,
+/// which is taken as it is. Within the free days only the fixed fee is due. Throws ErroreConversione when a
+/// term that is needed is null, or days are no 16-bit number.
+ImportiGiacenza calcolaImporti(const CondizioniSosta& condizioni, const QString& giorni);
+
+} // namespace giacenza

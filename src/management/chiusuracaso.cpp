@@ -1,0 +1,117 @@
+// What the management screen does with the case that it shows: the notice and the closure.
+
+#include "component/impostazioni.h"
+#include "component/orologio.h"
+#include "data/chiusura.h"
+#include "management/frmGestGia.h"
+#include "management/ui_frmGestGia.h"
+#include "redelivery/frmRifiuto.h"
+#include "screens/campi.h"
+#include "screens/costibuonfine.h"
+#include "screens/stampa.h"
+
+namespace giacenza {
+
+void frmGestGia::emettiAvviso()
+{
+    if (!casoMostrato())
+        return;
+    const QString chiusura = testo(lblDataBuonFine);
+    if (eData(chiusura)) {
+        messaggio(QStringLiteral("La giacenza risulta chiusa,in data: %1.").arg(chiusura),
+                  Stile::informazione, titoloGestione());
+        return;
+    }
+    const QPointer<const Schermata> io(this);
+    // The screen, and the dialog with it, may be destroyed while the dialog is open.
+    const QPointer<frmRifiuto> rifiuto = new frmRifiuto(this);
+    rifiuto->exec();
+    restaAperta(io);
+    const bool confermato = rifiuto->Confermato();
+    const QString riga =
+        QStringLiteral("\n%1 - %2").arg(dataBreve(rifiuto->DataRifiuto()), rifiuto->MotivazioneRifiuto());
+    delete rifiuto;
+    if (!confermato)
+        return;
+    scrivi(mUi->txtDescGia, testo(mUi->txtDescGia) + riga);
+    EmettiAvvisoGiacenza(false, testo(mUi->txtDescGia));
+}
+
+void frmGestGia::ristampa()
+{
+    EmettiAvvisoGiacenza(true);
+}
+
+bool frmGestGia::avvisoAmmesso()
+{
+    if (!eData(testo(lblDataBuonFine)))
+        return true;
+    messaggio(QStringLiteral("E' già stato rilasciato il buon fine per questa giacenza."), Stile::avviso);
+    return false;
+}
+
+void frmGestGia::avvisoContato(int numero)
+{
+    mAvvisi = numero;
+    mostraStatoCaso();
+}
+
+void frmGestGia::ChiudiGiacenza()
+{
+    MostraCostiBuonFine();
+    const auto caso = casoMostrato();
+    if (!caso)
+        return;
+    if (!eData(testo(lblDataAvviso))) {
+        messaggio(QStringLiteral("Non è stato ancora emesso un avviso di giacenza."), Stile::avviso);
+        return;
+    }
+    scriviChiusura(*caso);
+    CalcolaCostiGiacenza();
+    if (mUi->optCostiNo->isChecked())
+        NascondiCostiBuonFine(CostiNascosti::tutti);
+    stampaCaso(TipoDocumento::buonFine, *caso, leggiDidascalie(),
+               {QStringLiteral("Giacenza %1 chiusa, documento di buon fine prodotto."),
+                QStringLiteral("Il documento di buon fine non è stato stampato; la giacenza resta chiusa.")});
+}
+
+void frmGestGia::scriviChiusura(const ChiaveGiacenza& caso)
+{
+    const QString giorni = testo(barGiorniSosta);
+    if (eData(LeggiDataBuonFine(impostazioni().percorsoDatabase, caso))) {
+        connessione().esegui(istruzioni::chiusuraRipetuta(caso, giorni));
+        return;
+    }
+    const QDate giorno = oggi();
+    connessione().esegui(istruzioni::chiusura(caso, giorno, giorni));
+    scrivi(lblDataBuonFine, dataBreve(giorno));
+    mostraStatoCaso();
+}
+
+void frmGestGia::CalcolaCostiGiacenza()
+{
+    bool intero = false;
+    const ChiaveSpedizione ldv = {testo(mUi->txtFiliale), testo(mUi->txtLDV),
+                                  testo(mUi->txtAnnoLdv).toInt(&intero)};
+    if (!intero)
+        throw ErroreConversione(QStringLiteral("Manca l'anno della lettera di vettura."));
+    const auto condizioni = leggiCondizioni(connessione(), ldv.numero, ldv.anno);
+    if (!condizioni)
+        return;
+    const ImportiGiacenza importi = calcolaImporti(*condizioni, testo(barGiorniSosta));
+    SalvaCostiGiacenza(ldv, importi.fisso, importi.sosta);
+}
+
+void frmGestGia::SalvaCostiGiacenza(const ChiaveSpedizione& ldv, const QString& fisso, const QString& importo)
+{
+    Connessione& schermo = connessione();
+    schermo.esegui(istruzioni::salvaCosti(ldv, fisso, importo));
+    QString mostrato = importo;
+    FormattaNumero(mostrato);
+    scrivi(mUi->txtImponibile, mostrato);
+    schermo.chiudi();
+    for (QWidget* campo : {mUi->txtRiferimento, mUi->txtAnnoRif, mUi->txtFiliale, mUi->txtLDV})
+        campo->setEnabled(false);
+}
+
+} // namespace giacenza

@@ -1,0 +1,210 @@
+#include "management/frmGestGia.h"
+
+#include "component/orologio.h"
+#include "data/recordset.h"
+#include "management/ui_frmGestGia.h"
+#include "screens/campi.h"
+#include "widgets/tasti.h"
+
+#include <QScopedValueRollback>
+
+namespace giacenza {
+
+using istruzioni::Giunzione;
+
+frmGestGia::frmGestGia()
+    : SchermataCaso(QStringLiteral("frmGestGia")), mUi(std::make_unique<Ui::frmGestGia>())
+{
+    mUi->setupUi(this);
+    preparaComuni(mappaGestione());
+    collega();
+    ImpostaModoRicerca(false);
+    mostraStatoCaso();
+}
+
+frmGestGia::~frmGestGia() = default;
+
+void frmGestGia::collega()
+{
+    connect(mUi->chkRicerca, &QCheckBox::clicked, this, &frmGestGia::ImpostaModoRicerca);
+    connect(mUi->cmdRicGiac, &QPushButton::clicked, this, gestore([this] { richiama(); }));
+    connect(mUi->cmdAvvisoGia, &QPushButton::clicked, this, gestore([this] { emettiAvviso(); }));
+    connect(mUi->cmdRistampa, &QPushButton::clicked, this, gestore([this] { ristampa(); }));
+    connect(mUi->cmdBuonFine, &QPushButton::clicked, this, gestore([this] { ChiudiGiacenza(); }));
+
+    mConvalida->aggiungi(mUi->txtNGiace, [this] {
+        if (!mRichiamando)
+            PulisciCampi();
+        return Seguito();
+    });
+    mConvalida->aggiungi(mUi->txtDataGiace, [this] { return convalidaDataGiace(); });
+    for (const Qt::Key invio : {Qt::Key_Return, Qt::Key_Enter}) {
+        suTasto(mUi->txtNGiace, invio, [this] { mUi->txtDataGiace->setFocus(); });
+        suTasto(mUi->txtDataGiace, invio, gestore([this] { richiama(); }));
+    }
+}
+
+void frmGestGia::attivata()
+{
+    Schermata::attivata();
+    ImpostaModoRicerca(false);
+}
+
+void frmGestGia::ImpostaModoRicerca(bool perCliente)
+{
+    mUi->chkRicerca->setText(perCliente ? QStringLiteral("Ric. cod. cliente")
+                                        : QStringLiteral("Ric. per n. giacenza"));
+    const std::initializer_list<QWidget*> perNumero = {mUi->lblGiace, mUi->txtNGiace, mUi->lblDataGiace,
+                                                       mUi->txtDataGiace};
+    for (QWidget* controllo : perNumero)
+        controllo->setEnabled(!perCliente);
+    const std::initializer_list<QWidget*> delCliente = {mUi->lblCliente, txtCodiceCli, barCliente,
+                                                        cmdCercaCliente};
+    for (QWidget* controllo : delCliente)
+        controllo->setEnabled(perCliente);
+    if (perCliente)
+        bloccaCliente(false);
+}
+
+void frmGestGia::PulisciCampi()
+{
+    pulisciFuoriDa({mUi->txtNGiace});
+}
+
+void frmGestGia::pulisciFuoriDa(const QList<QWidget*>& tenuti)
+{
+    const auto daPulire = [&](const QWidget* controllo) {
+        // The line of an editable list is the list's own.
+        return !tenuti.contains(controllo) && !qobject_cast<QComboBox*>(controllo->parentWidget());
+    };
+    const auto righe = findChildren<QLineEdit*>();
+    for (QLineEdit* riga : righe)
+        if (daPulire(riga))
+            scrivi(riga, {});
+    const auto blocchi = findChildren<QPlainTextEdit*>();
+    for (QPlainTextEdit* blocco : blocchi)
+        scrivi(blocco, {});
+    cmbPorto->setCurrentIndex(-1);
+    for (QLabel* barra : {barCliente, mUi->barVettore, mUi->barLineaCli})
+        if (daPulire(barra))
+            scrivi(barra, {});
+    if (daPulire(txtCodiceCli))
+        bloccaCliente(false);
+    const QString oggiBreve = dataBreve(oggi());
+    scrivi(txtDataGia, oggiBreve);
+    scrivi(lblDataLav, oggiBreve);
+    pulisciEsito();
+}
+
+void frmGestGia::pulisciEsito()
+{
+    for (QLabel* etichetta : {mUi->barFilSped, barFilialeGia, barGiorniSosta, lblDataAvviso, lblDataBuonFine,
+                              lblNrGia, mUi->lblFattura})
+        scrivi(etichetta, {});
+    bloccaChiave(false);
+    mAvvisi = 0;
+    mostraStatoCaso();
+    stato({});
+}
+
+Seguito frmGestGia::convalidaDataGiace()
+{
+    const QString digitata = testo(mUi->txtDataGiace);
+    if (digitata.isEmpty() || eData(digitata))
+        return {};
+    return rifiuta(mUi->txtDataGiace, QStringLiteral("Inserire una data valida."), Stile::avviso);
+}
+
+void frmGestGia::richiama()
+{
+    if (mUi->chkRicerca->isChecked())
+        richiamaPerCliente();
+    else
+        richiamaPerNumero();
+}
+
+void frmGestGia::richiamaPerNumero()
+{
+    const QString numero = mUi->txtNGiace->text();
+    if (numero.isEmpty()) {
+        messaggio(QStringLiteral("Manca il numero della giacenza."), Stile::avviso, titoloGestione());
+        mUi->txtNGiace->setFocus();
+        return;
+    }
+    const auto giorno = leggiData(testo(mUi->txtDataGiace));
+    if (!giorno) {
+        messaggio(QStringLiteral("Manca la data della giacenza."), Stile::avviso, titoloGestione());
+        return;
+    }
+    if (mostra(istruzioni::spedizionePerGiacenza(numero, *giorno)))
+        return;
+    pulisciFuoriDa({mUi->txtNGiace, mUi->txtDataGiace, txtCodiceCli, barCliente});
+    messaggio(QStringLiteral("Giacenza: %1 del %2 non trovata.").arg(numero, dataBreve(*giorno)),
+              Stile::avviso, titoloGestione());
+}
+
+void frmGestGia::richiamaPerCliente()
+{
+    const auto scelta = RicercaSpedizione();
+    const auto giorno = scelta ? leggiData(scelta->data) : std::nullopt;
+    if (!giorno)
+        return;
+    if (mostra(istruzioni::spedizionePerNumeroData(scelta->numero, *giorno, Giunzione::interna)))
+        return;
+    pulisciFuoriDa({mUi->txtNGiace, mUi->txtDataGiace, txtCodiceCli, barCliente});
+    stato(QStringLiteral("LDV %1 del %2: non si può richiamare, manca il vettore, la linea o la filiale.")
+              .arg(scelta->numero, scelta->data));
+}
+
+std::optional<SpedizioneScelta> frmGestGia::RicercaSpedizione()
+{
+    const QPointer<const Schermata> io(this);
+    auto scelta = apriRicercaSpedizione(this, {.tipoRicerca = 11,
+                                               .titolo = QStringLiteral("Ricerca giacenze del cliente"),
+                                               .captionLabel = QStringLiteral("Giacenza"),
+                                               .ragioneSocialeCliente = barCliente->text(),
+                                               .cliente = txtCodiceCli->text().trimmed()});
+    restaAperta(io);
+    return scelta;
+}
+
+bool frmGestGia::mostra(const QString& istruzione)
+{
+    pulisciEsito();
+    if (!mostraSpedizione(istruzione))
+        return false;
+    bloccaChiave(!testo(lblNrGia).isEmpty());
+    // The number field, when the focus leaves it for this, must not clear what was just brought up.
+    const QScopedValueRollback<bool> richiamo(mRichiamando, true);
+    mUi->txtFilSped->setFocus();
+    return true;
+}
+
+void frmGestGia::rigaMostrata(const Recordset& riga)
+{
+    const QString avvisi = riga.valore(QStringLiteral("GINRAV")).value_or(QString());
+    mAvvisi = eNumero(avvisi) ? intero16(avvisi) : 0;
+    mostraStatoCaso();
+}
+
+void frmGestGia::bloccaChiave(bool bloccata)
+{
+    txtDataGia->setReadOnly(bloccata);
+    rinnovaAspetto(txtDataGia);
+    for (QWidget* campo : {mUi->txtRiferimento, mUi->txtAnnoRif, mUi->txtFiliale, mUi->txtLDV})
+        campo->setEnabled(true);
+}
+
+void frmGestGia::mostraStatoCaso()
+{
+    const bool chiusa = eData(testo(lblDataBuonFine));
+    const QString avvisi = mAvvisi == 0   ? QStringLiteral("NESSUN AVVISO")
+                           : mAvvisi == 1 ? QStringLiteral("1 AVVISO")
+                                          : QStringLiteral("%1 AVVISI").arg(mAvvisi);
+    mUi->lblStatoCaso->setText((chiusa ? QStringLiteral("CHIUSA · ") : QStringLiteral("APERTA · ")) + avvisi);
+    mUi->lblStatoCaso->setProperty("chiusa", chiusa);
+    rinnovaAspetto(mUi->lblStatoCaso);
+    mUi->lblStatoCaso->setVisible(!testo(lblNrGia).isEmpty());
+}
+
+} // namespace giacenza

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "management/frmGestGia.h"
+#include "screens/schermatadiprova.h"
+
+#include <QTimer>
+
+namespace giacenza::prove {
+
+/// The management screen under test. Beside the small depot: line and carrier of every waybill known, the
+/// customer's billing terms (fixed fee 7.50, 5 free days, 1.50 a day, at least 15.00), and two open cases of
+/// branch MI, 41 of 10/11/2026 on waybill 4711 (never noticed) and 39 of 05/11/2026 on waybill 4712 (noticed
+/// three times, last on 20/11/2026).
+class GestioneDiProva : public SchermataDiProva
+{
+protected:
+    GestioneDiProva();
+    ~GestioneDiProva() override;
+
+    std::unique_ptr<Schermata> crea() const override { return std::make_unique<frmGestGia>(); }
+
+    /// Types number and date, "ddmmyyyy", and presses Enter in the date.
+    void richiama(const QString& numero, const QString& data);
+    void richiamaMaiAvvisato() { richiama(QStringLiteral("41"), QStringLiteral("10112026")); }
+    void richiamaAvvisato() { richiama(QStringLiteral("39"), QStringLiteral("05112026")); }
+    void richiamaChiuso() { richiama(QStringLiteral("40"), QStringLiteral("13112026")); }
+
+    /// Clicks what opens the refusal dialog, types the reason there and confirms; with an empty reason
+    /// presses Esc. Fails when no dialog came.
+    void avvisa(const QString& motivo);
+
+    /// The columns of a case, joined by "|".
+    QString caso(const QString& colonne, const QString& numero) const;
+    /// The same, as it is before and after what a test does to it.
+    QString tutto(const QString& numero) const;
+
+    /// While it lasts, every statement that begins so fails; with 08S01 the connection is lost too.
+    void fallisce(const QString& inizio, const QString& sqlstate = QStringLiteral("HY000"));
+};
+
+} // namespace giacenza::prove
