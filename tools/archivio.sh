@@ -64,6 +64,8 @@ preparaImpostazioni()
 [DLLStampe]
 ; Il modulo che stampa avvisi e chiusure.
 IdentificativoDll=Deposito
+; Dove restano i documenti, se non nella cartella "documenti" accanto a questo file.
+;CartellaDocumenti=/percorso/dei/documenti
 
 [Bord]
 ; Le quattro righe in testa all'avviso di giacenza.
