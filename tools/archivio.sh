@@ -71,8 +71,8 @@ IdentificativoDll=Deposito
 ; Le quattro righe in testa all'avviso di giacenza.
 CaptionLbl1=Ufficio giacenze
 CaptionLbl2=Orario: da lunedì a venerdì 8:30 - 12:30 e 14:30 - 18:00
-CaptionLbl3=Telefono: indicare il numero del deposito
-CaptionLbl4=Rispondere citando il numero di giacenza
+CaptionLbl3=Ritiro della merce su appuntamento
+CaptionLbl4=Nelle risposte citare il numero di giacenza
 INI
     [[ -e $1/listbox.dat ]] ||
         printf '%s\n' "VEDI DDT" "ABBIGLIAMENTO" "ALIMENTARI" "ARREDAMENTO" "CARTA E STAMPATI" "COLLETTAME" \
