@@ -87,6 +87,35 @@ TEST_P(Apertura, ilPadreSeNeVaConLaFinestraAperta)
     EXPECT_FALSE(ApriRicerca(u"1"_s, u"Clien"_s, padre).trovato);
 }
 
+TEST_P(Apertura, ilPadreSeNeVaSottoIlMessaggio)
+{
+    auto* padre = new QWidget;
+    padre->show();
+    mMessaggi.mentreAperto([&](QWidget*, const Messaggio&) { delete padre; });
+    const QuandoAperta<frmRicerca> intanto(
+        [](frmRicerca& finestra) { QTest::keyClick(finestra.focusWidget(), Qt::Key_Return); });
+    EXPECT_FALSE(ApriRicerca(u"1"_s, u"Clien"_s, padre).trovato);
+    EXPECT_EQ(mMessaggi.testi(),
+              QStringList{u"Campo Ricerca vuoto! Bisogna inserire una stringa da ricercare"_s});
+}
+
+TEST_P(Apertura, chiusaSottoIlMessaggioNonDaNulla)
+{
+    const QuandoAperta<frmRicerca> intanto([this](frmRicerca& finestra) {
+        mMessaggi.mentreAperto([&](QWidget* sopra, const Messaggio&) {
+            EXPECT_EQ(sopra, &finestra);
+            finestra.windowHandle()->close();
+        });
+        finestra.setNomeTabella(u"nessuna"_s);
+        auto* testo = trova<QLineEdit>(finestra, u"txtCerca"_s);
+        testo->setText(u"a"_s);
+        QTest::keyClick(testo, Qt::Key_Return);
+        EXPECT_FALSE(finestra.isVisible());
+    });
+    EXPECT_FALSE(ApriRicerca(u"1"_s, u"Clien"_s, nullptr).trovato);
+    EXPECT_EQ(mMessaggi.messaggi().size(), 1U);
+}
+
 TEST_P(Apertura, laFinestraSiScaricaPerNome)
 {
     const QuandoAperta<frmRicerca> intanto([](frmRicerca&) { Forme::delThread()->scarica(u"frmRicerca"_s); });
