@@ -29,14 +29,18 @@ struct Limiti
 {
     int comando = secondiComando;
     int connessione = secondiConnessione;
+
+    /// Milliseconds for which SQLite waits for another's lock, once. Its driver lets a statement that writes,
+    /// and a commit, wait twice: together the command time-out.
+    int attesaBlocco() const noexcept { return comando * 1000 / 2; }
 };
 
 /// One connection to the database through ODBC. Text goes and comes as UTF-8 by the narrow calls.
 ///
 /// Opening prepares the session: on MariaDB `SET SESSION` adds NO_BACKSLASH_ESCAPES to sql_mode and sets
 /// max_statement_time, since the driver ignores the time-out attribute; on SQLite the lock wait becomes the
-/// command time-out. Closing rolls an open transaction back first and closes every recordset that is still
-/// open on it.
+/// command time-out, whatever the connection string says. Closing rolls an open transaction back first and
+/// closes every recordset that is still open on it.
 class Connessione
 {
 public:
@@ -45,8 +49,9 @@ public:
     Connessione& operator=(Connessione&&) noexcept;
     ~Connessione();
 
-    /// Opens with a connection string, passed to the driver unchanged. Throws ErroreDatabase. Does nothing
-    /// when open.
+    /// Opens with a connection string. The driver gets it whole, with the limits added: the lock wait in
+    /// front, the network time-outs behind unless it names them. Throws ErroreDatabase. Does nothing when
+    /// open.
     void apri(const QString& stringa, const Limiti& limiti = {});
     /// Also false after an answer that told that the server is gone: apri() then opens anew.
     bool aperta() const noexcept;

@@ -73,6 +73,13 @@ void Istruzione::prepara(const QString& testo)
 void Istruzione::lega(std::span<const Valore> parametri)
 {
     const auto quanti = parametri.size();
+    SQLSMALLINT segni = 0;
+    controlla(SQLNumParams(mManiglia, &segni));
+    // The drivers would take null for what is missing.
+    if (static_cast<std::size_t>(segni) != quanti)
+        throw ErroreDatabase(
+            QStringLiteral("07002"), 0,
+            QStringLiteral("L'istruzione aspetta %1 valori e ne riceve %2.").arg(segni).arg(quanti), mTesto);
     mValori.resize(quanti);
     mLunghezze.resize(quanti);
     controlla(SQLFreeStmt(mManiglia, SQL_RESET_PARAMS));
@@ -107,29 +114,24 @@ qint64 Istruzione::righeToccate()
 
 std::vector<QString> Istruzione::nomiColonne()
 {
+    constexpr qsizetype byteDiUnNome =
+        1025; // 256 characters, the longest alias of MariaDB; drivers give fewer
     const SQLHSTMT maniglia = viva();
     SQLSMALLINT quante = 0;
     controlla(SQLNumResultCols(maniglia, &quante));
     std::vector<QString> nomi;
     nomi.reserve(static_cast<std::size_t>(quante));
+    QByteArray nome(byteDiUnNome, '\0');
     for (SQLSMALLINT colonna = 1; colonna <= quante; ++colonna) {
-        QByteArray nome(256, '\0');
         SQLSMALLINT lunghezza = 0;
         SQLSMALLINT tipo = 0;
         SQLULEN larghezza = 0;
         SQLSMALLINT cifre = 0;
         SQLSMALLINT annullabile = 0;
-        const auto chiedi = [&] {
-            controlla(SQLDescribeCol(maniglia, static_cast<SQLUSMALLINT>(colonna), testoOdbc(nome),
-                                     static_cast<SQLSMALLINT>(nome.size()), &lunghezza, &tipo, &larghezza,
-                                     &cifre, &annullabile));
-        };
-        chiedi();
-        if (lunghezza >= nome.size()) {
-            nome.resize(lunghezza + 1);
-            chiedi();
-        }
-        nomi.push_back(QString::fromUtf8(nome.constData(), lunghezza));
+        controlla(SQLDescribeCol(maniglia, static_cast<SQLUSMALLINT>(colonna), testoOdbc(nome),
+                                 static_cast<SQLSMALLINT>(nome.size()), &lunghezza, &tipo, &larghezza, &cifre,
+                                 &annullabile));
+        nomi.push_back(QString::fromUtf8(nome.constData(), std::min<qsizetype>(lunghezza, nome.size() - 1)));
     }
     return nomi;
 }
@@ -182,10 +184,12 @@ void Istruzione::leggiCella(Riga& riga, SQLUSMALLINT colonna)
     riga.celle.push_back({inizio, letti});
 }
 
-void Istruzione::chiudiCursore() noexcept
+void Istruzione::scorri()
 {
-    if (mManiglia)
-        SQLFreeStmt(mManiglia, SQL_CLOSE);
+    SQLSMALLINT colonne = 0;
+    controlla(SQLNumResultCols(viva(), &colonne));
+    for (Riga riga; colonne > 0 && leggi(riga, 0);) {
+    }
 }
 
 } // namespace giacenza::odbc

@@ -1,5 +1,7 @@
 #include "data/odbc.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <array>
 
@@ -23,6 +25,32 @@ QString diagnosi(SQLSMALLINT tipo, SQLHANDLE maniglia, SQLSMALLINT numero, QStri
         return {};
     stato = QString::fromLatin1(reinterpret_cast<const char*>(sqlstate.data()));
     return QString::fromUtf8(testo.constData(), std::min<qsizetype>(lunghezza, testo.size()));
+}
+
+/// The host's string with the limits that the drivers take from there alone. A driver ignores keywords that
+/// it does not know.
+QString conLimiti(const QString& stringa, const Limiti& limiti)
+{
+    // SQLite: of two time-outs the driver takes the first, so this one, in front, goes before the host's.
+    QString completa =
+        QStringLiteral("Timeout=%1;").arg(std::min(limiti.connessione * 1000, limiti.attesaBlocco())) +
+        stringa;
+    // MariaDB: the driver ignores the login time-out. Without these it would wait for ever for a server that
+    // takes the connection and says nothing, or whose machine went away.
+    const auto aggiungi = [&](const QString& chiave, int secondi) {
+        const QRegularExpression presente(QStringLiteral("(^|;)\\s*%1\\s*=").arg(chiave),
+                                          QRegularExpression::CaseInsensitiveOption);
+        if (stringa.contains(presente))
+            return;
+        if (!completa.endsWith(u';'))
+            completa += u';';
+        completa += QStringLiteral("%1=%2").arg(chiave).arg(secondi);
+    };
+    const int risposta = limiti.comando + limiti.connessione; // the server has stopped the statement by then
+    aggiungi(QStringLiteral("CONN_TIMEOUT"), limiti.connessione);
+    aggiungi(QStringLiteral("READ_TIMEOUT"), risposta);
+    aggiungi(QStringLiteral("WRITE_TIMEOUT"), risposta);
+    return completa;
 }
 
 /// The environment of the process. It is never freed: connections may live in objects that outlast any
@@ -92,7 +120,7 @@ void Collegamento::connetti(const QString& stringa)
     verifica(SQLSetConnectAttr(mManiglia, SQL_ATTR_LOGIN_TIMEOUT,
                                valoreAttributo(static_cast<SQLULEN>(mLimiti.connessione)), 0),
              SQL_HANDLE_DBC, mManiglia);
-    QByteArray utf8 = stringa.toUtf8();
+    QByteArray utf8 = conLimiti(stringa, mLimiti).toUtf8();
     verifica(SQLDriverConnect(mManiglia, nullptr, testoOdbc(utf8), SQL_NTS, nullptr, 0, nullptr,
                               SQL_DRIVER_NOPROMPT),
              SQL_HANDLE_DBC, mManiglia);
@@ -134,7 +162,20 @@ void Collegamento::chiudi() noexcept
     for (Istruzione* istruzione : mIstruzioni)
         istruzione->libera();
     mIstruzioni.clear();
+    mLetture.clear();
     libera();
+}
+
+void Collegamento::completaLetture() noexcept
+{
+    // The MariaDB driver has the whole result before it gives the first row: nothing stays open there.
+    if (mDialetto == Dialetto::mariadb)
+        return;
+    while (!mLetture.empty()) {
+        Lettura* lettura = mLetture.back();
+        mLetture.pop_back();
+        lettura->completa();
+    }
 }
 
 void Collegamento::riconosciPerdita(const ErroreDatabase& errore) noexcept

@@ -33,6 +33,20 @@ inline SQLPOINTER valoreAttributo(SQLULEN valore)
 
 class Istruzione;
 
+/// A reading with rows still to come.
+class Lettura
+{
+public:
+    /// Reads the rest now; a failure is kept for whoever asks for the row.
+    virtual void completa() noexcept = 0;
+
+protected:
+    Lettura() = default;
+    Lettura(const Lettura&) = delete;
+    Lettura& operator=(const Lettura&) = delete;
+    virtual ~Lettura() = default;
+};
+
 /// A connection handle with what lives on it. The wrappers share it, so that each of them finds out that
 /// another one closed it.
 class Collegamento
@@ -58,13 +72,14 @@ public:
     /// When even rolling back fails the connection is closed: turning auto-commit on again would commit.
     void annulla() noexcept;
 
-    /// Tells the tracer, then makes the call of the driver; a failure of either also tells whether the
-    /// connection is lost.
+    /// Tells the tracer, has open readings completed, then makes the call of the driver; a failure of either
+    /// also tells whether the connection is lost.
     template<class Chiamata>
     void esegui(EventoDati evento, const QString& testo, Chiamata chiamata)
     {
         try {
             traccia(evento, testo);
+            completaLetture();
             chiamata();
         } catch (const ErroreDatabase& errore) {
             riconosciPerdita(errore);
@@ -72,6 +87,9 @@ public:
         }
     }
     void riconosciPerdita(const ErroreDatabase& errore) noexcept;
+
+    void aggiungiLettura(Lettura* lettura) { mLetture.push_back(lettura); }
+    void togliLettura(Lettura* lettura) noexcept { std::erase(mLetture, lettura); }
 
 private:
     friend class Istruzione;
@@ -82,6 +100,7 @@ private:
     void rifiutaNomiPerMaiuscole();
     void confermaAutomatica(bool accesa);
     void terminaTransazione(SQLSMALLINT come);
+    void completaLetture() noexcept;
     void libera() noexcept;
 
     SQLHDBC mManiglia = SQL_NULL_HDBC;
@@ -90,6 +109,7 @@ private:
     bool mPerduto = false;
     bool mInTransazione = false;
     std::vector<Istruzione*> mIstruzioni; // still alive; not owned
+    std::vector<Lettura*> mLetture;       // not owned
 };
 
 /// A row that was read: the bytes of its values one after the other.
@@ -114,7 +134,7 @@ public:
     Istruzione& operator=(const Istruzione&) = delete;
     ~Istruzione();
 
-    Collegamento& collegamento() const noexcept { return *mCollegamento; }
+    const std::shared_ptr<Collegamento>& collegamento() const noexcept { return mCollegamento; }
 
     void esegui(const QString& testo);
     /// Sends the text without running it.
@@ -127,8 +147,8 @@ public:
     std::vector<QString> nomiColonne();
     /// False behind the last row.
     bool leggi(Riga& riga, int colonne);
-    /// Ends a result, so that the statement can run again.
-    void chiudiCursore() noexcept;
+    /// Reads the rows to their end, if there are any, and drops them.
+    void scorri();
 
 private:
     friend class Collegamento;

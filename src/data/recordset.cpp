@@ -1,6 +1,6 @@
 #include "data/recordset.h"
 
-#include "data/odbc.h"
+#include "data/righe.h"
 
 #include <algorithm>
 #include <utility>
@@ -11,30 +11,21 @@ class Recordset::Interno
 {
 public:
     std::shared_ptr<odbc::Collegamento> collegamento;
-    std::unique_ptr<odbc::Istruzione> lettura; // gone once the last row was read: it may hold a lock
     QString istruzione;
-    Cursore cursore = Cursore::chiave;
     std::vector<QString> nomi;
-    std::vector<odbc::Riga> righe; // with soloAvanti the current row alone
-    qsizetype posizione = 0;       // of the current row in the result
-    bool vuoto = true;
-    bool fine = true;
+    std::unique_ptr<Righe> righe; // none for a table
 
     QString tabella; // empty for the rows of a statement
     bool nuova = false;
     std::vector<std::pair<qsizetype, Valore>> impostati;
 
-    void apri(const QString& testo, std::span<const Valore> parametri);
+    void apri(const QString& testo, Cursore cursore, std::span<const Valore> parametri);
     void apriTabella();
-    void avanti();
     void aggiorna();
     const odbc::Riga& corrente() const;
     qsizetype indice(const QString& nome) const;
     qsizetype indiceCerto(const QString& nome) const;
     [[noreturn]] void fallisci(const char* stato, const QString& testo) const;
-
-private:
-    bool leggi();
 };
 
 void Recordset::Interno::fallisci(const char* stato, const QString& testo) const
@@ -42,10 +33,10 @@ void Recordset::Interno::fallisci(const char* stato, const QString& testo) const
     throw ErroreDatabase(QString::fromLatin1(stato), 0, testo, istruzione);
 }
 
-void Recordset::Interno::apri(const QString& testo, std::span<const Valore> parametri)
+void Recordset::Interno::apri(const QString& testo, Cursore cursore, std::span<const Valore> parametri)
 {
     istruzione = testo;
-    lettura = std::make_unique<odbc::Istruzione>(collegamento);
+    auto lettura = std::make_unique<odbc::Istruzione>(collegamento);
     if (parametri.empty()) {
         lettura->esegui(testo);
     } else {
@@ -55,7 +46,7 @@ void Recordset::Interno::apri(const QString& testo, std::span<const Valore> para
     nomi = lettura->nomiColonne();
     if (nomi.empty())
         fallisci("07005", QStringLiteral("L'istruzione non dà righe."));
-    vuoto = fine = !leggi();
+    righe = std::make_unique<Righe>(std::move(lettura), static_cast<int>(nomi.size()), cursore);
 }
 
 /// Only prepared and described: running the select would read the whole table on one database, and on the
@@ -70,38 +61,11 @@ void Recordset::Interno::apriTabella()
     });
 }
 
-/// Reads one more row behind those that were read; false at the end.
-bool Recordset::Interno::leggi()
-{
-    if (!lettura)
-        return false;
-    odbc::Riga riga;
-    if (!lettura->leggi(riga, static_cast<int>(nomi.size()))) {
-        lettura.reset();
-        return false;
-    }
-    if (cursore == Cursore::soloAvanti)
-        righe.clear();
-    righe.push_back(std::move(riga));
-    return true;
-}
-
-void Recordset::Interno::avanti()
-{
-    if (fine)
-        return;
-    const bool giaLetta = cursore == Cursore::chiave && posizione + 1 < std::ssize(righe);
-    if (giaLetta || leggi())
-        ++posizione;
-    else
-        fine = true;
-}
-
 const odbc::Riga& Recordset::Interno::corrente() const
 {
-    if (fine)
+    if (!righe || righe->finite())
         fallisci("02000", QStringLiteral("Non c'è un record corrente."));
-    return cursore == Cursore::chiave ? righe[static_cast<std::size_t>(posizione)] : righe.front();
+    return righe->corrente();
 }
 
 qsizetype Recordset::Interno::indice(const QString& nome) const
@@ -152,8 +116,7 @@ void Recordset::apri(Connessione& connessione, const QString& istruzione, Cursor
     chiudi();
     auto nuovo = std::make_unique<Interno>();
     nuovo->collegamento = connessione.collegamento();
-    nuovo->cursore = cursore;
-    nuovo->apri(istruzione, parametri);
+    nuovo->apri(istruzione, cursore, parametri);
     mInterno = std::move(nuovo);
 }
 
@@ -186,44 +149,33 @@ Recordset::Interno& Recordset::interno() const
 
 bool Recordset::bof() const noexcept
 {
-    return !aperto() || mInterno->vuoto;
+    return !aperto() || !mInterno->righe || mInterno->righe->vuote();
 }
 
 bool Recordset::eof() const noexcept
 {
-    return !aperto() || mInterno->fine;
+    return !aperto() || !mInterno->righe || mInterno->righe->finite();
 }
 
 void Recordset::primo()
 {
     Interno& i = interno();
-    if (i.vuoto)
-        return;
-    if (i.cursore == Cursore::soloAvanti) {
-        if (i.posizione != 0 || i.fine)
-            i.fallisci("24000", QStringLiteral("Il recordset legge solo in avanti."));
-        return;
-    }
-    i.posizione = 0;
-    i.fine = false;
+    if (i.righe && !i.righe->primo())
+        i.fallisci("24000", QStringLiteral("Il recordset legge solo in avanti."));
 }
 
 void Recordset::successivo()
 {
-    interno().avanti();
+    Interno& i = interno();
+    if (i.righe)
+        i.righe->avanti();
 }
 
 void Recordset::ultimo()
 {
     Interno& i = interno();
-    if (i.vuoto)
-        return;
-    if (i.cursore == Cursore::soloAvanti && (i.posizione != 0 || i.fine))
+    if (i.righe && !i.righe->ultimo())
         i.fallisci("24000", QStringLiteral("Il recordset legge solo in avanti."));
-    // The last row is known only by reading behind it, which leaves the rows that are kept as they are.
-    while (!i.fine)
-        i.avanti();
-    i.fine = false;
 }
 
 int Recordset::colonne() const noexcept

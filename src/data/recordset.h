@@ -14,7 +14,10 @@ namespace giacenza {
 ///
 /// With Cursore::chiave the rows that were read are kept, so that the current row may go back to the first;
 /// reading is on demand: apri() fetches the first row and no more. With Cursore::soloAvanti nothing is kept
-/// but the current row. Columns are found by name without case; of two columns with one name the first wins.
+/// but the current row, as long as the connection does nothing else: a statement or the end of a transaction
+/// on it first has the rest read into memory where the driver would lose it, so a long reading is given a
+/// connection of its own. Columns are found by name without case; of two columns with one name the first
+/// wins.
 class Recordset
 {
 public:

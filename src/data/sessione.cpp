@@ -45,9 +45,9 @@ private:
 void Collegamento::preparaSessione()
 {
     // Not told to the tracer: it belongs to the opening.
+    // Reading its row matters: with StepAPI the driver runs nothing before the first row is asked for.
     if (mDialetto == Dialetto::sqlite)
-        Passaggio(mManiglia).esegui(
-            QStringLiteral("pragma busy_timeout=%1").arg(qint64(mLimiti.comando) * 1000));
+        Passaggio(mManiglia).numero(QStringLiteral("pragma busy_timeout=%1").arg(mLimiti.attesaBlocco()));
     if (mDialetto != Dialetto::mariadb)
         return;
     rifiutaNomiPerMaiuscole();
@@ -110,6 +110,7 @@ void Collegamento::annulla() noexcept
     if (!mInTransazione)
         return;
     mInTransazione = false;
+    completaLetture();
     try {
         traccia(EventoDati::annullo);
     } catch (...) {

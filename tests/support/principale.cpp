@@ -2,10 +2,22 @@
 
 #include <QApplication>
 
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+
 int main(int argc, char** argv)
 {
     testing::InitGoogleMock(&argc, argv);
+    // ctest says so too; this is for a test that is run by hand where there is no display.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication applicazione(argc, argv);
+    // Qt makes C.UTF-8 of the C locale; a test that asks for one by name gets that one.
+    if (const char* locale = std::getenv("LC_ALL"); locale && !std::setlocale(LC_ALL, locale)) {
+        std::fprintf(stderr, "La locale %s non c'è.\n", locale);
+        return 1;
+    }
     QApplication::setApplicationDisplayName(QStringLiteral("Deposito di prova"));
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
