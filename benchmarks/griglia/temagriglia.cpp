@@ -61,13 +61,22 @@ std::vector<Confronto> temaGriglia(const Basi& basi, const Opzioni& opzioni)
         for (const qint64 righe : opzioni.righe.empty() ? tutte : opzioni.righe) {
             const QString stringa = basi.stringa(tipo, u"griglia_%1"_s.arg(righe),
                                                  [righe](Connessione& nuova) { riempi(nuova, righe); });
-            const QStringList argomenti{istruzione(), QString::number(righePagina)};
-            const Programma riferimento{u"riferimento-griglia"_s, argomenti};
-            confronti.push_back(
-                {u"grid"_s, tipo, righe, stringa, {u"misura-griglia"_s, argomenti}, riferimento, obiettivo});
+            const auto aggiungi = [&](const QString& nome, const QString& programma, qint64 lette,
+                                      double meta) {
+                const QStringList argomenti{istruzione(), QString::number(lette)};
+                confronti.push_back({nome,
+                                     tipo,
+                                     righe,
+                                     stringa,
+                                     {programma, argomenti},
+                                     {u"riferimento-griglia"_s, argomenti},
+                                     meta});
+            };
+            aggiungi(u"grid"_s, u"misura-griglia"_s, righePagina, obiettivo);
             // The whole dialog, until it is painted: what the operator waits for.
-            confronti.push_back(
-                {u"grid-dialog"_s, tipo, righe, stringa, {u"misura-finestra"_s, argomenti}, riferimento, 0});
+            aggiungi(u"grid-dialog"_s, u"misura-finestra"_s, righePagina, 0);
+            // Scrolled down to the last row.
+            aggiungi(u"grid-all"_s, u"misura-griglia"_s, righe, 0);
         }
     }
     return confronti;

@@ -1,5 +1,7 @@
 #include "search/righelette.h"
 
+#include <utility>
+
 namespace giacenza {
 
 namespace {
@@ -8,6 +10,8 @@ namespace {
 // from one, since zero is null.
 constexpr int bitLunghezza = 7;
 constexpr quint32 ancora = 1U << bitLunghezza;
+
+constexpr int compressioneVeloce = 1;
 
 void scriviLunghezza(QByteArray& byte, quint32 lunghezza)
 {
@@ -33,13 +37,17 @@ void RigheLette::svuota()
 {
     mPagine = {};
     mRighe = 0;
+    mAperte = {};
 }
 
 void RigheLette::aggiungiRiga()
 {
     if (mRighe % righePagina == 0) {
-        if (!mPagine.empty())
-            mPagine.back().byte.squeeze(); // a full page grows no more
+        if (!mPagine.empty()) {
+            QByteArray& piena = mPagine.back().byte;
+            piena = qCompress(piena, compressioneVeloce);
+            piena.squeeze(); // it was given room for the worst case
+        }
         mPagine.emplace_back().inizi.reserve(righePagina);
     }
     mPagine.back().inizi.push_back(static_cast<quint32>(mPagine.back().byte.size()));

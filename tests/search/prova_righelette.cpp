@@ -61,11 +61,35 @@ TEST(RigheLette, trovaLeRigheDiOgniPagina)
     }
 }
 
+TEST(RigheLette, siRileggonoInOgniOrdine)
+{
+    RigheLette lette;
+    constexpr int pagine = 5;
+    for (int riga = 0; riga < RigheLette::righePagina * pagine; ++riga) {
+        lette.aggiungiRiga();
+        lette.aggiungiValore(QByteArray::number(riga));
+    }
+    for (const int pagina : {0, 1, 0, 1, 4, 0, 3, 2, 1, 0, 4})
+        for (const int riga : {0, RigheLette::righePagina - 1}) {
+            const int quale = pagina * RigheLette::righePagina + riga;
+            EXPECT_EQ(testo(lette.valore(quale, 0)), QByteArray::number(quale));
+        }
+    // What was the last page is one of the others now.
+    lette.aggiungiRiga();
+    lette.aggiungiValore(QByteArrayView("ultima"));
+    EXPECT_EQ(testo(lette.valore(RigheLette::righePagina * pagine - 1, 0)),
+              QByteArray::number(RigheLette::righePagina * pagine - 1));
+    EXPECT_EQ(testo(lette.valore(RigheLette::righePagina * pagine, 0)), QByteArray("ultima"));
+}
+
 TEST(RigheLette, svuotataRicomincia)
 {
     RigheLette lette;
-    lette.aggiungiRiga();
-    lette.aggiungiValore(QByteArrayView("prima"));
+    for (int riga = 0; riga <= RigheLette::righePagina; ++riga) {
+        lette.aggiungiRiga();
+        lette.aggiungiValore(QByteArrayView("prima"));
+    }
+    EXPECT_EQ(testo(lette.valore(0, 0)), QByteArray("prima"));
     lette.svuota();
     EXPECT_EQ(lette.righe(), 0);
     lette.aggiungiRiga();
