@@ -55,17 +55,20 @@ nuovoArchivio()
     LAVORO=""
 }
 
-# preparaImpostazioni FOLDER: the settings file and the goods-type list, where the operator has none yet.
+# preparaImpostazioni FOLDER [DOCUMENTS]: the settings file and the goods-type list, where the operator has none
+# yet; DOCUMENTS is where the documents are kept, in place of the usual folder beside the settings.
 preparaImpostazioni()
 {
-    [[ -e $1/giacenza.ini ]] || cat >"$1/giacenza.ini" <<'INI'
+    local documenti=";CartellaDocumenti=/percorso/dei/documenti"
+    [[ -z ${2:-} ]] || documenti="CartellaDocumenti=$2"
+    [[ -e $1/giacenza.ini ]] || cat >"$1/giacenza.ini" <<INI
 ; Impostazioni della gestione giacenze.
 
 [DLLStampe]
 ; Il modulo che stampa avvisi e chiusure.
 IdentificativoDll=Deposito
 ; Dove restano i documenti, se non nella cartella "documenti" accanto a questo file.
-;CartellaDocumenti=/percorso/dei/documenti
+$documenti
 
 [Bord]
 ; Le quattro righe in testa all'avviso di giacenza.

@@ -21,8 +21,24 @@ qint64 contatore(Archivio& archivio)
     return archivio.valore(QStringLiteral("select UltimoNumGiacenza from ekelvorqzt_tabge00f")).toLongLong();
 }
 
-/// The row, its link and its notice are in the database; the counter has moved by one; the letter is there.
-void verificaCaso(Archivio& archivio, const Numerata& caso, qint64 contatorePrima, const QString& cartella)
+/// The documents in a folder, which may hold those of an earlier demonstration.
+QStringList documenti(const QString& cartella)
+{
+    return QDir(cartella).entryList({QStringLiteral("*.pdf")}, QDir::Files);
+}
+
+/// The document of a case that is new in the folder; throws Imprevisto when there is none.
+QString documentoNuovo(const Numerata& caso, const QString& cartella, const QStringList& prima)
+{
+    const QString chiave = QStringLiteral("%1_%2").arg(caso.numero).arg(caso.anno);
+    for (const QString& nome : documenti(cartella))
+        if (nome.startsWith(chiave) && !prima.contains(nome))
+            return nome;
+    throw Imprevisto(QStringLiteral("manca il documento %1").arg(chiave));
+}
+
+/// The row, its link and its notice are in the database; the counter has moved by one.
+void verificaCaso(Archivio& archivio, const Numerata& caso, qint64 contatorePrima)
 {
     const Spedizione& s = caso.spedizione;
     const auto riga =
@@ -44,9 +60,6 @@ void verificaCaso(Archivio& archivio, const Numerata& caso, qint64 contatorePrim
                       QStringLiteral("la LDV %1 non è legata alla giacenza %2").arg(s.numero, caso.numero));
     Regista::verifica(contatore(archivio) == contatorePrima + 1,
                       QStringLiteral("il contatore non è avanzato di uno"));
-    const QString file = QStringLiteral("%1_%2.pdf").arg(caso.numero).arg(caso.anno);
-    Regista::verifica(QFileInfo(QDir(cartella).filePath(file)).size() > 0,
-                      QStringLiteral("manca il documento %1").arg(file));
 }
 
 } // namespace
@@ -55,6 +68,7 @@ void salvaEVerifica(Regista& regista, Archivio& archivio, QWidget* schermata, co
                     const QString& cartella)
 {
     const qint64 prima = contatore(archivio);
+    const QStringList documentiPrima = documenti(cartella);
     regista.passo(QStringLiteral("  Alt+S: salva"));
     regista.rispondendo([&] { regista.preme(schermata, Qt::Key_S, Qt::AltModifier); },
                         {regista.messaggio(aggiunta)});
@@ -62,8 +76,10 @@ void salvaEVerifica(Regista& regista, Archivio& archivio, QWidget* schermata, co
         spedizione, Regista::testo(schermata, QStringLiteral("lblNrGia")),
         giacenza::leggiData(Regista::testo(schermata, QStringLiteral("txtDataGia")))->year()};
     regista.fotografa(schermata, QStringLiteral("salvata"));
-    verificaCaso(archivio, caso, prima, cartella);
-    regista.passo(QStringLiteral("  Giacenza %1 del %2 in archivio, LDV legata, avviso %1_%2.pdf")
+    verificaCaso(archivio, caso, prima);
+    const QString documento = documentoNuovo(caso, cartella, documentiPrima);
+    regista.passo(QStringLiteral("  Giacenza %1 del %2 in archivio, LDV legata, avviso %3")
                       .arg(caso.numero)
-                      .arg(caso.anno));
+                      .arg(caso.anno)
+                      .arg(documento));
 }
