@@ -62,10 +62,24 @@ void RigheLette::aggiungiValore(std::optional<QByteArrayView> valore)
         byte.append(*valore);
 }
 
+const QByteArray& RigheLette::byteDi(std::size_t pagina) const
+{
+    if (pagina + 1 == mPagine.size())
+        return mPagine[pagina].byte;
+    auto& [ultima, altra] = mAperte;
+    if (ultima.byte.isEmpty() || ultima.pagina != pagina) {
+        std::swap(ultima, altra);
+        if (ultima.byte.isEmpty() || ultima.pagina != pagina)
+            ultima = {pagina, qUncompress(mPagine[pagina].byte)};
+    }
+    return ultima.byte;
+}
+
 std::optional<QByteArrayView> RigheLette::valore(int riga, int colonna) const
 {
-    const Pagina& pagina = mPagine[static_cast<std::size_t>(riga / righePagina)];
-    const char* posto = pagina.byte.constData() + pagina.inizi[static_cast<std::size_t>(riga % righePagina)];
+    const auto pagina = static_cast<std::size_t>(riga / righePagina);
+    const auto nella = static_cast<std::size_t>(riga % righePagina);
+    const char* posto = byteDi(pagina).constData() + mPagine[pagina].inizi[nella];
     for (;; --colonna) {
         const quint32 lunghezza = leggiLunghezza(posto);
         if (colonna == 0)
