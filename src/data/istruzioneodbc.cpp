@@ -61,13 +61,10 @@ void Istruzione::prepara(const QString& testo)
 {
     mTesto = testo;
     const SQLHSTMT maniglia = viva();
-    try {
+    mCollegamento->sorveglia([&] {
         QByteArray utf8 = testo.toUtf8();
         controlla(SQLPrepare(maniglia, testoOdbc(utf8), static_cast<SQLINTEGER>(utf8.size())));
-    } catch (const ErroreDatabase& errore) {
-        mCollegamento->riconosciPerdita(errore);
-        throw;
-    }
+    });
 }
 
 void Istruzione::lega(std::span<const Valore> parametri)
@@ -85,6 +82,9 @@ void Istruzione::lega(std::span<const Valore> parametri)
     controlla(SQLFreeStmt(mManiglia, SQL_RESET_PARAMS));
     for (std::size_t i = 0; i < quanti; ++i) {
         mValori[i] = parametri[i] ? parametri[i]->toUtf8() : QByteArray();
+        if (mValori[i].contains('\0')) // SQLite's driver would store it and give it back cut
+            throw ErroreDatabase(QStringLiteral("22021"), 0,
+                                 QStringLiteral("Il testo contiene un carattere nullo."), mTesto);
         // The length is given: the drivers would store the terminator of a text that they have to measure.
         mLunghezze[i] = parametri[i] ? static_cast<SQLLEN>(mValori[i].size()) : SQL_NULL_DATA;
         const auto larghezza = static_cast<SQLULEN>(std::max<qsizetype>(mValori[i].size(), 1));
@@ -139,40 +139,39 @@ std::vector<QString> Istruzione::nomiColonne()
 bool Istruzione::leggi(Riga& riga, int colonne)
 {
     const SQLHSTMT maniglia = viva();
-    riga.dati.resize(0);
     riga.celle.clear();
-    try {
+    riga.celle.reserve(static_cast<std::size_t>(colonne));
+    mLetti.resize(0);
+    const bool letta = mCollegamento->sorveglia([&] {
         const SQLRETURN esito = SQLFetch(maniglia);
         if (esito == SQL_NO_DATA)
             return false;
         controlla(esito);
         for (int colonna = 1; colonna <= colonne; ++colonna)
-            leggiCella(riga, static_cast<SQLUSMALLINT>(colonna));
-    } catch (const ErroreDatabase& errore) {
-        mCollegamento->riconosciPerdita(errore);
-        throw;
-    }
-    return true;
+            riga.celle.push_back(leggiCella(static_cast<SQLUSMALLINT>(colonna)));
+        return true;
+    });
+    riga.dati = QByteArray(mLetti.constData(), mLetti.size());
+    return letta;
 }
 
 /// Most values fit the first call; of a longer one the driver tells how much is left, or that it cannot tell.
-void Istruzione::leggiCella(Riga& riga, SQLUSMALLINT colonna)
+Riga::Cella Istruzione::leggiCella(SQLUSMALLINT colonna)
 {
     constexpr qsizetype primoPasso = 256;
-    const qsizetype inizio = riga.dati.size();
+    const qsizetype inizio = mLetti.size();
     qsizetype letti = 0;
     for (qsizetype passo = primoPasso;;) {
-        riga.dati.resize(inizio + letti + passo);
+        mLetti.resize(inizio + letti + passo);
         SQLLEN resto = 0;
-        const SQLRETURN esito = SQLGetData(mManiglia, colonna, SQL_C_CHAR, riga.dati.data() + inizio + letti,
+        const SQLRETURN esito = SQLGetData(mManiglia, colonna, SQL_C_CHAR, mLetti.data() + inizio + letti,
                                            static_cast<SQLLEN>(passo), &resto);
         if (esito == SQL_NO_DATA) // the value ended exactly with the call before
             break;
         controlla(esito);
         if (resto == SQL_NULL_DATA) {
-            riga.dati.resize(inizio);
-            riga.celle.push_back({inizio, -1});
-            return;
+            mLetti.resize(inizio);
+            return {static_cast<qint32>(inizio), -1};
         }
         const bool ancora = resto == SQL_NO_TOTAL || resto >= passo;
         letti += ancora ? passo - 1 : static_cast<qsizetype>(resto); // less the terminator
@@ -180,8 +179,8 @@ void Istruzione::leggiCella(Riga& riga, SQLUSMALLINT colonna)
             break;
         passo = resto == SQL_NO_TOTAL ? passo * 2 : static_cast<qsizetype>(resto) - passo + 2;
     }
-    riga.dati.resize(inizio + letti);
-    riga.celle.push_back({inizio, letti});
+    mLetti.resize(inizio + letti);
+    return {static_cast<qint32>(inizio), static_cast<qint32>(letti)};
 }
 
 void Istruzione::scorri()

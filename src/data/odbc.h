@@ -72,21 +72,28 @@ public:
     /// When even rolling back fails the connection is closed: turning auto-commit on again would commit.
     void annulla() noexcept;
 
-    /// Tells the tracer, has open readings completed, then makes the call of the driver; a failure of either
-    /// also tells whether the connection is lost.
+    /// Tells the tracer, has open readings completed, then makes the call of the driver.
     template<class Chiamata>
     void esegui(EventoDati evento, const QString& testo, Chiamata chiamata)
     {
-        try {
+        sorveglia([&] {
             traccia(evento, testo);
             completaLetture();
             chiamata();
+        });
+    }
+
+    /// Makes a call; its failure also tells whether the connection is lost.
+    template<class Chiamata>
+    auto sorveglia(Chiamata chiamata)
+    {
+        try {
+            return chiamata();
         } catch (const ErroreDatabase& errore) {
             riconosciPerdita(errore);
             throw;
         }
     }
-    void riconosciPerdita(const ErroreDatabase& errore) noexcept;
 
     void aggiungiLettura(Lettura* lettura) { mLetture.push_back(lettura); }
     void togliLettura(Lettura* lettura) noexcept { std::erase(mLetture, lettura); }
@@ -101,6 +108,7 @@ private:
     void confermaAutomatica(bool accesa);
     void terminaTransazione(SQLSMALLINT come);
     void completaLetture() noexcept;
+    void riconosciPerdita(const ErroreDatabase& errore) noexcept;
     void libera() noexcept;
 
     SQLHDBC mManiglia = SQL_NULL_HDBC;
@@ -117,8 +125,8 @@ struct Riga
 {
     struct Cella
     {
-        qsizetype inizio;
-        qsizetype lunghezza; // negative: null
+        qint32 inizio;
+        qint32 lunghezza; // negative: null
     };
     QByteArray dati;
     std::vector<Cella> celle;
@@ -156,7 +164,7 @@ private:
     SQLHSTMT viva() const;
     void controlla(SQLRETURN esito);
     void lega(std::span<const Valore> parametri);
-    void leggiCella(Riga& riga, SQLUSMALLINT colonna);
+    Riga::Cella leggiCella(SQLUSMALLINT colonna);
     void libera() noexcept;
 
     std::shared_ptr<Collegamento> mCollegamento;
@@ -164,6 +172,7 @@ private:
     QString mTesto;
     std::vector<QByteArray> mValori; // bound; must outlive the execution
     std::vector<SQLLEN> mLunghezze;
+    QByteArray mLetti; // the row being read: kept rows are copied to their size
 };
 
 } // namespace giacenza::odbc

@@ -4,9 +4,7 @@
 #include "data/transazione.h"
 #include "serversordo.h"
 
-#include <QProcess>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 
 using namespace giacenza;
 using namespace giacenza::prove;
@@ -173,26 +171,65 @@ TEST_F(ConnessioniMariadb, interrotteDalServerSiRiaprono)
     EXPECT_EQ(connessione.esegui(QStringLiteral("insert into t values (3)")), 1);
 }
 
-TEST(ServerCheDistingueLeMaiuscole, eRifiutato)
+class ConnessioniSqlite : public testing::Test
 {
-    const QTemporaryDir cartella;
-    const auto servente = [&](const QStringList& argomenti) {
-        QProcess processo;
-        processo.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        processo.start(QStringLiteral(GIACENZA_MARIADB_PRIVATO), argomenti);
-        ASSERT_TRUE(processo.waitForFinished(120'000)) << processo.errorString().toStdString();
-        ASSERT_EQ(processo.exitCode(), 0);
-    };
-    ASSERT_NO_FATAL_FAILURE(
-        servente({QStringLiteral("avvia"), cartella.path(), QStringLiteral("--lower-case-table-names=0")}));
-    QFile stringa(cartella.filePath(QStringLiteral("amministratore")));
-    ASSERT_TRUE(stringa.open(QIODevice::ReadOnly));
+protected:
+    BancaDati mBase{"sqlite", Contenuto::vuoto};
+};
+
+TEST_F(ConnessioniSqlite, aUnFileTenutoDaUnAltroNonAspettanoOltreIlLimite)
+{
+    // The string itself would wait ten minutes, for opening and for reading.
+    QString stringa = mBase.stringa();
+    stringa.replace(QStringLiteral("Timeout=5000"), QStringLiteral("Timeout=600000"));
+    Connessione altra = mBase.connessione();
+    altra.esegui(QStringLiteral("pragma journal_mode=delete"));
+    altra.esegui(QStringLiteral("create table t (a integer)"));
+    Connessione aperta;
+    aperta.apri(stringa, Limiti{.comando = 1});
+    altra.esegui(QStringLiteral("begin exclusive"));
     Connessione connessione;
-    const ErroreDatabase errore =
-        erroreDi([&] { connessione.apri(QString::fromUtf8(stringa.readAll()).trimmed()); });
-    EXPECT_EQ(errore.testo(),
-              QStringLiteral("Il server MariaDB distingue maiuscole e minuscole nei nomi delle "
-                             "tabelle. Va configurato con lower_case_table_names=1."));
-    EXPECT_FALSE(connessione.aperta());
-    ASSERT_NO_FATAL_FAILURE(servente({QStringLiteral("ferma"), cartella.path()}));
+    connessione.apri(stringa, Limiti{.comando = 1});
+    for (Connessione* una : {&aperta, &connessione}) {
+        Recordset recordset;
+        const ErroreDatabase errore =
+            erroreDi([&] { recordset.apri(*una, QStringLiteral("select * from t")); });
+        EXPECT_EQ(errore.codiceNativo(), 5);
+        EXPECT_EQ(errore.istruzione(), QStringLiteral("select * from t"));
+    }
+    altra.esegui(QStringLiteral("rollback"));
+    for (Connessione* una : {&aperta, &connessione}) {
+        Recordset recordset;
+        recordset.apri(*una, QStringLiteral("select * from t"));
+        EXPECT_TRUE(recordset.eof());
+    }
+}
+
+TEST_F(ConnessioniSqlite, aspettanoUnLucchettoQuantoIlComando)
+{
+    Connessione connessione = mBase.connessione();
+    Recordset recordset;
+    recordset.apri(connessione, QStringLiteral("pragma busy_timeout"));
+    // Twice, by the driver: together thirty seconds.
+    EXPECT_EQ(recordset.valore(0), QStringLiteral("15000"));
+}
+
+TEST_F(ConnessioniSqlite, unaConfermaCheNonPuoAvvenireLasciaLaTransazioneDaAnnullare)
+{
+    Connessione lettrice = mBase.connessione();
+    lettrice.esegui(QStringLiteral("pragma journal_mode=delete"));
+    mBase.esegui(
+        QStringLiteral("create table t (a integer);\ninsert into t values (1);\ninsert into t values (2);"));
+    Connessione connessione;
+    connessione.apri(mBase.stringa(), Limiti{.comando = 1});
+    {
+        Recordset lettura;
+        lettura.apri(lettrice, QStringLiteral("select * from t"));
+        Transazione transazione(connessione);
+        connessione.esegui(QStringLiteral("insert into t values (3)"));
+        EXPECT_EQ(erroreDi([&] { transazione.conferma(); }).codiceNativo(), 5);
+    }
+    EXPECT_EQ(mBase.leggi(QStringLiteral("select count(*) from t")), QStringLiteral("2"));
+    EXPECT_EQ(connessione.esegui(QStringLiteral("insert into t values (4)")), 1);
+    EXPECT_EQ(mBase.leggi(QStringLiteral("select count(*) from t")), QStringLiteral("3"));
 }

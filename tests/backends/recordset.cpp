@@ -151,6 +151,36 @@ TEST_P(Righe, unaLetturaLasciataAMetaNonFermaLaScrittura)
     EXPECT_EQ(recordset.valore(0), QStringLiteral("1"));
 }
 
+/// The rest of a reading is read before another statement runs, and given out as before.
+TEST_P(Righe, soloAvantiNonPerdonoRigheSeLaConnessioneFaAltro)
+{
+    riempi(2000);
+    Recordset recordset;
+    recordset.apri(mConnessione, QStringLiteral("select id from prova order by id"),
+                   Recordset::Cursore::soloAvanti);
+    recordset.successivo();
+    mConnessione.esegui(QStringLiteral("delete from prova"));
+    for (int i = 2; i <= 2000; ++i) {
+        ASSERT_EQ(recordset.valore(0), QString::number(i));
+        recordset.successivo();
+    }
+    EXPECT_TRUE(recordset.eof());
+    EXPECT_EQ(erroreDi([&] { recordset.primo(); }).sqlstate(), QStringLiteral("24000"));
+}
+
+/// What a second lookup of a screen finds is what is there now, not what was there at the first.
+TEST_P(Righe, unaLetturaAMetaNonNascondeCioCheUnAltroHaScritto)
+{
+    riempi(2000);
+    Recordset prima;
+    prima.apri(mConnessione, QStringLiteral("select id from prova order by id"));
+    mBase.esegui(QStringLiteral("update prova set n=77 where id=1"));
+    Recordset seconda;
+    seconda.apri(mConnessione, QStringLiteral("select n from prova where id=1"));
+    EXPECT_EQ(seconda.valore(0), QStringLiteral("77"));
+    EXPECT_EQ(prima.valore(0), QStringLiteral("1"));
+}
+
 TEST_P(Righe, unIstruzioneSenzaRigheNonEUnaLettura)
 {
     Recordset recordset;

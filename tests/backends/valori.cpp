@@ -112,6 +112,17 @@ TEST_P(Valori, diDieciMegabyteTornanoInteri)
     EXPECT_EQ(recordset.valore(1), QStringLiteral("1"));
 }
 
+TEST_P(Valori, conUnCarattereNulloSonoRifiutati)
+{
+    Comando inserisci(mConnessione, QStringLiteral("insert into prova (id, testo) values (?, ?)"));
+    const QString testo = QStringLiteral("a") + QChar(0) + QStringLiteral("b");
+    EXPECT_EQ(erroreDi([&] {
+                  inserisci.esegui(std::vector<Valore>{QStringLiteral("1"), testo});
+              }).sqlstate(),
+              QStringLiteral("22021"));
+    EXPECT_EQ(mBase.leggi(QStringLiteral("select count(*) from prova")), QStringLiteral("0"));
+}
+
 TEST_P(Valori, nulloEVuotoSonoDiversi)
 {
     mConnessione.esegui(QStringLiteral("insert into prova (id, testo) values (1, null), (2, '')"));
