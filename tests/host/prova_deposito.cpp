@@ -1,4 +1,12 @@
+#include "finestra.h"
+
+#include "support/stampa.h"
+
+#include <QApplication>
+#include <QLabel>
 #include <QProcess>
+#include <QPushButton>
+#include <QTest>
 
 #include <gmock/gmock.h>
 
@@ -45,4 +53,23 @@ TEST(Deposito, rifiuta_un_opzione_sconosciuta)
     const Esito esito = esegui({u"--sbagliata"_s});
     EXPECT_EQ(esito.codice, 1);
     EXPECT_THAT(esito.errori, HasSubstr("Opzione sconosciuta 'sbagliata'."));
+}
+
+TEST(Deposito, con_un_archivio_che_non_c_e_nessuna_schermata_si_apre_e_la_finestra_lo_dice)
+{
+    deposito::Finestra finestra({u"DRIVER={Nessun driver};Database=x"_s, {}, {}});
+    finestra.show();
+    for (const QString& pulsante : {u"cmdNuova"_s, u"cmdNuovaLdv"_s}) {
+        QTest::mouseClick(finestra.findChild<QPushButton*>(pulsante), Qt::LeftButton);
+        const auto* messaggio = finestra.findChild<QLabel*>(u"lblMessaggio"_s);
+        EXPECT_TRUE(messaggio->isVisible());
+        EXPECT_THAT(
+            messaggio->text().toStdString(),
+            testing::StartsWith("La schermata non è stata aperta. Il driver ODBC indicato per l'archivio "
+                                "non è installato.\n\nRisposta dell'archivio: "));
+        for (const QWidget* altra : QApplication::topLevelWidgets())
+            EXPECT_TRUE(altra == &finestra || !altra->isVisible()) << altra->objectName().toStdString();
+        QTest::mouseClick(finestra.findChild<QPushButton*>(u"cmdChiudiMessaggio"_s), Qt::LeftButton);
+        EXPECT_FALSE(messaggio->isVisible());
+    }
 }
