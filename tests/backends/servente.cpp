@@ -2,11 +2,13 @@
 
 #include "backends/basi.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QThread>
+#include <QTest>
 
+#include <algorithm>
 #include <csignal>
 
 using namespace giacenza;
@@ -15,7 +17,12 @@ using namespace giacenza::prove;
 class Servente : public testing::Test
 {
 protected:
-    ~Servente() override { comanda({QStringLiteral("ferma"), mCartella.path()}); }
+    ~Servente() override
+    {
+        if (pid() > 0)
+            kill(pid(), SIGCONT); // a test that failed may have left it stopped
+        ferma();
+    }
 
     void comanda(const QStringList& argomenti)
     {
@@ -46,6 +53,21 @@ protected:
     {
         QFile file(QStringLiteral("/proc/%1/cmdline").arg(processo));
         return file.open(QIODevice::ReadOnly) && !file.readAll().isEmpty();
+    }
+
+    /// Stops the server in its tracks; its threads stop one after the other, a moment later.
+    void sospendi() const
+    {
+        ASSERT_EQ(kill(pid(), SIGSTOP), 0);
+        const QDir fili(QStringLiteral("/proc/%1/task").arg(pid()));
+        const auto ferme = [&] {
+            const QStringList nomi = fili.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+            return std::all_of(nomi.begin(), nomi.end(), [&](const QString& nome) {
+                QFile stato(fili.filePath(nome + QStringLiteral("/stat")));
+                return !stato.open(QIODevice::ReadOnly) || stato.readAll().contains(") T ");
+            });
+        };
+        ASSERT_TRUE(QTest::qWaitFor(ferme));
     }
 
     QTemporaryDir mCartella;
@@ -81,8 +103,7 @@ TEST_F(Servente, uccisoRiparte)
 {
     avvia();
     ASSERT_EQ(kill(pid(), SIGKILL), 0);
-    while (viva(pid()))
-        QThread::msleep(5);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !viva(pid()); }));
     avvia();
     Connessione connessione;
     connessione.apri(stringa());
@@ -94,7 +115,7 @@ TEST_F(Servente, cheTaceNonTieneFermoNessuno)
     avvia();
     Connessione connessione;
     connessione.apri(stringa(), Limiti{.comando = 1, .connessione = 1});
-    ASSERT_EQ(kill(pid(), SIGSTOP), 0);
+    ASSERT_NO_FATAL_FAILURE(sospendi());
     const ErroreDatabase errore = erroreDi([&] { connessione.esegui(QStringLiteral("create database x")); });
     EXPECT_EQ(errore.sqlstate(), QStringLiteral("08S01"));
     EXPECT_EQ(errore.istruzione(), QStringLiteral("create database x"));
