@@ -52,7 +52,7 @@ bool frmGestGia::avvisoAmmesso()
 
 void frmGestGia::avvisoContato(int numero)
 {
-    mAvvisi = numero;
+    mAvvisi = QString::number(numero);
     mostraStatoCaso();
 }
 

@@ -102,7 +102,7 @@ void frmGestGia::pulisciEsito()
                               lblNrGia, mUi->lblFattura})
         scrivi(etichetta, {});
     bloccaChiave(false);
-    mAvvisi = 0;
+    mAvvisi.clear();
     mostraStatoCaso();
     stato({});
 }
@@ -145,6 +145,9 @@ void frmGestGia::richiamaPerNumero()
 
 void frmGestGia::richiamaPerCliente()
 {
+    // A shortcut moves no focus: a customer code that was just typed is checked first.
+    if (const Seguito seguito = mConvalida->verificaCorrente())
+        return seguito();
     const auto scelta = RicercaSpedizione();
     const auto giorno = scelta ? leggiData(scelta->data) : std::nullopt;
     if (!giorno)
@@ -182,8 +185,7 @@ bool frmGestGia::mostra(const QString& istruzione)
 
 void frmGestGia::rigaMostrata(const Recordset& riga)
 {
-    const QString avvisi = riga.valore(QStringLiteral("GINRAV")).value_or(QString());
-    mAvvisi = eNumero(avvisi) ? intero16(avvisi) : 0;
+    mAvvisi = riga.valore(QStringLiteral("GINRAV")).value_or(QString());
     mostraStatoCaso();
 }
 
@@ -198,9 +200,9 @@ void frmGestGia::bloccaChiave(bool bloccata)
 void frmGestGia::mostraStatoCaso()
 {
     const bool chiusa = eData(testo(lblDataBuonFine));
-    const QString avvisi = mAvvisi == 0   ? QStringLiteral("NESSUN AVVISO")
-                           : mAvvisi == 1 ? QStringLiteral("1 AVVISO")
-                                          : QStringLiteral("%1 AVVISI").arg(mAvvisi);
+    const QString avvisi = mAvvisi.isEmpty()                ? QStringLiteral("NESSUN AVVISO")
+                           : mAvvisi == QStringLiteral("1") ? QStringLiteral("1 AVVISO")
+                                                            : QStringLiteral("%1 AVVISI").arg(mAvvisi);
     mUi->lblStatoCaso->setText((chiusa ? QStringLiteral("CHIUSA · ") : QStringLiteral("APERTA · ")) + avvisi);
     mUi->lblStatoCaso->setProperty("chiusa", chiusa);
     rinnovaAspetto(mUi->lblStatoCaso);

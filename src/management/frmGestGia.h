@@ -58,7 +58,7 @@ private:
     void SalvaCostiGiacenza(const ChiaveSpedizione& ldv, const QString& fisso, const QString& importo);
 
     std::unique_ptr<Ui::frmGestGia> mUi;
-    int mAvvisi = 0;           ///< notices issued on the case on the screen
+    QString mAvvisi;           ///< notices issued on the case on the screen; empty: none
     bool mRichiamando = false; ///< the focus moves because a case was brought up
 };
 

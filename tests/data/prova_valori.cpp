@@ -182,6 +182,12 @@ TEST(FormattaNumero, altroLasciaLArgomento)
     EXPECT_EQ(valore, u"molto"_s);
 }
 
+TEST(ConRitorniACapo, unSoloModoDiAndareACapo)
+{
+    EXPECT_EQ(conRitorniACapo(u"uno\ndue\r\ntre\n"_s), u"uno\r\ndue\r\ntre\r\n"_s);
+    EXPECT_EQ(conRitorniACapo(QString()), QString());
+}
+
 TEST(RaddoppiaApice, soloIlPrimo)
 {
     EXPECT_EQ(RaddoppiaApice(u"senza"_s), u"senza"_s);

@@ -5,9 +5,11 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 namespace giacenza::prove {
 
@@ -25,7 +27,7 @@ insert into giace00f (GIFILI,GINRLV,GIANLV,GICODI,GIFIGI,GINRGI,GIANGI,GIDTGI,GI
 
 GestioneDiProva::~GestioneDiProva()
 {
-    impostaTraccia({});
+    guarisce();
 }
 
 void GestioneDiProva::richiama(const QString& numero, const QString& data)
@@ -38,23 +40,42 @@ void GestioneDiProva::richiama(const QString& numero, const QString& data)
     tasto("txtDataGiace", Qt::Key_Return);
 }
 
+void GestioneDiProva::nelDialogo(std::function<void(QDialog& dialogo)> azione)
+{
+    QTimer::singleShot(0, mSchermata, [azione = std::move(azione)] {
+        auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialogo, nullptr) << "no dialog came";
+        azione(*dialogo);
+    });
+}
+
 void GestioneDiProva::avvisa(const QString& motivo)
 {
     bool venuto = false;
-    QTimer::singleShot(0, mSchermata, [&] {
-        auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialogo, nullptr);
-        venuto = dialogo->objectName() == QStringLiteral("frmRifiuto");
-        EXPECT_EQ(dialogo->parentWidget(), mSchermata);
+    nelDialogo([&](QDialog& dialogo) {
+        venuto = dialogo.objectName() == QStringLiteral("frmRifiuto") && dialogo.parentWidget() == mSchermata;
         if (motivo.isEmpty()) {
-            QTest::keyClick(dialogo, Qt::Key_Escape);
+            QTest::keyClick(&dialogo, Qt::Key_Escape);
             return;
         }
-        trova<QLineEdit>(dialogo, QStringLiteral("txtMotivazione"))->setText(motivo);
-        trova<QPushButton>(dialogo, QStringLiteral("cmdOk"))->click();
+        confermaRifiuto(motivo);
     });
     clicca("cmdAvvisoGia");
-    EXPECT_TRUE(venuto) << "the refusal dialog did not open";
+    EXPECT_TRUE(venuto) << "the refusal dialog did not open over the screen";
+}
+
+void GestioneDiProva::confermaRifiuto(const QString& motivo)
+{
+    QWidget* dialogo = QApplication::activeModalWidget();
+    auto* riga = trova<QLineEdit>(dialogo, QStringLiteral("txtMotivazione"));
+    riga->setFocus();
+    QTest::keyClicks(riga, motivo);
+    trova<QPushButton>(dialogo, QStringLiteral("cmdOk"))->click();
+}
+
+void GestioneDiProva::scriviEtichetta(const char* nome, const QString& testo)
+{
+    qobject_cast<QLabel*>(c(nome))->setText(testo);
 }
 
 QString GestioneDiProva::caso(const QString& colonne, const QString& numero) const
@@ -75,6 +96,11 @@ void GestioneDiProva::fallisce(const QString& inizio, const QString& sqlstate)
         if (evento == EventoDati::istruzione && testo.startsWith(inizio, Qt::CaseInsensitive))
             throw ErroreDatabase(sqlstate, 1, QStringLiteral("guasto di prova"), testo);
     });
+}
+
+void GestioneDiProva::guarisce()
+{
+    impostaTraccia({});
 }
 
 } // namespace giacenza::prove

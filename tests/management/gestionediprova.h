@@ -3,7 +3,9 @@
 #include "management/frmGestGia.h"
 #include "screens/schermatadiprova.h"
 
-#include <QTimer>
+#include <functional>
+
+class QDialog;
 
 namespace giacenza::prove {
 
@@ -25,17 +27,26 @@ protected:
     void richiamaAvvisato() { richiama(QStringLiteral("39"), QStringLiteral("05112026")); }
     void richiamaChiuso() { richiama(QStringLiteral("40"), QStringLiteral("13112026")); }
 
+    /// Does something in the dialog that the next action opens, once it is open.
+    void nelDialogo(std::function<void(QDialog& dialogo)> azione);
+
     /// Clicks what opens the refusal dialog, types the reason there and confirms; with an empty reason
     /// presses Esc. Fails when no dialog came.
     void avvisa(const QString& motivo);
+    /// Types the reason into the refusal dialog that is open, and confirms.
+    static void confermaRifiuto(const QString& motivo);
+
+    /// Puts a text into a label, as nothing on the screen could.
+    void scriviEtichetta(const char* nome, const QString& testo);
 
     /// The columns of a case, joined by "|".
     QString caso(const QString& colonne, const QString& numero) const;
     /// The same, as it is before and after what a test does to it.
     QString tutto(const QString& numero) const;
 
-    /// While it lasts, every statement that begins so fails; with 08S01 the connection is lost too.
+    /// Until guarisce(), every statement that begins so fails; with 08S01 the connection is lost too.
     void fallisce(const QString& inizio, const QString& sqlstate = QStringLiteral("HY000"));
+    void guarisce();
 };
 
 } // namespace giacenza::prove
