@@ -54,8 +54,8 @@ BancoRicerca::BancoRicerca()
         if (evento != EventoDati::istruzione)
             return;
         mIstruzioni += testo;
-        if (mPrima)
-            mPrima();
+        if (const auto azione = mPrima) // a copy: it may take itself away
+            azione();
     });
 }
 
