@@ -1,3 +1,4 @@
+#include "gestione.h"
 #include "registrazione.h"
 
 #include <QApplication>
@@ -18,6 +19,7 @@ int racconta(const QString& cartella, const QString& database)
     Regista regista(cartella);
     Archivio archivio(database);
     raccontaRegistrazione(regista, componente, archivio, cartella);
+    raccontaGestione(regista, componente, archivio, cartella);
     regista.passo(QStringLiteral("Fatto: le righe attese sono in archivio."));
     return 0;
 }

@@ -1,5 +1,6 @@
 #include "regista.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
@@ -81,6 +82,18 @@ void Regista::preme(QWidget* destinatario, Qt::Key tasto, Qt::KeyboardModifiers 
             QStringLiteral("la finestra di %1 non è attiva").arg(destinatario->objectName()));
     QTest::keyClick(destinatario, tasto, modificatori);
     QCoreApplication::processEvents();
+}
+
+void Regista::scorre(QWidget* elenco, const std::function<bool(const QModelIndex&)>& voluta)
+{
+    auto* vista = qobject_cast<QAbstractItemView*>(elenco);
+    verifica(vista && vista->model(), QStringLiteral("non c'è un elenco"));
+    // A list takes no row that only has the focus: the first arrow marks it.
+    const auto scelta = [vista] { return vista->selectionModel()->isSelected(vista->currentIndex()); };
+    for (int passi = 0; !scelta() || !voluta(vista->currentIndex()); ++passi) {
+        verifica(passi < 2'000, QStringLiteral("la riga cercata non è nell'elenco"));
+        preme(elenco, Qt::Key_Down);
+    }
 }
 
 void Regista::clicca(QWidget* finestra, const QString& nome)

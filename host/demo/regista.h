@@ -43,6 +43,9 @@ public:
     /// Types a text into a control, key by key, over what stands there.
     void scrive(QWidget* finestra, const QString& nome, const QString& testo);
     void preme(QWidget* destinatario, Qt::Key tasto, Qt::KeyboardModifiers modificatori = Qt::NoModifier);
+    /// Arrow keys down a list or a grid until the row that is wanted is current; throws Imprevisto when it is
+    /// not there.
+    void scorre(QWidget* elenco, const std::function<bool(const QModelIndex&)>& voluta);
     void clicca(QWidget* finestra, const QString& nome);
 
     /// Does something that opens boxes or dialogs, one after the other, and answers each in its turn. Throws

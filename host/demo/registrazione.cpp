@@ -2,7 +2,7 @@
 
 #include "salvata.h"
 
-#include <QAbstractItemView>
+#include <QModelIndex>
 
 using namespace giacenza;
 
@@ -58,19 +58,6 @@ void consegnata(Regista& regista, cGiacenza& componente, Archivio& archivio, con
     regista.clicca(schermata, QStringLiteral("cmdEsci"));
 }
 
-/// Arrow keys down a list or a grid until the row that is wanted is current.
-void scorre(Regista& regista, QWidget* elenco, const std::function<bool(const QModelIndex&)>& voluta)
-{
-    auto* vista = qobject_cast<QAbstractItemView*>(elenco);
-    Regista::verifica(vista && vista->model(), QStringLiteral("non c'è un elenco"));
-    // A list takes no row that only has the focus: the first arrow marks it.
-    const auto scelta = [vista] { return vista->selectionModel()->isSelected(vista->currentIndex()); };
-    for (int passi = 0; !scelta() || !voluta(vista->currentIndex()); ++passi) {
-        Regista::verifica(passi < 2'000, QStringLiteral("la riga cercata non è nell'elenco"));
-        regista.preme(elenco, Qt::Key_Down);
-    }
-}
-
 void cercata(Regista& regista, cGiacenza& componente, Archivio& archivio, const Spedizione& s,
              const QString& cartella)
 {
@@ -86,7 +73,7 @@ void cercata(Regista& regista, cGiacenza& componente, Archivio& archivio, const 
             regista.preme(Regista::controllo(dialogo, QStringLiteral("txtCerca")), Qt::Key_Return);
             QWidget* elenco = Regista::controllo(dialogo, QStringLiteral("lstCerca"));
             elenco->setFocus();
-            scorre(regista, elenco, [&](const QModelIndex& riga) { return riga.data() == nome; });
+            regista.scorre(elenco, [&](const QModelIndex& riga) { return riga.data() == nome; });
             regista.fotografa(dialogo, QStringLiteral("ricerca-cliente"));
             regista.preme(elenco, Qt::Key_Return);
         }});
@@ -102,7 +89,7 @@ void cercata(Regista& regista, cGiacenza& componente, Archivio& archivio, const 
         {[&](QWidget* dialogo) {
             QWidget* griglia = Regista::controllo(dialogo, QStringLiteral("Griglia"));
             griglia->setFocus();
-            scorre(regista, griglia, [&](const QModelIndex& riga) {
+            regista.scorre(griglia, [&](const QModelIndex& riga) {
                 return riga.siblingAtColumn(0).data() == s.numero && riga.siblingAtColumn(1).data() == s.data;
             });
             regista.fotografa(dialogo, QStringLiteral("ricerca-ldv"));

@@ -1,9 +1,7 @@
 #include "salvata.h"
 
 #include "data/valori.h"
-
-#include <QDir>
-#include <QFileInfo>
+#include "documenti.h"
 
 namespace {
 
@@ -19,22 +17,6 @@ struct Numerata
 qint64 contatore(Archivio& archivio)
 {
     return archivio.valore(QStringLiteral("select UltimoNumGiacenza from ekelvorqzt_tabge00f")).toLongLong();
-}
-
-/// The documents in a folder, which may hold those of an earlier demonstration.
-QStringList documenti(const QString& cartella)
-{
-    return QDir(cartella).entryList({QStringLiteral("*.pdf")}, QDir::Files);
-}
-
-/// The document of a case that is new in the folder; throws Imprevisto when there is none.
-QString documentoNuovo(const Numerata& caso, const QString& cartella, const QStringList& prima)
-{
-    const QString chiave = QStringLiteral("%1_%2").arg(caso.numero).arg(caso.anno);
-    for (const QString& nome : documenti(cartella))
-        if (nome.startsWith(chiave) && !prima.contains(nome))
-            return nome;
-    throw Imprevisto(QStringLiteral("manca il documento %1").arg(chiave));
 }
 
 /// The row, its link and its notice are in the database; the counter has moved by one.
@@ -77,7 +59,8 @@ void salvaEVerifica(Regista& regista, Archivio& archivio, QWidget* schermata, co
         giacenza::leggiData(Regista::testo(schermata, QStringLiteral("txtDataGia")))->year()};
     regista.fotografa(schermata, QStringLiteral("salvata"));
     verificaCaso(archivio, caso, prima);
-    const QString documento = documentoNuovo(caso, cartella, documentiPrima);
+    const QString documento =
+        documentoNuovo(QStringLiteral("%1_%2").arg(caso.numero).arg(caso.anno), cartella, documentiPrima);
     regista.passo(QStringLiteral("  Giacenza %1 del %2 in archivio, LDV legata, avviso %3")
                       .arg(caso.numero)
                       .arg(caso.anno)
