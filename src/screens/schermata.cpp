@@ -27,6 +27,7 @@ namespace {
 constexpr char16_t aspetto[] = uR"(
 QLineEdit[readOnly="true"], QPlainTextEdit[readOnly="true"] { background-color: palette(window); }
 QLineEdit:disabled { background-color: palette(window); }
+QLineEdit[readOnly="true"]:disabled { color: #505050; }
 QComboBox:disabled { color: palette(text); }
 QLabel[barra="true"] { padding: 3px 4px; }
 QLabel#lblGiaInGiacenza { background-color: #a3261b; color: white; font-weight: bold; padding: 3px 10px; }
