@@ -2,6 +2,7 @@
 
 #include "component/forme.h"
 #include "management/frmGestGia.h"
+#include "redelivery/frmRiconsegna.h"
 #include "registration/frmGiacenza.h"
 
 namespace giacenza {
@@ -10,6 +11,7 @@ void registraForme(Forme& forme)
 {
     forme.registra<frmGiacenza>(QStringLiteral("frmGiacenza"));
     forme.registra<frmGestGia>(QStringLiteral("frmGestGia"));
+    forme.registra<frmRiconsegna>(QStringLiteral("frmRiconsegna"));
 }
 
 } // namespace giacenza

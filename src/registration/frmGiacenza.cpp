@@ -117,15 +117,6 @@ void frmGiacenza::PulisciCampi()
     stato({});
 }
 
-bool frmGiacenza::clienteScelto()
-{
-    if (!txtCodiceCli->text().isEmpty())
-        return true;
-    messaggio(QStringLiteral("Selezionare il codice cliente."), Stile::avviso);
-    txtCodiceCli->setFocus();
-    return false;
-}
-
 Seguito frmGiacenza::lascia(Chiave chiave)
 {
     const QString scritta = testo(campoData(chiave));

@@ -59,7 +59,6 @@ private:
     QLineEdit* campo(Chiave chiave) const;
     CampoData* campoData(Chiave chiave) const;
     QString cercato(Chiave chiave) const;
-    bool clienteScelto();
     void mostra(const QString& istruzione, const QString& nonTrovata);
     void segnaGiacenza(bool giacente);
 

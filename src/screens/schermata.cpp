@@ -141,6 +141,11 @@ Connessione& Schermata::connessione()
     return mConnessione;
 }
 
+void Schermata::rilasciaConnessione()
+{
+    ChiudiOggettiDB(nullptr, &mConnessione, true, false);
+}
+
 void Schermata::stato(const QString& testo)
 {
     mStato->setText(testo.section(QLatin1Char('\n'), 0, 0));
@@ -248,13 +253,13 @@ Seguito Schermata::convalidaDataGia()
     return {};
 }
 
-Seguito Schermata::convalidaCliente()
+Seguito Schermata::verificaCliente(const QString& codice, const Seguito& errato,
+                                   const std::function<void(const QString&)>& trovato)
 {
-    const QString codice = txtCodiceCli->text().trimmed();
-    if (codice.isEmpty() || txtCodiceCli->isReadOnly())
+    if (codice.isEmpty())
         return {};
     if (!eNumero(codice))
-        return rifiuta(txtCodiceCli, QStringLiteral("Codice cliente assente o errato"), Stile::avviso);
+        return errato;
     try {
         Recordset cliente;
         cliente.apri(connessione(), istruzioni::clientePerCodice(codice));
@@ -263,13 +268,45 @@ Seguito Schermata::convalidaCliente()
                 messaggio(QStringLiteral("Codice Cliente Inesistente"), Stile::informazione,
                           titoloGestione());
             });
-        scrivi(barCliente, cliente.valore(0).value_or(QString()));
-        txtCodiceCli->setText(codice);
-        bloccaCliente(true);
+        if (trovato)
+            trovato(cliente.valore(0).value_or(QString()));
     } catch (const ErroreDatabase& errore) {
         stato(errore.testo());
     }
     return {};
+}
+
+Seguito Schermata::convalidaCliente()
+{
+    if (txtCodiceCli->isReadOnly())
+        return {};
+    const QString codice = txtCodiceCli->text().trimmed();
+    return verificaCliente(codice,
+                           rifiuta(txtCodiceCli, clienteErrato(), Stile::avviso, titoloClienteErrato()),
+                           [&](const QString& ragioneSociale) {
+                               scrivi(barCliente, ragioneSociale);
+                               txtCodiceCli->setText(codice);
+                               bloccaCliente(true);
+                           });
+}
+
+QString Schermata::clienteErrato()
+{
+    return QStringLiteral("Codice cliente assente o errato");
+}
+
+QString Schermata::titoloClienteErrato() const
+{
+    return titoloApplicazione();
+}
+
+bool Schermata::clienteScelto()
+{
+    if (!txtCodiceCli->text().isEmpty())
+        return true;
+    messaggio(QStringLiteral("Selezionare il codice cliente."), Stile::avviso);
+    txtCodiceCli->setFocus();
+    return false;
 }
 
 void Schermata::bloccaCliente(bool bloccato)

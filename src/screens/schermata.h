@@ -46,6 +46,9 @@ protected:
     /// The screen's connection, opened when it is closed. Throws ErroreDatabase.
     Connessione& connessione();
 
+    /// Closes and releases it; the next use opens it again.
+    void rilasciaConnessione();
+
     /// What the screen says where no message box is due; empty clears it.
     void stato(const QString& testo);
 
@@ -84,6 +87,17 @@ protected:
 
     /// Finds the customer of the code field and locks the field; without one says so.
     Seguito convalidaCliente();
+
+    /// Looks a customer code up; the empty one is nothing to look up. errato: what is to be done when it is
+    /// no number. trovato: given the customer's name, may be empty. A customer that is not there is told.
+    Seguito verificaCliente(const QString& codice, const Seguito& errato,
+                            const std::function<void(const QString&)>& trovato = {});
+    /// The message for a code that is no number, and its caption.
+    static QString clienteErrato();
+    virtual QString titoloClienteErrato() const;
+
+    /// Whether there is a customer code; without one says so.
+    bool clienteScelto();
 
     /// Locks the customer code, once it is known to be good, or opens it again.
     void bloccaCliente(bool bloccato);

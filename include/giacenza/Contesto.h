@@ -1,0 +1,39 @@
+#pragma once
+
+#include <giacenza/esporta.h>
+
+#include <QDate>
+#include <QString>
+
+class QWidget;
+
+namespace giacenza {
+
+/// What the component knows of the movement that is being issued, beyond what it hands over with it.
+struct Contesto
+{
+    QString lavoro;             ///< "Riconsegna a Destinatario", "Reso a Mittente", empty before any choice
+    bool resoAMittente = false; ///< the goods go back to the sender
+    qint32 porto = 0;           ///< idPorto of the freight terms chosen, 0: none
+    QString numeroGiacenza;     ///< the held shipment on the screen, empty: none
+    int annoGiacenza = 0;       ///< its year, 0: none
+    bool controlloGiacenza = false; ///< the operator had the held shipment checked before the issue
+    int riconsegne = 0;             ///< earlier re-deliveries that the check found, and the operator accepted
+    QDate oggi;                     ///< the component's today
+    QWidget* finestra = nullptr;    ///< over which the part's windows open; may go while one of them is open
+};
+
+/// What a part from outside also implements when it wants the context. The component hands it over right
+/// after making the part and before everything else.
+class GIACENZA_EXPORT ParteConContesto
+{
+public:
+    ParteConContesto() = default;
+    ParteConContesto(const ParteConContesto&) = delete;
+    ParteConContesto& operator=(const ParteConContesto&) = delete;
+    virtual ~ParteConContesto() = default;
+
+    virtual void setContesto(const Contesto& contesto) = 0;
+};
+
+} // namespace giacenza

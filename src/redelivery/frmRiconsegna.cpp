@@ -1,0 +1,205 @@
+#include "redelivery/frmRiconsegna.h"
+
+#include "component/impostazioni.h"
+#include "redelivery/ui_frmRiconsegna.h"
+#include "screens/campi.h"
+#include "screens/ricercaspedizione.h"
+#include "widgets/tasti.h"
+
+#include <QEvent>
+
+namespace giacenza {
+
+frmRiconsegna::frmRiconsegna()
+    : Schermata(QStringLiteral("frmRiconsegna")), mUi(std::make_unique<Ui::frmRiconsegna>())
+{
+    mUi->setupUi(this);
+    preparaComuni(mappaRiconsegna());
+    collega();
+}
+
+frmRiconsegna::~frmRiconsegna() = default;
+
+void frmRiconsegna::collega()
+{
+    connect(mUi->cmdRiconsegna, &QPushButton::clicked, this, gestore([this] { riconsegna(); }));
+    connect(mUi->cmdRicGiac, &QPushButton::clicked, this,
+            silenzioso([this] { cercaNellElenco(Modo::giacenze); }));
+    connect(mUi->cmdRicSped, &QPushButton::clicked, this, silenzioso([this] { mostraRiconsegne(); }));
+    connect(mUi->cmdCercaLdv, &QPushButton::clicked, this,
+            silenzioso([this] { cercaNellElenco(Modo::letteraVettura); }));
+    connect(mUi->cmdCercaRif, &QPushButton::clicked, this,
+            silenzioso([this] { cercaNellElenco(Modo::riferimento); }));
+    for (const Modo modo : {Modo::letteraVettura, Modo::riferimento}) {
+        const auto elenco = silenzioso([this, modo] { cercaNellElenco(modo); });
+        for (QLineEdit* riga : {campo(modo), static_cast<QLineEdit*>(campoData(modo))}) {
+            connect(riga, &QLineEdit::textEdited, this,
+                    [this, modo] { mModificata[modo == Modo::riferimento] = true; });
+            suTasto(riga, Qt::Key_F9, elenco);
+        }
+        mConvalida->aggiungi(campoData(modo), [this, modo] { return lascia(modo); });
+    }
+    suTasto(mUi->txtLDV, Qt::Key_F12, silenzioso([this] { cercaPerNumero(); }));
+    suTasto(mUi->txtRiferimento, Qt::Key_F12, silenzioso([this] { cercaNellElenco(Modo::riferimento); }));
+    mConvalida->aggiungi(txtFilialeGia, [this] { return convalidaFilialeGia(); });
+}
+
+bool frmRiconsegna::event(QEvent* evento)
+{
+    // The host may choose the other job while the screen is open: showing it again raises it.
+    switch (evento->type()) {
+    case QEvent::Show:
+    case QEvent::WindowActivate:
+    case QEvent::ZOrderChange:
+        setWindowTitle(impostazioni().etichettaReso);
+        break;
+    default:
+        break;
+    }
+    return Schermata::event(evento);
+}
+
+QString frmRiconsegna::titoloClienteErrato() const
+{
+    return titoloGestione();
+}
+
+/// A handler on a screen where a database failure is told by the status line alone.
+std::function<void()> frmRiconsegna::silenzioso(std::function<void()> azione)
+{
+    return gestore([this, azione = std::move(azione)] { prosegui(azione); });
+}
+
+void frmRiconsegna::prosegui(const std::function<void()>& azione)
+{
+    try {
+        azione();
+    } catch (const Errore& errore) {
+        stato(errore.testo());
+    }
+}
+
+QLineEdit* frmRiconsegna::campo(Modo modo) const
+{
+    return modo == Modo::riferimento ? mUi->txtRiferimento : mUi->txtLDV;
+}
+
+CampoData* frmRiconsegna::campoData(Modo modo) const
+{
+    return modo == Modo::riferimento ? mUi->txtDataRif : mUi->txtDataLdv;
+}
+
+QString frmRiconsegna::cercato(Modo modo) const
+{
+    return modo == Modo::riferimento ? testo(mUi->txtRiferimento) : numeroLdv(mUi->txtLDV);
+}
+
+bool frmRiconsegna::ControlloCampiRicerca(Modo modo)
+{
+    const bool perNumero = modo == Modo::letteraVettura;
+    const QString valore = cercato(modo);
+    if ((perNumero ? eNumero(valore) : !valore.isEmpty()) && eData(testo(campoData(modo))))
+        return true;
+    messaggio(perNumero ? QStringLiteral("Controllare l'immissione del num. Ldv e/o data Ldv")
+                        : QStringLiteral(
+                              "Controllare l'immissione del riferimento cliente e/o data rifer. cliente"),
+              Stile::avviso);
+    return false;
+}
+
+std::optional<SpedizioneScelta> frmRiconsegna::RicercaSpedizione(Modo modo)
+{
+    AperturaRicerca apertura = {.tipoRicerca = static_cast<int>(modo),
+                                .captionLabel = QStringLiteral("Num. LDV"),
+                                .ragioneSocialeCliente = barCliente->text(),
+                                .cliente = txtCodiceCli->text(),
+                                .filiale = mUi->txtFiliale->text()};
+    switch (modo) {
+    case Modo::riferimento:
+        apertura.titolo = QStringLiteral("Ricerca per riferimento");
+        apertura.captionLabel = QStringLiteral("Riferimento");
+        apertura.riferimento = cercato(modo);
+        apertura.annoOdata = testo(campoData(modo));
+        break;
+    case Modo::letteraVettura:
+        apertura.titolo = QStringLiteral("Ricerca per lettera di vettura");
+        apertura.numero = cercato(modo);
+        apertura.annoOdata = testo(campoData(modo));
+        break;
+    case Modo::riconsegne: {
+        apertura.titolo = QStringLiteral("Spedizioni relative alla giacenza selezionata");
+        apertura.giacenza = testo(lblNrGia);
+        const auto giorno = leggiData(testo(mUi->txtDataGia));
+        apertura.annoGiacenza = giorno ? QString::number(giorno->year()) : QString();
+        break;
+    }
+    case Modo::giacenze:
+        apertura.titolo = QStringLiteral("Ricerca Giacenze");
+        break;
+    }
+    const QPointer<const Schermata> io(this);
+    const auto scelta = apriRicercaSpedizione(this, apertura);
+    restaAperta(io);
+    return scelta;
+}
+
+void frmRiconsegna::cercaNellElenco(Modo modo)
+{
+    if (modo != Modo::giacenze && !ControlloCampiRicerca(modo))
+        return;
+    const auto scelta = RicercaSpedizione(modo);
+    const auto giorno = scelta ? leggiData(scelta->data) : std::nullopt;
+    if (giorno)
+        mostra(scelta->numero, *giorno);
+}
+
+void frmRiconsegna::cercaPerNumero()
+{
+    if (ControlloCampiRicerca(Modo::letteraVettura) && clienteScelto())
+        mostra(cercato(Modo::letteraVettura), *leggiData(testo(mUi->txtDataLdv)));
+}
+
+void frmRiconsegna::mostraRiconsegne()
+{
+    if (testo(lblNrGia).isEmpty() || !eData(testo(mUi->txtDataGia)))
+        return stato(QStringLiteral("Nessuna giacenza sullo schermo: non ci sono spedizioni da elencare."));
+    RicercaSpedizione(Modo::riconsegne);
+}
+
+void frmRiconsegna::mostra(const QString& numero, QDate giorno)
+{
+    mModificata[0] = mModificata[1] = false;
+    if (!mostraSpedizione(
+            istruzioni::spedizionePerNumeroData(numero, giorno, istruzioni::Giunzione::interna)))
+        return stato(QStringLiteral("LDV %1 del %2: non trovata.").arg(numero, dataBreve(giorno)));
+    scrivi(mUi->barLdv, QStringLiteral("%1 del %2").arg(tag(mUi->txtLDV), testo(mUi->txtDataLdv)));
+    stato(testo(lblNrGia).isEmpty() ? QStringLiteral("Questa lettera di vettura non è in giacenza.")
+                                    : QString());
+}
+
+Seguito frmRiconsegna::lascia(Modo modo)
+{
+    if (!mModificata[modo == Modo::riferimento] || cercato(modo).isEmpty() || !eData(testo(campoData(modo))))
+        return {};
+    if (modo == Modo::riferimento)
+        return silenzioso([this, modo] {
+            if (clienteScelto())
+                cercaNellElenco(modo);
+        });
+    const auto cerca = silenzioso([this] { cercaPerNumero(); });
+    if (txtCodiceCli->text().isEmpty() || !eNumero(cercato(modo)))
+        return cerca;
+    cerca();
+    return {};
+}
+
+Seguito frmRiconsegna::convalidaFilialeGia()
+{
+    // The branch is checked as if it were a customer: the depot wants it so. Nothing is taken from what is
+    // found, and the focus goes where it was going: a branch's code is often no number.
+    return verificaCliente(txtFilialeGia->text().trimmed(), gestore([this] {
+                               messaggio(clienteErrato(), Stile::avviso, titoloClienteErrato());
+                           }));
+}
+
+} // namespace giacenza

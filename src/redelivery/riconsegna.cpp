@@ -1,0 +1,132 @@
+#include "component/forme.h"
+#include "component/impostazioni.h"
+#include "component/orologio.h"
+#include "redelivery/emissione.h"
+#include "redelivery/frmPorto.h"
+#include "redelivery/frmRiconsegna.h"
+#include "redelivery/ui_frmRiconsegna.h"
+#include "screens/campi.h"
+
+#include <QPointer>
+
+/// The issue: what the button of the re-delivery screen does, step by step. A step that fails does not stop
+/// the next one; its failure stands in the status line.
+namespace giacenza {
+
+void frmRiconsegna::ApriConnessione()
+{
+    connessione();
+}
+
+void frmRiconsegna::leggiLdv(LdvLetta& ldv)
+{
+    const auto giorno = leggiData(testo(mUi->txtDataLdv));
+    if (!giorno)
+        throw ErroreConversione(QStringLiteral("La data della lettera di vettura non è valida."));
+    Recordset riga;
+    riga.apri(connessione(), istruzioni::spedizioneIntera(
+                                 {mUi->txtFiliale->text(), numeroLdv(mUi->txtLDV), giorno->year()}));
+    ldv.leggi(riga);
+    // An open result would hold back what the issuer writes, where the database is a file.
+    riga.chiudi();
+}
+
+frmRiconsegna::Scelte frmRiconsegna::chiediPorto()
+{
+    const QPointer<const Schermata> io(this);
+    const QPointer<frmPorto> dialogo = new frmPorto(this);
+    Forme::delThread()->annota(dialogo->objectName(), dialogo);
+    dialogo->exec();
+    restaAperta(io);
+    if (!dialogo)
+        return {};
+    const Scelte scelte = {.porto = QString::number(dialogo->Porto()),
+                           .controllo = dialogo->ControlloGiacenza(),
+                           .stampa = dialogo->StampaLDV(),
+                           .annullato = dialogo->annullato()};
+    delete dialogo;
+    return scelte;
+}
+
+std::optional<ContoRiconsegne> frmRiconsegna::contaGiacenza()
+{
+    const QString numero = testo(lblNrGia);
+    const auto giorno = leggiData(testo(txtDataGia));
+    // Without a date there is no year to look for, so there is no such held shipment.
+    if (!giorno)
+        return ContoRiconsegne{EsitoRiconsegne::inesistente};
+    try {
+        return ContaRiconsegne(connessione(), {numero, giorno->year()});
+    } catch (const Errore& errore) {
+        stato(QStringLiteral("La giacenza non si controlla: %1").arg(errore.testo()));
+        return std::nullopt;
+    }
+}
+
+bool frmRiconsegna::accettato(const std::optional<ContoRiconsegne>& conto)
+{
+    if (!conto)
+        return false;
+    switch (conto->esito) {
+    case EsitoRiconsegne::emettibile:
+        return true;
+    case EsitoRiconsegne::inesistente:
+        messaggio(QStringLiteral("Giacenza inesistente immettere la giacenza."), Stile::avviso);
+        return false;
+    case EsitoRiconsegne::chiusa:
+        messaggio(QStringLiteral("la Giacenza è stata chiusa con avviso di buon fine in data: %1.")
+                      .arg(testo(lblDataBuonFine)),
+                  Stile::avviso);
+        return false;
+    case EsitoRiconsegne::giaRiconsegnata:
+        return messaggio(QStringLiteral("Sono presenti n.%1 riconsegne emettere una nuova riconsegna?")
+                             .arg(conto->riconsegne),
+                         Stile::domandaInformazione) == Risposta::si;
+    }
+    return false;
+}
+
+Contesto frmRiconsegna::contesto(const Scelte& scelte, const std::optional<ContoRiconsegne>& conto) const
+{
+    const auto giorno = leggiData(testo(txtDataGia));
+    const QString lavoro = impostazioni().etichettaReso;
+    return {.lavoro = lavoro,
+            .resoAMittente = lavoro == QStringLiteral("Reso a Mittente"),
+            .porto = scelte.porto.toInt(),
+            .numeroGiacenza = testo(lblNrGia),
+            .annoGiacenza = giorno ? giorno->year() : 0,
+            .controlloGiacenza = scelte.controllo,
+            .riconsegne = conto ? conto->riconsegne : 0,
+            .oggi = oggi(),
+            .finestra = const_cast<frmRiconsegna*>(this)};
+}
+
+void frmRiconsegna::riconsegna()
+{
+    // A shortcut moves no focus: the held-shipment date is checked first if it has it.
+    if (txtDataGia->hasFocus())
+        if (const Seguito seguito = mConvalida->verificaCorrente())
+            return seguito();
+    stato({});
+    LdvLetta ldv;
+    prosegui([&] {
+        ApriConnessione();
+        leggiLdv(ldv);
+    });
+    const Scelte scelte = chiediPorto();
+    bool emessa = false;
+    if (!scelte.annullato) {
+        const auto conto = scelte.controllo ? contaGiacenza() : std::nullopt;
+        emessa = !scelte.controllo || accettato(conto);
+        if (emessa) {
+            const QPointer<const Schermata> io(this);
+            prosegui([&] { stato(EmettiRiconsegna(ldv, scelte.stampa, contesto(scelte, conto))); });
+            restaAperta(io);
+        }
+    }
+    rilasciaConnessione();
+    if (emessa)
+        mUi->cmdRiconsegna->setEnabled(false);
+}
+
+} // namespace giacenza
