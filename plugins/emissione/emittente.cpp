@@ -1,0 +1,87 @@
+#include "emissione/emittente.h"
+
+#include "emissione/letteravettura.h"
+#include "emissione/nuovaldv.h"
+#include "stampa/archivio.h"
+#include "stampa/pdf.h"
+
+#include <QDir>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTemporaryFile>
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza::emissione {
+
+namespace {
+
+/// Modal over the window, which may go while the box is open.
+void racconta(QWidget* finestra, const QString& testo)
+{
+    const QPointer<QMessageBox> scatola = new QMessageBox(finestra);
+    scatola->setObjectName(u"msgEmissione"_s);
+    scatola->setIcon(QMessageBox::Warning);
+    scatola->setTextFormat(Qt::PlainText);
+    scatola->setText(testo);
+    scatola->exec();
+    delete scatola;
+}
+
+} // namespace
+
+QString EmittenteDeposito::emetti(const RecordLdv& ldv)
+{
+    QString motivo;
+    try {
+        return emettiOLancia(ldv);
+    } catch (const Errore& errore) {
+        motivo = errore.testo();
+    } catch (const std::exception& errore) {
+        motivo = u"La lettera di vettura non è stata emessa: %1"_s.arg(QString::fromUtf8(errore.what()));
+    }
+    racconta(mContesto.finestra, motivo);
+    return {};
+}
+
+/// A folder that cannot be written is found out before anything is issued.
+void EmittenteDeposito::controllaCartella() const
+{
+    QTemporaryFile prova(QDir(mCartellaStampa).filePath(u"prova.XXXXXX"_s));
+    if (!QDir().mkpath(mCartellaStampa) || !prova.open())
+        throw Errore(
+            u"Nella cartella \"%1\" non si può scrivere: nessuna lettera di vettura è stata emessa."_s.arg(
+                QDir::toNativeSeparators(mCartellaStampa)));
+}
+
+QString EmittenteDeposito::emettiOLancia(const RecordLdv& ldv) const
+{
+    if (!mDefinitiva)
+        throw Errore(u"L'emissione non è stata confermata: nessuna lettera di vettura è stata emessa."_s);
+    if (mStampa)
+        controllaCartella();
+    Connessione connessione;
+    LdvEmessa emessa;
+    try {
+        connessione.apri(mPercorsoDatabase);
+        emessa = emettiLdv(connessione, ldv, mContesto);
+    } catch (const ErroreDatabase& errore) {
+        throw Errore(u"La nuova lettera di vettura non è stata emessa: il database non ha accettato "
+                     "l'operazione.\n\n%1"_s.arg(errore.testo()));
+    }
+    const QString nome = u"lettera di vettura %1/%2"_s.arg(emessa.numero, QString::number(emessa.anno));
+    if (!mStampa)
+        return u"Emessa la %1."_s.arg(nome);
+    try {
+        const auto byte = stampa::pdf(*componiLdv(connessione, emessa, mPercorsoLogo));
+        const QString file = stampa::archivia(
+            mCartellaStampa,
+            u"LDV_%1_%2_%3"_s.arg(emessa.filiale, emessa.numero, QString::number(emessa.anno)),
+            byte.value_or(QByteArray()));
+        return u"Emessa la %1, stampata in %2"_s.arg(nome, QDir::toNativeSeparators(file));
+    } catch (const Errore& errore) {
+        throw Errore(u"La %1 è stata emessa, ma non è stata stampata.\n\n%2"_s.arg(nome, errore.testo()));
+    }
+}
+
+} // namespace giacenza::emissione

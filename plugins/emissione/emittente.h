@@ -1,0 +1,33 @@
+#pragma once
+
+#include <giacenza/Contesto.h>
+#include <giacenza/EmittenteLdv.h>
+
+namespace giacenza::emissione {
+
+/// The depot's own waybill issuer: adds the waybill of a re-delivery or of a return to the host's waybills,
+/// and prints it as a PDF into the print folder. Whatever fails is told in one box.
+class EmittenteDeposito : public EmittenteLdv, public ParteConContesto
+{
+public:
+    void setContesto(const Contesto& contesto) override { mContesto = contesto; }
+    void setPercorsoDatabase(const QString& percorso) override { mPercorsoDatabase = percorso; }
+    void setCartellaStampa(const QString& cartella) override { mCartellaStampa = cartella; }
+    void setPercorsoLogo(const QString& percorso) override { mPercorsoLogo = percorso; }
+    void setStampa(bool stampa) override { mStampa = stampa; }
+    void setDefinitiva(bool definitiva) override { mDefinitiva = definitiva; }
+    QString emetti(const RecordLdv& ldv) override;
+
+private:
+    QString emettiOLancia(const RecordLdv& ldv) const;
+    void controllaCartella() const;
+
+    Contesto mContesto;
+    QString mPercorsoDatabase;
+    QString mCartellaStampa;
+    QString mPercorsoLogo;
+    bool mStampa = false;
+    bool mDefinitiva = false;
+};
+
+} // namespace giacenza::emissione

@@ -1,0 +1,134 @@
+#include "emissione/letteravettura.h"
+
+#include "data/istruzioni.h"
+#include "data/recordset.h"
+#include "reports/blocchi.h"
+#include "reports/composizione.h"
+#include "reports/documentoreport.h"
+#include "reports/formati.h"
+#include "reports/logo.h"
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza::emissione {
+
+namespace {
+
+using report::Contesto;
+using report::Controllo;
+using report::RigaReport;
+using report::Sezione;
+namespace blocchi = report::blocchi;
+namespace formati = report::formati;
+using blocchi::Posto;
+
+/// The blocks of the letters number a held shipment and its waybill; here both are the waybill's own.
+void numeraConLdv(Sezione& sezione)
+{
+    for (const char16_t* nome : {u"txtNumero", u"barLDV", u"txtBarLDV", u"txtLDV"})
+        sezione.controllo(QString::fromUtf16(nome)).colonna = u"lenrlv"_s;
+    sezione.controllo(u"txtNumero"_s).formato = [](const Contesto& contesto) {
+        return u"n. %1 / %2"_s.arg(contesto.valore.value_or(QString()), contesto.riga.testo(u"leanlv"_s));
+    };
+    sezione.controllo(u"lblRifMitt"_s).testo = u"Rif. mittente"_s;
+}
+
+double mittente(Sezione& sezione, double y)
+{
+    y = blocchi::capitolo(sezione, y, u"lblMittenti"_s, u"Mittente"_s);
+    Controllo nome = report::campo(u"txtMittente"_s, {}, u"RagioneSociale"_s, {10, true});
+    nome.formato = [](const Contesto& contesto) {
+        return formati::unisci({contesto.riga.testo(u"RagioneSociale"_s), contesto.riga.testo(u"Indirizzo"_s),
+                                contesto.riga.testo(u"CLCAP"_s), contesto.riga.testo(u"Localita"_s)},
+                               contesto.riga.testo(u"Provincia"_s));
+    };
+    blocchi::voce(sezione, y, Posto::intero, u"Cliente"_s, std::move(nome));
+    return y + blocchi::passoVoce + blocchi::dopoCapitolo;
+}
+
+double consegna(Sezione& sezione, double y)
+{
+    y = blocchi::capitolo(sezione, y, u"lblConsegna"_s, u"Consegna"_s);
+    blocchi::voce(sezione, y, Posto::sinistro, u"Vettore"_s,
+                  report::campo(u"txtVettore"_s, {}, u"vettore"_s));
+    blocchi::voce(sezione, y, Posto::destro, u"Linea"_s, report::campo(u"txtLinea"_s, {}, u"linea"_s));
+    y += blocchi::passoVoce;
+    blocchi::voce(sezione, y, Posto::sinistro, u"Porto"_s, report::campo(u"txtPorto"_s, {}, u"porto"_s));
+    Controllo anticipo = report::campo(u"txtAnticipo"_s, {}, u"leanpc"_s);
+    anticipo.formato = formati::importo;
+    blocchi::voce(sezione, y, Posto::destro, u"Anticipo"_s, std::move(anticipo));
+    return y + blocchi::passoVoce + blocchi::dopoCapitolo;
+}
+
+double firme(Sezione& sezione, double y)
+{
+    constexpr double larghezza = 76;
+    constexpr double spazioFirma = 14;
+    for (const auto& [x, chi] : {std::pair{blocchi::sinistra, u"Firma del vettore"_s},
+                                 std::pair{blocchi::destra - larghezza, u"Firma del destinatario"_s}}) {
+        const QString nome = chi.section(u' ', -1);
+        sezione.controlli.push_back(
+            report::cornice(u"linFirma"_s + nome, {x, y + spazioFirma, larghezza, 0}, blocchi::scuro));
+        sezione.controlli.push_back(
+            report::etichetta(u"lblFirma"_s + nome, {x, y + spazioFirma + 1, larghezza, 4}, chi, {8}));
+    }
+    return y + spazioFirma + 6;
+}
+
+report::Definizione definizione()
+{
+    report::Definizione lettera = blocchi::lettera(u"letteraVettura"_s);
+    Sezione& sezione = lettera.dettaglio;
+    double y = blocchi::titolo(sezione, 4, u"Lettera di vettura"_s);
+    y = mittente(sezione, y + 2);
+    y = blocchi::spedizione(sezione, y);
+    y = blocchi::merce(sezione, y);
+    y = consegna(sezione, y);
+    y = blocchi::testoLibero(sezione, y, u"Note"_s, u"Note"_s, u"lenote"_s);
+    numeraConLdv(sezione);
+    sezione.altezza = firme(sezione, y) + 2;
+    return lettera;
+}
+
+void aggiungiColonne(RigaReport& riga, const Recordset& righe)
+{
+    if (righe.eof())
+        return;
+    for (int i = 0; i < righe.colonne(); ++i)
+        riga.aggiungi(righe.nomeColonna(i), righe.valore(i));
+}
+
+/// The waybill with the names behind its codes; a name that is not there leaves its place empty.
+RigaReport leggi(Connessione& connessione, const LdvEmessa& ldv)
+{
+    RigaReport riga;
+    Recordset righe;
+    righe.apri(connessione, istruzioni::spedizionePerNumeroDataFiliale(ldv.numero, ldv.data, ldv.filiale));
+    if (righe.eof())
+        throw Errore(u"La lettera di vettura %1 non si rilegge dall'archivio."_s.arg(ldv.numero));
+    aggiungiColonne(riga, righe);
+    righe.apri(connessione,
+               u"select RagioneSociale, Indirizzo, CLCAP, Localita, Provincia from clien where Codice=?"_s,
+               Recordset::Cursore::soloAvanti, {{riga.valore(u"lecodi"_s)}});
+    aggiungiColonne(riga, righe);
+    righe.apri(connessione, u"select * from porto where idPorto=?"_s, Recordset::Cursore::soloAvanti,
+               {{riga.valore(u"leport"_s)}});
+    riga.aggiungi(u"porto"_s, righe.eof() || righe.colonne() < 2 ? Valore() : righe.valore(1));
+    return riga;
+}
+
+} // namespace
+
+std::unique_ptr<Documento> componiLdv(Connessione& connessione, const LdvEmessa& ldv, const QString& logo)
+{
+    const QString titolo = u"Lettera di vettura %1/%2"_s.arg(ldv.numero, QString::number(ldv.anno));
+    const QImage immagine = report::leggiLogo(logo);
+    report::Definizione lettera = definizione();
+    blocchi::completaIntestazione(lettera.intestazione, {}, !immagine.isNull());
+    report::Composizione composizione(lettera, titolo, immagine);
+    composizione.aggiungi(leggi(connessione, ldv), connessione);
+    return std::make_unique<report::DocumentoReport>(titolo, lettera.carta, composizione.pagine(),
+                                                     [] { return true; });
+}
+
+} // namespace giacenza::emissione

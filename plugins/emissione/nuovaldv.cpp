@@ -1,0 +1,181 @@
+#include "emissione/nuovaldv.h"
+
+#include "data/riconsegne.h"
+#include "data/transazione.h"
+#include "data/valori.h"
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza::emissione {
+
+namespace {
+
+/// How often an issue is tried when another program took its number, or the database ended one of two that
+/// waited for each other.
+constexpr int tentativi = 5;
+
+struct Luogo
+{
+    Valore nome;
+    Valore indirizzo;
+    Valore cap;
+    Valore localita;
+    Valore provincia;
+};
+
+Luogo destinatario(const RecordLdv& originale)
+{
+    return {originale.valore(u"ledest"_s), originale.valore(u"leindd"_s), originale.valore(u"lecapd"_s),
+            originale.valore(u"lelocd"_s), originale.valore(u"leprod"_s)};
+}
+
+Luogo mittente(Connessione& connessione, const RecordLdv& originale)
+{
+    const Valore codice = originale.valore(u"lecodi"_s);
+    Recordset cliente;
+    cliente.apri(connessione,
+                 u"select RagioneSociale, Indirizzo, CLCAP, Localita, Provincia from clien where Codice=?"_s,
+                 Recordset::Cursore::soloAvanti, {{codice}});
+    if (cliente.eof())
+        throw Errore(
+            u"Il mittente, cliente %1, non è in archivio: nessuna lettera di vettura è stata emessa."_s.arg(
+                codice.value_or(u"senza codice"_s)));
+    return {cliente.valore(0), cliente.valore(1), cliente.valore(2), cliente.valore(3), cliente.valore(4)};
+}
+
+/// Makes issuers wait for each other, from here to the end of the transaction: the row of the general
+/// settings is written as it is. A plain select would not do: on SQLite the transaction could then no longer
+/// write after another one's commit, on MariaDB it would go on seeing the waybills as they were.
+void mettiInFila(Connessione& connessione)
+{
+    connessione.esegui(u"update ekelvorqzt_tabge00f set UltimoNumGiacenza=UltimoNumGiacenza"_s);
+}
+
+void ricontrolla(Connessione& connessione, const Contesto& contesto)
+{
+    const ContoRiconsegne conto =
+        ContaRiconsegne(connessione, {contesto.numeroGiacenza, contesto.annoGiacenza});
+    const QString giacenza = u"%1/%2"_s.arg(contesto.numeroGiacenza, QString::number(contesto.annoGiacenza));
+    if (conto.esito == EsitoRiconsegne::inesistente)
+        throw Errore(
+            u"La giacenza %1 non è più in archivio: nessuna lettera di vettura è stata emessa."_s.arg(
+                giacenza));
+    if (conto.esito == EsitoRiconsegne::chiusa)
+        throw Errore(
+            u"La giacenza %1 è stata chiusa nel frattempo: nessuna lettera di vettura è stata emessa."_s.arg(
+                giacenza));
+    if (conto.riconsegne != contesto.riconsegne)
+        throw Errore(
+            u"Per la giacenza %1 un'altra postazione ha emesso nel frattempo una lettera di vettura: "
+            "nessun'altra è stata emessa. Riaprire la schermata e ripetere, se serve."_s.arg(giacenza));
+}
+
+/// A number that is digits only, and short enough to count on from.
+QString soloNumeri(Dialetto dialetto)
+{
+    if (dialetto == Dialetto::sqlite)
+        return u"lenrlv not glob '*[^0-9]*' and length(lenrlv) between 1 and 18"_s;
+    return u"lenrlv regexp '^[0-9]{1,18}$'"_s;
+}
+
+QString prossimoNumero(Connessione& connessione, int anno)
+{
+    Recordset massimo;
+    massimo.apri(connessione,
+                 u"select coalesce(max(cast(lenrlv as unsigned)),0) from letve00f where leanlv=? and "_s +
+                     soloNumeri(connessione.dialetto()),
+                 Recordset::Cursore::soloAvanti, {{QString::number(anno)}});
+    return somma(massimo.valore(0).value_or(u"0"_s), u"1"_s);
+}
+
+/// Where the waybill comes from, before what the original's clerk noted.
+QString note(const RecordLdv& originale, const Contesto& contesto)
+{
+    QStringList origine = {contesto.resoAMittente ? u"Reso a Mittente"_s : u"Riconsegna a Destinatario"_s};
+    const Valore giacenza = originale.valore(u"LERFGI"_s);
+    if (giacenza)
+        origine << u"giacenza %1/%2"_s.arg(*giacenza, originale.valore(u"LEANGI"_s).value_or(QString()));
+    origine << u"LDV originale %1"_s.arg(originale.valore(u"lenrlv"_s).value_or(QString()));
+    const QString prima = originale.valore(u"lenote"_s).value_or(QString());
+    return origine.join(u", "_s) + (prima.isEmpty() ? QString() : u"\r\n"_s + prima);
+}
+
+void imposta(Recordset& riga, const QString& colonna, const Valore& valore)
+{
+    if (valore)
+        riga.imposta(colonna, valore);
+}
+
+void aggiungi(Connessione& connessione, const RecordLdv& originale, const Contesto& contesto,
+              const LdvEmessa& chiave)
+{
+    const Luogo dove = contesto.resoAMittente ? mittente(connessione, originale) : destinatario(originale);
+    Recordset nuova;
+    nuova.apriTabella(connessione, u"letve00f"_s);
+    nuova.aggiungi();
+    nuova.imposta(u"lefili"_s, chiave.filiale);
+    nuova.imposta(u"lenrlv"_s, chiave.numero);
+    nuova.imposta(u"leanlv"_s, QString::number(chiave.anno));
+    nuova.imposta(u"ledtlv"_s, dataSql(chiave.data));
+    for (const char16_t* copiata :
+         {u"lecodi", u"lecmpe", u"lecdve", u"lelin1", u"lenatu", u"lerife", u"lerifd", u"lecoll", u"lepeso",
+          u"levolu", u"levame", u"LERFGI", u"LEANGI"})
+        imposta(nuova, QString::fromUtf16(copiata), originale.valore(QString::fromUtf16(copiata)));
+    imposta(nuova, u"ledest"_s, dove.nome);
+    imposta(nuova, u"leindd"_s, dove.indirizzo);
+    imposta(nuova, u"lecapd"_s, dove.cap);
+    imposta(nuova, u"lelocd"_s, dove.localita);
+    imposta(nuova, u"leprod"_s, dove.provincia);
+    nuova.imposta(u"lerico"_s, u"R"_s);
+    imposta(nuova, u"leport"_s,
+            contesto.porto != 0 ? Valore(QString::number(contesto.porto)) : originale.valore(u"leport"_s));
+    // The sender takes his goods back: nothing is to be cashed, and nothing was paid in advance.
+    for (const char16_t* importo : {u"lecnss", u"leanpc"}) {
+        const QString colonna = QString::fromUtf16(importo);
+        imposta(nuova, colonna, contesto.resoAMittente ? Valore(u"0"_s) : originale.valore(colonna));
+    }
+    nuova.imposta(u"lenote"_s, note(originale, contesto));
+    nuova.aggiorna();
+}
+
+LdvEmessa inUnaTransazione(Connessione& connessione, const RecordLdv& originale, const Contesto& contesto)
+{
+    Transazione transazione(connessione);
+    mettiInFila(connessione);
+    if (contesto.controlloGiacenza)
+        ricontrolla(connessione, contesto);
+    const int anno = contesto.oggi.year();
+    const LdvEmessa chiave = {originale.valore(u"lefili"_s).value_or(QString()),
+                              prossimoNumero(connessione, anno), anno, contesto.oggi};
+    aggiungi(connessione, originale, contesto, chiave);
+    transazione.conferma();
+    return chiave;
+}
+
+/// A number that is taken, or a wait that the database broke off.
+bool daRitentare(const ErroreDatabase& errore)
+{
+    constexpr int vincoloSqlite = 19;
+    return errore.sqlstate() == u"23000"_s || errore.sqlstate() == u"40001"_s ||
+           errore.codiceNativo() == vincoloSqlite;
+}
+
+} // namespace
+
+LdvEmessa emettiLdv(Connessione& connessione, const RecordLdv& originale, const Contesto& contesto)
+{
+    if (originale.vuoto())
+        throw Errore(
+            u"La lettera di vettura da cui partire non è stata trovata in archivio: nessuna lettera di "
+            "vettura è stata emessa."_s);
+    for (int tentativo = 1;; ++tentativo) {
+        try {
+            return inUnaTransazione(connessione, originale, contesto);
+        } catch (const ErroreDatabase& errore) {
+            if (tentativo == tentativi || !daRitentare(errore))
+                throw;
+        }
+    }
+}
+
+} // namespace giacenza::emissione
