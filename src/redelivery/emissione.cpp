@@ -48,7 +48,13 @@ QString EmettiRiconsegna(const RecordLdv& ldv, bool stampa, const Contesto& cont
     emittente.parte->setPercorsoLogo(cartella + QStringLiteral("/logo.gif"));
     emittente.parte->setStampa(stampa);
     emittente.parte->setDefinitiva(true);
-    return emittente.parte->emetti(ldv);
+    try {
+        return emittente.parte->emetti(ldv);
+    } catch (const Errore&) {
+        throw;
+    } catch (const std::exception& errore) {
+        throw Errore(QString::fromUtf8(errore.what()));
+    }
 }
 
 } // namespace giacenza

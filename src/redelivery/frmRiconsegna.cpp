@@ -173,8 +173,13 @@ void frmRiconsegna::mostra(const QString& numero, QDate giorno)
             istruzioni::spedizionePerNumeroData(numero, giorno, istruzioni::Giunzione::interna)))
         return stato(QStringLiteral("LDV %1 del %2: non trovata.").arg(numero, dataBreve(giorno)));
     scrivi(mUi->barLdv, QStringLiteral("%1 del %2").arg(tag(mUi->txtLDV), testo(mUi->txtDataLdv)));
-    stato(testo(lblNrGia).isEmpty() ? QStringLiteral("Questa lettera di vettura non è in giacenza.")
-                                    : QString());
+    const bool inGiacenza = !testo(lblNrGia).isEmpty();
+    stato(inGiacenza ? QString() : QStringLiteral("Questa lettera di vettura non è in giacenza."));
+    if (inGiacenza)
+        return;
+    // They belong to the date and the branch of another held shipment, which stand beside them as left-overs.
+    scrivi(barGiorniSosta, {});
+    scrivi(barFilialeGia, {});
 }
 
 Seguito frmRiconsegna::lascia(Modo modo)
