@@ -1,0 +1,45 @@
+#pragma once
+
+#include "data/istruzioni.h"
+#include "data/recordset.h"
+
+#include <giacenza/Contesto.h>
+#include <giacenza/EmittenteLdv.h>
+
+#include <map>
+
+namespace giacenza::prove {
+
+/// A waybill's record as a test wants it.
+class LdvDiProva : public RecordLdv
+{
+public:
+    /// An empty record.
+    LdvDiProva() = default;
+    /// The waybill of the small depot of a number.
+    LdvDiProva(Connessione& connessione, const QString& numero)
+    {
+        Recordset riga;
+        riga.apri(connessione, istruzioni::spedizioneIntera({QStringLiteral("MI"), numero, 2026}));
+        for (int i = 0; i < riga.colonne(); ++i)
+            mValori[riga.nomeColonna(i).toLower()] = riga.valore(i);
+    }
+
+    bool vuoto() const override { return mValori.empty(); }
+    QStringList colonne() const override { return {}; }
+    Valore valore(const QString& colonna) const override { return mValori.at(colonna.toLower()); }
+
+private:
+    std::map<QString, Valore> mValori;
+};
+
+/// A re-delivery on 21/11/2026 of the held shipment 40, without check.
+inline Contesto contestoDiProva()
+{
+    return {.lavoro = QStringLiteral("Riconsegna a Destinatario"),
+            .numeroGiacenza = QStringLiteral("40"),
+            .annoGiacenza = 2026,
+            .oggi = QDate(2026, 11, 21)};
+}
+
+} // namespace giacenza::prove

@@ -1,0 +1,153 @@
+#include "component/parti.h"
+#include "data/traccia.h"
+#include "plugins/ldvdiprova.h"
+#include "support/bancadati.h"
+#include "support/modale.h"
+#include "support/spedizioni.h"
+#include "support/stampa.h"
+
+#include <gmock/gmock.h>
+
+#include <QDir>
+#include <QMessageBox>
+#include <QProcess>
+#include <QTemporaryDir>
+
+using namespace giacenza;
+using namespace giacenza::prove;
+using namespace Qt::StringLiterals;
+using testing::SizeIs;
+
+namespace {
+
+/// The issuer as the component finds it: by its name, in its file.
+class Emissione : public testing::TestWithParam<std::string>
+{
+protected:
+    static void SetUpTestSuite() { qputenv("GIACENZA_PARTI", GIACENZA_PROVA_PARTI); }
+    static void TearDownTestSuite() { qunsetenv("GIACENZA_PARTI"); }
+
+    Emissione()
+    {
+        riempiDeposito(mBase);
+        mBase.esegui(u"update letve00f set LERFGI='40', LEANGI=2026 where lenrlv='4711';"_s);
+    }
+
+    QString emetti(const RecordLdv& ldv, bool stampa = true)
+    {
+        const auto emittente = creaParteDi<EmittenteLdv>(QString::fromUtf16(classeEmittenteLdv));
+        if (!emittente.parte)
+            throw std::runtime_error(emittente.motivo.toStdString());
+        dynamic_cast<ParteConContesto&>(*emittente.parte).setContesto(mContesto);
+        emittente.parte->setPercorsoDatabase(mStringa);
+        emittente.parte->setCartellaStampa(mImp);
+        emittente.parte->setPercorsoLogo(QStringLiteral(GIACENZA_PROVA_LOGO));
+        emittente.parte->setStampa(stampa);
+        emittente.parte->setDefinitiva(true);
+        return emittente.parte->emetti(ldv);
+    }
+    QString emetti(bool stampa = true)
+    {
+        Connessione connessione = mBase.connessione();
+        return emetti(LdvDiProva(connessione, u"4711"_s), stampa);
+    }
+    /// The text of the one box, when the issue fails.
+    QString scatola(const std::function<QString()>& emissione)
+    {
+        QString testo;
+        const QuandoAperta<QMessageBox> intanto([&](QMessageBox& aperta) {
+            testo = aperta.text();
+            aperta.accept();
+        });
+        EXPECT_EQ(emissione(), QString());
+        return testo;
+    }
+    QString emesse() const
+    {
+        return mBase.leggi(u"select count(*) from letve00f where ledtlv='2026-11-21'"_s).value_or(QString());
+    }
+
+    BancaDati mBase{GetParam()};
+    QTemporaryDir mCartella;
+    QString mImp = mCartella.filePath(u"programma/imp"_s);
+    QString mStringa = mBase.stringa();
+    Contesto mContesto = contestoDiProva();
+};
+
+INSTANTIATE_TEST_SUITE_P(Basi, Emissione, testing::Values("sqlite", "mariadb"),
+                         nomeBase<testing::TestParamInfo<std::string>>);
+
+TEST_P(Emissione, StampaLaLdvConIlSuoCodiceABarre)
+{
+    const QString file = mImp + u"/LDV_MI_4716_2026.pdf"_s;
+    EXPECT_EQ(emetti(), u"Emessa la lettera di vettura 4716/2026, stampata in "_s + file);
+    QProcess testo;
+    testo.start(u"pdftotext"_s, {u"-layout"_s, file, u"-"_s});
+    ASSERT_TRUE(testo.waitForFinished());
+    const QString pagina = QString::fromUtf8(testo.readAllStandardOutput());
+    for (const char16_t* atteso :
+         {u"Lettera di vettura", u"n. 4716 / 2026", u"LDV 4716",
+          u"Ferramenta Lombarda S.r.l. Via Po 1 20900 Monza (MB)", u"Utensileria del Lago",
+          u"Corso Italia 44", u"22100 Como (CO)", u"21/11/2026", u"Assegnato", u"Autotrasporti Riuniti",
+          u"Brianza nord", u"45,5 kg", u"120,00 €", u"giacenza 40/2026", u"Solo al mattino",
+          u"Firma del destinatario", u"Pagina 1 di 1"})
+        EXPECT_TRUE(pagina.contains(QString::fromUtf16(atteso)))
+            << QString::fromUtf16(atteso).toStdString() << '\n'
+            << pagina.toStdString();
+    EXPECT_EQ(emesse(), u"1"_s);
+    EXPECT_THAT(QDir(mImp).entryList(QDir::Files | QDir::Hidden), SizeIs(1)) << "no leftover of the trial";
+}
+
+TEST_P(Emissione, SenzaStampaNonLasciaFile)
+{
+    EXPECT_EQ(emetti(false), u"Emessa la lettera di vettura 4716/2026."_s);
+    EXPECT_FALSE(QDir(mImp).exists());
+}
+
+TEST_P(Emissione, UnaCartellaCheNonSiScriveFermaPrima)
+{
+    QFile occupata(mCartella.filePath(u"occupata"_s));
+    ASSERT_TRUE(occupata.open(QIODevice::WriteOnly));
+    mImp = occupata.fileName() + u"/imp"_s;
+    EXPECT_EQ(
+        scatola([this] { return emetti(); }),
+        u"Nella cartella \"%1\" non si può scrivere: nessuna lettera di vettura è stata emessa."_s.arg(mImp));
+    EXPECT_EQ(emesse(), u"0"_s);
+    EXPECT_EQ(emetti(false), u"Emessa la lettera di vettura 4716/2026."_s)
+        << "without printing it is not needed";
+}
+
+TEST_P(Emissione, UnRecordVuotoSiDiceInUnaScatola)
+{
+    const LdvDiProva vuota;
+    EXPECT_TRUE(scatola([&] { return emetti(vuota); }).startsWith(u"La lettera di vettura da cui partire"_s));
+    EXPECT_EQ(emesse(), u"0"_s);
+}
+
+TEST_P(Emissione, UnDatabaseCheNonRispondeSiDiceInUnaScatola)
+{
+    Connessione connessione = mBase.connessione();
+    const LdvDiProva ldv(connessione, u"4711"_s);
+    mStringa = u"DRIVER={Inesistente}"_s;
+    EXPECT_TRUE(
+        scatola([&] { return emetti(ldv); })
+            .startsWith(u"La nuova lettera di vettura non è stata emessa: il database non ha accettato "
+                        "l'operazione.\n\n"_s));
+}
+
+TEST_P(Emissione, UnaStampaFallitaDiceIlNumeroEmesso)
+{
+    // The waybill cannot be read back by its branch: the letter fails after the commit.
+    Connessione connessione = mBase.connessione();
+    mBase.esegui(GetParam() == "sqlite" ? u"alter table filiali rename to altrove;"_s
+                                        : u"drop table filiali;"_s);
+    const LdvDiProva ldv(connessione, u"4711"_s);
+    EXPECT_TRUE(
+        scatola([&] {
+            return emetti(ldv);
+        }).startsWith(u"La lettera di vettura 4716/2026 è stata emessa, ma non è stata stampata.\n\n"_s));
+    EXPECT_EQ(emesse(), u"1"_s);
+    EXPECT_TRUE(QDir(mImp).entryList(QDir::Files).isEmpty());
+}
+
+} // namespace
