@@ -40,8 +40,11 @@ private:
     void guarda()
     {
         auto* finestra = qobject_cast<Finestra*>(QApplication::activeModalWidget());
-        if (!finestra)
+        if (!finestra) {
+            // What opens it may be queued behind this.
+            QTimer::singleShot(1, this, &QuandoAperta::guarda);
             return;
+        }
         mVista = true;
         QTimer::singleShot(secondiMassimi * 1000, finestra, [finestra] {
             ADD_FAILURE() << "La finestra è rimasta aperta.";
