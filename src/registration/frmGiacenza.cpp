@@ -123,8 +123,12 @@ Seguito frmGiacenza::lascia(Chiave chiave)
     if (!mModificata[static_cast<int>(chiave)] || scritta.isEmpty())
         return {};
     const auto cerca = gestore([this, chiave] { ricerca(chiave); });
+    const bool conCliente = !txtCodiceCli->text().isEmpty();
+    // A date typed first is no search yet.
+    if (conCliente && cercato(chiave).isEmpty())
+        return {};
     const bool conDialogo = mUi->txtFiliale->text().isEmpty() && eData(scritta);
-    if (txtCodiceCli->text().isEmpty() || conDialogo)
+    if (!conCliente || conDialogo)
         return cerca;
     cerca();
     return {};
