@@ -48,6 +48,13 @@ protected:
     QString stringa() const { return leggi(QStringLiteral("amministratore")); }
     pid_t pid() const { return leggi(QStringLiteral("pid")).toInt(); }
 
+    /// Never the group of this process, which is what a pid of 0 would mean.
+    void manda(int segnale) const
+    {
+        ASSERT_GT(pid(), 0) << "il server non è partito";
+        ASSERT_EQ(kill(pid(), segnale), 0);
+    }
+
     /// Not by a signal: who ended and was not waited for still takes signals.
     static bool viva(pid_t processo)
     {
@@ -58,7 +65,7 @@ protected:
     /// Stops the server in its tracks; its threads stop one after the other, a moment later.
     void sospendi() const
     {
-        ASSERT_EQ(kill(pid(), SIGSTOP), 0);
+        ASSERT_NO_FATAL_FAILURE(manda(SIGSTOP));
         const QDir fili(QStringLiteral("/proc/%1/task").arg(pid()));
         const auto ferme = [&] {
             const QStringList nomi = fili.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
@@ -70,7 +77,7 @@ protected:
         ASSERT_TRUE(QTest::qWaitFor(ferme));
     }
 
-    QTemporaryDir mCartella;
+    QTemporaryDir mCartella{QDir::tempPath() + QStringLiteral("/prova servente XXXXXX")};
 };
 
 TEST_F(Servente, avviatoDueVolteEUnoFermatoDueVolteENessuno)
@@ -102,7 +109,7 @@ TEST_F(Servente, avviatoDueVolteEUnoFermatoDueVolteENessuno)
 TEST_F(Servente, uccisoRiparte)
 {
     avvia();
-    ASSERT_EQ(kill(pid(), SIGKILL), 0);
+    ASSERT_NO_FATAL_FAILURE(manda(SIGKILL));
     ASSERT_TRUE(QTest::qWaitFor([this] { return !viva(pid()); }));
     avvia();
     Connessione connessione;
@@ -122,7 +129,7 @@ TEST_F(Servente, cheTaceNonTieneFermoNessuno)
     EXPECT_FALSE(connessione.aperta());
     erroreDi([&] { connessione.apri(stringa(), Limiti{.comando = 1, .connessione = 1}); });
     EXPECT_FALSE(connessione.aperta());
-    ASSERT_EQ(kill(pid(), SIGCONT), 0);
+    ASSERT_NO_FATAL_FAILURE(manda(SIGCONT));
     connessione.apri(stringa());
     EXPECT_TRUE(connessione.aperta());
 }
