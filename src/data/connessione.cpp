@@ -46,10 +46,7 @@ qint64 Connessione::esegui(const QString& istruzione)
 {
     odbc::Istruzione comando(collegamento());
     comando.esegui(istruzione);
-    // Some statements answer with a row ("pragma"), and SQLite's driver runs those only as far as they are
-    // read.
-    comando.scorri();
-    return comando.righeToccate();
+    return comando.finisci();
 }
 
 Dialetto Connessione::dialetto() const noexcept

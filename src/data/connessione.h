@@ -58,8 +58,8 @@ public:
     /// Never fails; does nothing when closed.
     void chiudi() noexcept;
 
-    /// Runs a statement that gives no rows. Throws ErroreDatabase, also when the connection is closed.
-    /// Returns the number of rows it touched, -1 when the driver does not say.
+    /// Runs a statement; rows that it gives are dropped. Throws ErroreDatabase, also when the connection is
+    /// closed. Returns the number of rows it touched, -1 when the driver does not say.
     qint64 esegui(const QString& istruzione);
 
     Dialetto dialetto() const noexcept;

@@ -105,10 +105,18 @@ void Istruzione::eseguiPreparata(std::span<const Valore> parametri)
     });
 }
 
-qint64 Istruzione::righeToccate()
+qint64 Istruzione::finisci()
 {
+    const SQLHSTMT maniglia = viva();
     SQLLEN righe = -1;
-    controlla(SQLRowCount(viva(), &righe));
+    controlla(SQLRowCount(maniglia, &righe));
+    SQLSMALLINT colonne = 0;
+    controlla(SQLNumResultCols(maniglia, &colonne));
+    if (colonne > 0) {
+        for (Riga riga; leggi(riga, 0);) {
+        }
+        controlla(SQLFreeStmt(maniglia, SQL_CLOSE));
+    }
     return righe;
 }
 
@@ -181,14 +189,6 @@ Riga::Cella Istruzione::leggiCella(SQLUSMALLINT colonna)
     }
     mLetti.resize(inizio + letti);
     return {static_cast<qint32>(inizio), static_cast<qint32>(letti)};
-}
-
-void Istruzione::scorri()
-{
-    SQLSMALLINT colonne = 0;
-    controlla(SQLNumResultCols(viva(), &colonne));
-    for (Riga riga; colonne > 0 && leggi(riga, 0);) {
-    }
 }
 
 } // namespace giacenza::odbc

@@ -149,14 +149,13 @@ public:
     void prepara(const QString& testo);
     void eseguiPreparata(std::span<const Valore> parametri);
 
-    /// Rows touched, -1 when the driver does not say.
-    qint64 righeToccate();
+    /// Ends a statement whose rows, if it gives any, nobody wants: SQLite's driver runs one that gives rows
+    /// ("pragma") only as far as they are read. Returns the rows touched, -1 when the driver does not say.
+    qint64 finisci();
 
     std::vector<QString> nomiColonne();
     /// False behind the last row.
     bool leggi(Riga& riga, int colonne);
-    /// Reads the rows to their end, if there are any, and drops them.
-    void scorri();
 
 private:
     friend class Collegamento;

@@ -267,7 +267,7 @@ Comando::~Comando() = default;
 qint64 Comando::esegui(std::span<const Valore> parametri)
 {
     mInterno->istruzione.eseguiPreparata(parametri);
-    return mInterno->istruzione.righeToccate();
+    return mInterno->istruzione.finisci();
 }
 
 void ChiudiOggettiDB(Recordset* recordset, Connessione* connessione, bool rilascia,

@@ -36,6 +36,19 @@ TEST_P(Connessioni, conteggiano)
     EXPECT_EQ(connessione.esegui(QStringLiteral("delete from prova")), 4);
 }
 
+TEST_P(Connessioni, eseguonoAncheCioCheDaRighe)
+{
+    creaTabella();
+    Connessione connessione = mBase.amministratore();
+    const QString istruzione = QStringLiteral("insert into prova (id) values (%1) returning id");
+    connessione.esegui(istruzione.arg(1));
+    connessione.esegui(istruzione.arg(2));
+    Comando comando(connessione, istruzione.arg(QStringLiteral("?")));
+    comando.esegui(std::vector<Valore>{QStringLiteral("3")});
+    comando.esegui(std::vector<Valore>{QStringLiteral("4")});
+    EXPECT_EQ(mBase.leggi(QStringLiteral("select count(*) from prova")), QStringLiteral("4"));
+}
+
 TEST_P(Connessioni, versoIlNullaFalliscono)
 {
     const QString stringa =
