@@ -4,7 +4,9 @@
 #include "data/transazione.h"
 #include "serversordo.h"
 
+#include <QFile>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 
 using namespace giacenza;
 using namespace giacenza::prove;
@@ -62,6 +64,31 @@ TEST_P(Connessioni, versoIlNullaFalliscono)
     EXPECT_FALSE(connessione.aperta());
     connessione.apri(mBase.stringa());
     EXPECT_TRUE(connessione.aperta());
+}
+
+TEST_P(Connessioni, siApronoAncheConIlNomeDiUnaFonte)
+{
+    // What the host's string says, as the machine's list of data sources says it.
+    QTemporaryDir cartella;
+    QFile elenco(cartella.filePath(QStringLiteral("odbc.ini")));
+    ASSERT_TRUE(elenco.open(QIODevice::WriteOnly));
+    QString voce = mBase.stringa();
+    voce.replace(u';', u'\n')
+        .remove(u'{')
+        .remove(u'}')
+        .replace(QStringLiteral("DRIVER"), QStringLiteral("Driver"));
+    // A name for each: the driver manager remembers what it read.
+    const QString nome = QStringLiteral("Deposito_%1").arg(QString::fromStdString(GetParam()));
+    elenco.write(QStringLiteral("[%1]\n%2\n").arg(nome, voce).toUtf8());
+    elenco.close();
+    qputenv("ODBCINI", elenco.fileName().toUtf8());
+    Connessione connessione;
+    connessione.apri(QStringLiteral("DSN=") + nome);
+    qunsetenv("ODBCINI");
+    EXPECT_EQ(connessione.dialetto(), mariadb() ? Dialetto::mariadb : Dialetto::sqlite);
+    creaTabella();
+    EXPECT_EQ(connessione.esegui(QStringLiteral("insert into prova (id) values (1)")), 1);
+    EXPECT_EQ(mBase.leggi(QStringLiteral("select count(*) from prova")), QStringLiteral("1"));
 }
 
 TEST_P(Connessioni, conUnaStringaQualsiasiFalliscono)

@@ -196,6 +196,20 @@ TEST_P(Valori, annoEdUnsignedCiSonoSuOgniBase)
     EXPECT_EQ(recordset.valore(0), QStringLiteral("1"));
 }
 
+TEST_P(Valori, lAnnoDiCioCheNonEUnGiornoENullo)
+{
+    Recordset recordset;
+    recordset.apri(
+        mConnessione,
+        QStringLiteral("select year('2024-02-29'), year('2024-12-31 23:59:59'), year('0999-01-01'), "
+                       "year('2023-02-29'), year('2024-13-01'), year('abc'), year(null)"));
+    EXPECT_EQ(recordset.valore(0), QStringLiteral("2024"));
+    EXPECT_EQ(recordset.valore(1), QStringLiteral("2024"));
+    EXPECT_EQ(recordset.valore(2), QStringLiteral("999"));
+    for (int colonna = 3; colonna < recordset.colonne(); ++colonna)
+        EXPECT_EQ(recordset.valore(colonna), std::nullopt) << colonna;
+}
+
 TEST(Locale, eQuellaChiesta)
 {
     EXPECT_EQ(QString::fromLatin1(std::setlocale(LC_ALL, nullptr)),
