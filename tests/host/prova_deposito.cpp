@@ -59,7 +59,8 @@ TEST(Deposito, con_un_archivio_che_non_c_e_nessuna_schermata_si_apre_e_la_finest
 {
     deposito::Finestra finestra({u"DRIVER={Nessun driver};Database=x"_s, {}, {}});
     finestra.show();
-    for (const QString& pulsante : {u"cmdNuova"_s, u"cmdNuovaLdv"_s, u"cmdGestione"_s, u"cmdRiconsegna"_s, u"cmdReso"_s}) {
+    for (const QString& pulsante :
+         {u"cmdNuova"_s, u"cmdNuovaLdv"_s, u"cmdGestione"_s, u"cmdRiconsegna"_s, u"cmdReso"_s}) {
         QTest::mouseClick(finestra.findChild<QPushButton*>(pulsante), Qt::LeftButton);
         const auto* messaggio = finestra.findChild<QLabel*>(u"lblMessaggio"_s);
         EXPECT_TRUE(messaggio->isVisible());
