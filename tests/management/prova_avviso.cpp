@@ -4,6 +4,7 @@
 #include "component/orologio.h"
 #include "support/stampa.h"
 
+#include <QCoreApplication>
 #include <QPlainTextEdit>
 
 using namespace giacenza;
@@ -271,6 +272,26 @@ TEST_P(Avviso, CollegamentoPersoPrimaDiOgniIstruzione)
     avvisa(QStringLiteral("motivo"));
     EXPECT_EQ(caso(QStringLiteral("GINRAV"), QStringLiteral("39")), QStringLiteral("4"))
         << "and then it works";
+}
+
+TEST_P(Avviso, LaSchermataCheSeNeVaSottoIlRifiutoAbbandona)
+{
+    for (const bool distrutta : {false, true}) {
+        richiamaAvvisato();
+        const QString prima = tutto(QStringLiteral("39"));
+        nelDialogo([&](QDialog&) {
+            if (distrutta)
+                delete mSchermata;
+            else
+                mSchermata->close();
+        });
+        clicca("cmdAvvisoGia");
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_TRUE(mSchermata.isNull());
+        EXPECT_EQ(tutto(QStringLiteral("39")), prima);
+        EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
+        EXPECT_THAT(mStampe, IsEmpty());
+    }
 }
 
 } // namespace
