@@ -134,8 +134,12 @@ void Regista::guardaDialoghi()
     }
     mRisposto = dialogo;
     mDaQuando.start();
-    // Boxes follow one another at one address: a closed one is no longer the one that was answered.
-    connect(dialogo, &QObject::destroyed, this, [this] { mRisposto = nullptr; });
+    // Boxes follow one another at one address: a closed one is no longer the one that was answered. An older
+    // one may be destroyed later, with its screen, while the next is open.
+    connect(dialogo, &QObject::destroyed, this, [this, dialogo] {
+        if (mRisposto == dialogo)
+            mRisposto = nullptr;
+    });
     if (mRisposte.empty()) {
         mFallito = QStringLiteral("si è aperta una finestra inattesa: %1 %2")
                        .arg(dialogo->objectName(), dialogo->property("text").toString());
