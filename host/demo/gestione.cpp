@@ -198,6 +198,11 @@ void raccontaGestione(Regista& regista, cGiacenza& componente, Archivio& archivi
     const auto casi = casiDiOggi(archivio);
     componente.ConsultaGiacenza();
     QWidget* schermata = regista.finestra(QStringLiteral("frmGestGia"));
+    // Becoming active puts the fields of the number back: a check box clicked before that would lose its
+    // effect.
+    schermata->activateWindow();
+    Regista::attende([&] { return schermata->isActiveWindow(); },
+                     QStringLiteral("la gestione non è diventata attiva"));
     regista.fotografa(schermata, QStringLiteral("gestione-vuota"));
 
     regista.passo(
