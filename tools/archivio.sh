@@ -120,3 +120,18 @@ comandaMariadb()
     MYSQL_PWD=$(campo PWD "$1") mariadb --no-defaults --protocol=tcp --host=127.0.0.1 \
         --port="$(<"$SERVER/porta")" --user="$(campo UID "$1")"
 }
+
+# svolgiGiornata FOLDER si|no: plays the demonstration in a folder, always from fresh data, on SQLite or on a private
+# MariaDB; gives its code.
+svolgiGiornata()
+{
+    mkdir -p "$1"
+    preparaImpostazioni "$1" "$1"
+    if [[ $2 == si ]]; then
+        avviaMariadb
+    else
+        nuovoArchivio "$1/demo.db"
+        CONNESSIONE=$(stringaSqlite "$1/demo.db")
+    fi
+    svolgi "$COSTRUITO/bin/deposito-demo" --cartella "$1" --database "$CONNESSIONE"
+}
