@@ -20,8 +20,24 @@ CampoData::CampoData(QWidget* parent) : QLineEdit(parent)
 void CampoData::chiediData(bool perData)
 {
     mData = perData;
-    setPlaceholderText(perData ? QStringLiteral("gg/mm/aaaa") : QStringLiteral("aaaa"));
+    mostraEsempio();
     imposta({});
+}
+
+void CampoData::mostraEsempio()
+{
+    // How to type it is for those who can.
+    if (isReadOnly())
+        setPlaceholderText({});
+    else
+        setPlaceholderText(mData ? QStringLiteral("gg/mm/aaaa") : QStringLiteral("aaaa"));
+}
+
+bool CampoData::event(QEvent* evento)
+{
+    if (evento->type() == QEvent::ReadOnlyChange)
+        mostraEsempio();
+    return QLineEdit::event(evento);
 }
 
 QString CampoData::testo() const

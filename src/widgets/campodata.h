@@ -24,11 +24,14 @@ public:
     void chiediData(bool perData);
 
 protected:
+    bool event(QEvent* evento) override;
     void focusInEvent(QFocusEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
     void focusOutEvent(QFocusEvent* evento) override;
 
 private:
+    void mostraEsempio();
+
     bool mData = true;
 };
 
