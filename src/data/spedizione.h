@@ -21,7 +21,8 @@ public:
     virtual void scrivi(QLatin1String controllo, const QString& testo) = 0;
     /// A text that the control keeps without showing it as its own.
     virtual void scriviTag(QLatin1String controllo, const QString& testo) = 0;
-    /// The row of a list, from 0; -1 selects none; a row that is not there leaves the list as it was.
+    /// The row of a list, from 0; -1 selects none; a row that is not there leaves the list as it was,
+    /// a left-over.
     virtual void seleziona(QLatin1String controllo, int riga) = 0;
     /// The row has nothing for the control, which stays as it was and is a left-over from now on.
     virtual void lascia(QLatin1String controllo) = 0;

@@ -9,6 +9,8 @@
 #include "screens/ricercaspedizione.h"
 #include "widgets/tasti.h"
 
+#include <QApplication>
+
 #include <utility>
 
 namespace giacenza {
@@ -41,7 +43,7 @@ void frmGiacenza::collega()
     suTasto(mUi->txtFiliale, Qt::Key_F9, gestore([this] { RicercaSpedizione(Chiave::numero); }));
 
     for (const Chiave chiave : {Chiave::numero, Chiave::riferimento}) {
-        const auto modificata = [this, chiave] { mModificata[static_cast<int>(chiave)] = true; };
+        const auto modificata = [this, chiave] { mModificata[static_cast<std::size_t>(chiave)] = true; };
         const auto elenco = gestore([this, chiave] { RicercaSpedizione(chiave); });
         for (QLineEdit* riga : {campo(chiave), static_cast<QLineEdit*>(campoData(chiave))}) {
             connect(riga, &QLineEdit::textEdited, this, modificata);
@@ -84,7 +86,8 @@ void frmGiacenza::attivata()
 
 void frmGiacenza::eseguiConsegna()
 {
-    if (!isVisible() || !std::exchange(mConsegnaPendente, false))
+    // Under an open message or dialog it waits: whoever opened it goes on with what is on the screen.
+    if (!isVisible() || QApplication::activeModalWidget() || !std::exchange(mConsegnaPendente, false))
         return;
     const auto giorno = leggiData(mDataLdv);
     if (mNLettVett.isEmpty() || mFiliale.isEmpty() || mCodiceCliente.isEmpty() || !giorno)
@@ -92,13 +95,19 @@ void frmGiacenza::eseguiConsegna()
     // The code of an earlier hand-over is locked: this one's takes its place.
     bloccaCliente(false);
     scrivi(txtCodiceCli, mCodiceCliente);
-    if (const Seguito seguito = convalidaCliente())
-        seguito();
+    const Seguito rifiuto = convalidaCliente();
+    if (rifiuto) {
+        const QPointer<const Schermata> io(this);
+        rifiuto();
+        restaAperta(io);
+    }
     scrivi(mUi->txtLDV, mNLettVett);
     scrivi(mUi->txtDataLdv, dataBreve(*giorno));
     scrivi(mUi->txtFiliale, mFiliale);
     ricerca(Chiave::numero);
-    mUi->txtDataGia->setFocus();
+    // Leaving a code that was refused would check it, and tell it, once more.
+    if (!rifiuto)
+        mUi->txtDataGia->setFocus();
 }
 
 void frmGiacenza::PulisciCampi()
@@ -120,18 +129,22 @@ void frmGiacenza::PulisciCampi()
 Seguito frmGiacenza::lascia(Chiave chiave)
 {
     const QString scritta = testo(campoData(chiave));
-    if (!mModificata[static_cast<int>(chiave)] || scritta.isEmpty())
+    if (!mModificata[static_cast<std::size_t>(chiave)] || scritta.isEmpty())
         return {};
-    const auto cerca = gestore([this, chiave] { ricerca(chiave); });
     const bool conCliente = !txtCodiceCli->text().isEmpty();
     // A date typed first is no search yet.
     if (conCliente && cercato(chiave).isEmpty())
         return {};
     const bool conDialogo = mUi->txtFiliale->text().isEmpty() && eData(scritta);
     if (!conCliente || conDialogo)
-        return cerca;
-    cerca();
-    return {};
+        return gestore([this, chiave] { ricerca(chiave); });
+    try {
+        ricerca(chiave);
+        return {};
+    } catch (const Errore& errore) {
+        // Told, like a refusal, once the focus has moved: the click that moved it saves nothing.
+        return gestore([this, errore] { guasto(errore); });
+    }
 }
 
 void frmGiacenza::ricerca(Chiave chiave)
@@ -150,7 +163,7 @@ void frmGiacenza::ricercaDiretta(Chiave chiave, QDate giorno)
 {
     const QString numero = cercato(chiave);
     const QString filiale = mUi->txtFiliale->text();
-    mModificata[static_cast<int>(chiave)] = false;
+    mModificata.fill(false);
     PulisciCampi();
     if (chiave == Chiave::numero)
         mostra(istruzioni::spedizionePerNumeroDataFiliale(numero, giorno, filiale),
@@ -192,7 +205,7 @@ void frmGiacenza::RicercaSpedizione(Chiave chiave)
                .numero = perNumero ? cercato(chiave) : QString(),
                .annoOdata = testo(campoData(chiave))});
     restaAperta(io);
-    mModificata[static_cast<int>(chiave)] = false;
+    mModificata.fill(false);
     const auto giorno = scelta ? leggiData(scelta->data) : std::nullopt;
     if (!giorno)
         return;

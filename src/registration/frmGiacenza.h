@@ -2,6 +2,7 @@
 
 #include "screens/schermatacaso.h"
 
+#include <array>
 #include <memory>
 
 namespace Ui {
@@ -71,7 +72,8 @@ private:
     QString mFiliale;
     QString mCodiceCliente;
     bool mConsegnaPendente = false;
-    bool mModificata[2] = {false, false};
+    /// Of each key: whether it was typed in since the last lookup, of whichever.
+    std::array<bool, 2> mModificata{};
     bool mAggiungiGiacenza = false;
     bool mControlloGiacenza = false;
     bool mStampaLDV = false;

@@ -141,8 +141,9 @@ void CampiSchermata::seleziona(QLatin1String nome, int riga)
     auto* elenco = qobject_cast<QComboBox*>(controllo(nome));
     if (!elenco)
         throw std::logic_error("rows can be selected in a list only");
-    if (riga >= -1 && riga < elenco->count())
-        elenco->setCurrentIndex(riga);
+    if (riga < -1 || riga >= elenco->count())
+        return lascia(nome);
+    elenco->setCurrentIndex(riga);
     proprio(elenco);
     elenco->setProperty(proprietaRiempito, true);
 }

@@ -110,6 +110,8 @@ void Schermata::cercaCliente()
 void Schermata::collegaTasti()
 {
     suTasto(txtFilialeGia, Qt::Key_F12, gestore([this] { cercaFiliale(); }));
+    // The name belongs to the code that was there.
+    connect(txtFilialeGia, &QLineEdit::textEdited, this, [this] { scrivi(barFilialeGia, {}); });
     suTasto(cmbNaturaMerce, Qt::Key_F11, gestore([this] {
                 AggiungiNaturaMerce(cmbNaturaMerce);
                 CaricaNaturaMerce(cmbNaturaMerce);
@@ -160,6 +162,9 @@ std::function<void()> Schermata::gestore(std::function<void()> azione)
                 azione();
             } catch (const Errore& errore) {
                 guasto(errore);
+            } catch (const std::exception& errore) {
+                // A part of the host's throws what it likes, and nothing may pass through Qt's loop.
+                guasto(Errore(QString::fromUtf8(errore.what())));
             }
         } catch (const Abbandono&) {
             // The screen is gone: there is nobody to tell.
@@ -200,7 +205,8 @@ Seguito Schermata::rifiuta(QWidget* campo, const QString& testo, Stile stile, co
 
 bool Schermata::event(QEvent* evento)
 {
-    if (evento->type() == QEvent::WindowActivate)
+    // Not every system activates the screen anew when a box over it has closed.
+    if (evento->type() == QEvent::WindowActivate || evento->type() == QEvent::WindowUnblocked)
         attivata();
     return QWidget::event(evento);
 }

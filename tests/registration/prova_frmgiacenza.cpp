@@ -87,6 +87,22 @@ TEST_P(Registrazione, LaConsegnaIncompletaNonCerca)
     EXPECT_EQ(mostrato("txtCodiceCli"), QString());
 }
 
+TEST_P(Registrazione, LaConsegnaConUnClienteErratoLoDiceUnaVolta)
+{
+    consegna(QStringLiteral("4711"), QStringLiteral("12/11/2026"), QStringLiteral("MI"),
+             QStringLiteral("abc"));
+    QCoreApplication::processEvents();
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(QStringLiteral("Codice cliente assente o errato")));
+    EXPECT_TRUE(c("txtCodiceCli")->hasFocus()) << "the change is cancelled";
+    EXPECT_EQ(mostrato("txtDestinatario"), QStringLiteral("Utensileria del Lago"));
+    mMessaggi.prendi();
+
+    consegna(QStringLiteral("4711"), QStringLiteral("12/11/2026"), QStringLiteral("MI"),
+             QStringLiteral("77"));
+    QCoreApplication::processEvents();
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(QStringLiteral("Codice Cliente Inesistente")));
+}
+
 TEST_P(Registrazione, MostraLaSpedizioneInOgniCampo)
 {
     consegna(QStringLiteral("4711"));
@@ -274,6 +290,29 @@ TEST_P(Registrazione, CercaPerRiferimento)
     EXPECT_EQ(tag(qobject_cast<QLineEdit*>(c("txtLDV"))), QStringLiteral("4711"));
     EXPECT_THAT(istruzioni([&] { lascia("txtDataRif"); }), IsEmpty()) << "nothing was edited since";
     EXPECT_EQ(istruzioni([&] { tasto("txtRiferimento", Qt::Key_F12); }).size(), 1);
+}
+
+TEST_P(Registrazione, UnaRicercaPerRiferimentoNonNeLasciaUnaPerNumeroInSospeso)
+{
+    apri();
+    scrivi("txtCodiceCli", QStringLiteral("1001"));
+    scrivi("txtFiliale", QStringLiteral("MI"));
+    scrivi("txtLDV", QStringLiteral("47"));
+    scrivi("txtRiferimento", QStringLiteral("ORD-881"));
+    scrivi("txtDataRif", QStringLiteral("10112026"));
+    lascia("txtDataRif");
+    scrivi("txtDescGia", QStringLiteral("chiuso"));
+    c("txtDataLdv")->setFocus();
+    EXPECT_THAT(istruzioni([&] { lascia("txtDataLdv"); }), IsEmpty());
+    EXPECT_EQ(mostrato("txtDescGia"), QStringLiteral("chiuso")) << "what the clerk has typed since stays";
+}
+
+TEST_P(Registrazione, IlNomeDellaFilialeNonRestaAccantoAUnAltroCodice)
+{
+    consegna(QStringLiteral("4714"));
+    EXPECT_EQ(mostrato("barFilialeGia"), QStringLiteral("Bologna"));
+    scrivi("txtFilialeGia", QStringLiteral("MI"));
+    EXPECT_EQ(mostrato("barFilialeGia"), QString());
 }
 
 TEST_P(Registrazione, SenzaClienteNonCerca)

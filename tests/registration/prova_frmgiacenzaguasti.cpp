@@ -5,6 +5,7 @@
 #include "support/stampa.h"
 
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 
 using namespace giacenza;
@@ -139,7 +140,8 @@ TEST_P(RegistrazioneGuasti, TestiCheRomperebberoUnIstruzione)
     lascia("txtDataLdv");
     const QString lungo(10'000, QLatin1Char('9'));
     for (const QString& numero :
-         {QStringLiteral("%"), QStringLiteral("47;11"), QStringLiteral("4711 -- "), QStringLiteral("4711/*"),
+         {QStringLiteral("%"), QStringLiteral("47\t11"), QStringLiteral("47\x01\x7f"),
+          QStringLiteral("47;11"), QStringLiteral("4711 -- "), QStringLiteral("4711/*"),
           QStringLiteral("47\\11"), QStringLiteral("O''Neil"), QString::fromUtf8("47🚚11"), lungo}) {
         qobject_cast<QLineEdit*>(c("txtLDV"))->setText(numero);
         EXPECT_EQ(istruzioni([&] { tasto("txtLDV", Qt::Key_F12); }).size(), 1)
@@ -147,11 +149,90 @@ TEST_P(RegistrazioneGuasti, TestiCheRomperebberoUnIstruzione)
         EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
         EXPECT_THAT(mostrato("lblStato").toStdString(), testing::EndsWith("non trovata."));
     }
-    qobject_cast<QLineEdit*>(c("txtLDV"))->setText(QStringLiteral("4711' or '1'='1"));
-    EXPECT_THAT(istruzioni([&] { tasto("txtLDV", Qt::Key_F12); }), IsEmpty()) << "it is not sent";
-    EXPECT_EQ(mMessaggi.prendi().size(), 1U);
+    for (const QString& rotto : {QStringLiteral("4711' or '1'='1"), QString(QChar(u'\0'))}) {
+        qobject_cast<QLineEdit*>(c("txtLDV"))->setText(rotto);
+        EXPECT_THAT(istruzioni([&] { tasto("txtLDV", Qt::Key_F12); }), IsEmpty()) << "it is not sent";
+        EXPECT_EQ(mMessaggi.prendi().size(), 1U);
+    }
     EXPECT_EQ(mostrato("txtDestinatario"), QString());
     EXPECT_TRUE(c("cmdSalva")->isEnabled());
+}
+
+TEST_P(RegistrazioneGuasti, RiferimentiCheRomperebberoUnIstruzione)
+{
+    apri();
+    scrivi("txtCodiceCli", QStringLiteral("1001"));
+    lascia("txtCodiceCli");
+    scrivi("txtFiliale", QStringLiteral("MI"));
+    scrivi("txtDataRif", QStringLiteral("10112026"));
+    lascia("txtDataRif");
+    for (const QString& riferimento :
+         {QStringLiteral("100%"), QStringLiteral("A;B"), QStringLiteral("A -- B"), QStringLiteral("A/*B*/"),
+          QStringLiteral("A\\"), QStringLiteral("d''Oro"), QStringLiteral("A\tB\x01"),
+          QString(10'000, QLatin1Char('R'))}) {
+        qobject_cast<QLineEdit*>(c("txtRiferimento"))->setText(riferimento);
+        EXPECT_EQ(istruzioni([&] { tasto("txtRiferimento", Qt::Key_F12); }).size(), 1)
+            << riferimento.left(20).toStdString();
+        EXPECT_THAT(mostrato("lblStato").toStdString(), testing::EndsWith("non trovato."));
+    }
+    qobject_cast<QLineEdit*>(c("txtRiferimento"))->setText(QStringLiteral("dell'Orto"));
+    EXPECT_THAT(istruzioni([&] { tasto("txtRiferimento", Qt::Key_F12); }), IsEmpty()) << "it is not sent";
+    EXPECT_EQ(mMessaggi.prendi().size(), 1U);
+}
+
+TEST_P(RegistrazioneGuasti, UnaRicercaFallitaSiDiceEIlClicCheLHaAvviataNonSalva)
+{
+    apri();
+    scrivi("txtCodiceCli", QStringLiteral("1001"));
+    lascia("txtCodiceCli");
+    scrivi("txtFiliale", QStringLiteral("MI"));
+    scrivi("txtLDV", QStringLiteral("4711"));
+    scrivi("txtDataLdv", QStringLiteral("12112026"));
+    fallisce(QStringLiteral("SELECT letve00f"));
+    int salvataggi = 0;
+    QObject::connect(qobject_cast<QPushButton*>(c("cmdSalva")), &QPushButton::clicked, c("cmdSalva"),
+                     [&] { ++salvataggi; });
+    clicca("cmdSalva");
+    impostaTraccia({});
+    EXPECT_EQ(mMessaggi.prendi().size(), 1U);
+    EXPECT_EQ(salvataggi, 0);
+}
+
+TEST_P(RegistrazioneGuasti, LaSchermataPuoSparireSottoOgniSuoMessaggio)
+{
+    mMessaggi.mentreAperto([this](QWidget*, const Messaggio&) { delete mSchermata; });
+    // A customer refused during a hand-over.
+    consegna(QStringLiteral("4711"), QStringLiteral("12/11/2026"), QStringLiteral("MI"),
+             QStringLiteral("77"));
+    EXPECT_TRUE(mSchermata.isNull());
+    // A refusal of a field that is left.
+    apri();
+    scrivi("txtCodiceCli", QStringLiteral("abc"));
+    QTest::keyClick(c("txtCodiceCli"), Qt::Key_Tab);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(mSchermata.isNull());
+    // A lookup that fails when its date is left.
+    apri();
+    mMessaggi.prendi();
+    scrivi("txtCodiceCli", QStringLiteral("1001"));
+    lascia("txtCodiceCli");
+    scrivi("txtFiliale", QStringLiteral("MI"));
+    scrivi("txtLDV", QStringLiteral("4711"));
+    scrivi("txtDataLdv", QStringLiteral("12112026"));
+    fallisce(QStringLiteral("SELECT letve00f"));
+    QTest::keyClick(c("txtDataLdv"), Qt::Key_Tab);
+    QCoreApplication::processEvents();
+    impostaTraccia({});
+    EXPECT_TRUE(mSchermata.isNull());
+    EXPECT_EQ(mMessaggi.prendi().size(), 1U);
+    // The notice that would have followed a save is abandoned, the held shipment stays.
+    consegna(QStringLiteral("4711"));
+    QTest::keyClick(c("cmdSalva"), Qt::Key_Space);
+    EXPECT_TRUE(mSchermata.isNull());
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(QStringLiteral("Giacenza aggiunta in database.")));
+    EXPECT_THAT(mStampe, IsEmpty());
+    EXPECT_EQ(mBase.righe(QStringLiteral("select GINRGI,GINRAV from giace00f where GINRLV='4711'")),
+              (QList<QStringList>{{QStringLiteral("42"), QStringLiteral("NULL")}}));
 }
 
 TEST_P(RegistrazioneGuasti, UnaTabellaCheMancaSiDice)
