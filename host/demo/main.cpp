@@ -1,5 +1,6 @@
 #include "gestione.h"
 #include "registrazione.h"
+#include "riconsegna.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -20,6 +21,7 @@ int racconta(const QString& cartella, const QString& database)
     Archivio archivio(database);
     raccontaRegistrazione(regista, componente, archivio, cartella);
     raccontaGestione(regista, componente, archivio, cartella);
+    raccontaRiconsegna(regista, componente, archivio, cartella);
     regista.passo(QStringLiteral("Fatto: le righe attese sono in archivio."));
     return 0;
 }

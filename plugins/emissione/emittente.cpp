@@ -6,9 +6,11 @@
 #include "stampa/pdf.h"
 
 #include <QDir>
+#include <QGuiApplication>
 #include <QMessageBox>
 #include <QPointer>
 #include <QTemporaryFile>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -16,14 +18,25 @@ namespace giacenza::emissione {
 
 namespace {
 
-/// Modal over the window, which may go while the box is open.
+bool sempreInPrimoPiano(const QWidget* finestra)
+{
+    const QWindow* nativa = finestra ? finestra->window()->windowHandle() : nullptr;
+    return nativa && nativa->flags().testFlag(Qt::WindowStaysOnTopHint);
+}
+
+/// Modal over the window, which may go while the box is open. Above a window that stays on top, too.
 void racconta(QWidget* finestra, const QString& testo)
 {
     const QPointer<QMessageBox> scatola = new QMessageBox(finestra);
     scatola->setObjectName(u"msgEmissione"_s);
+    scatola->setWindowTitle(QGuiApplication::applicationDisplayName());
     scatola->setIcon(QMessageBox::Warning);
     scatola->setTextFormat(Qt::PlainText);
     scatola->setText(testo);
+    scatola->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    scatola->setAttribute(Qt::WA_QuitOnClose, false);
+    if (sempreInPrimoPiano(finestra))
+        scatola->setWindowFlag(Qt::WindowStaysOnTopHint, true);
     scatola->exec();
     delete scatola;
 }
