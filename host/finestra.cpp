@@ -134,6 +134,8 @@ void Finestra::apriRiconsegna(cGiacenza::Reso tipo, const QString& schermata)
 
 void Finestra::schermataChiusa()
 {
+    if (mUscitaAnnunciata)
+        nascondiMessaggio();
     mUi->statusbar->showMessage(QStringLiteral("Schermata chiusa alle %1.")
                                     .arg(QTime::currentTime().toString(QStringLiteral("HH:mm:ss"))));
 }

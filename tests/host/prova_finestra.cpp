@@ -161,6 +161,23 @@ TEST_F(ProvaFinestra, un_altra_azione_annulla_l_uscita)
     EXPECT_TRUE(mFinestra->isVisible());
 }
 
+TEST_F(ProvaFinestra, la_schermata_che_si_chiude_porta_via_l_avviso_di_uscita_e_nessun_altro)
+{
+    {
+        QWidget schermata;
+        schermata.show();
+        premi(u"cmdEsci");
+        EXPECT_TRUE(messaggioVisibile());
+    }
+    Q_EMIT giacenzaFinta().attuale->fine();
+    EXPECT_FALSE(messaggioVisibile());
+
+    giacenzaFinta().errore = std::make_exception_ptr(giacenza::Errore(u"guasto"_s));
+    premi(u"cmdNuova");
+    Q_EMIT giacenzaFinta().attuale->fine();
+    EXPECT_TRUE(messaggioVisibile());
+}
+
 TEST_F(ProvaFinestra, senza_schermate_si_esce_subito)
 {
     premi(u"cmdEsci");
