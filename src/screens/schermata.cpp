@@ -113,7 +113,9 @@ void Schermata::collegaTasti()
     // The name belongs to the code that was there.
     connect(txtFilialeGia, &QLineEdit::textEdited, this, [this] { scrivi(barFilialeGia, {}); });
     suTasto(cmbNaturaMerce, Qt::Key_F11, gestore([this] {
+                const QPointer<const Schermata> io(this);
                 AggiungiNaturaMerce(cmbNaturaMerce);
+                restaAperta(io);
                 CaricaNaturaMerce(cmbNaturaMerce);
             }));
 }

@@ -4,8 +4,11 @@
 #include "data/traccia.h"
 #include "support/stampa.h"
 
+#include <giacenza/RicercaTabella.h>
+
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace giacenza;
@@ -225,6 +228,11 @@ TEST_P(RegistrazioneGuasti, LaSchermataPuoSparireSottoOgniSuoMessaggio)
     impostaTraccia({});
     EXPECT_TRUE(mSchermata.isNull());
     EXPECT_EQ(mMessaggi.prendi().size(), 1U);
+    // A goods type that cannot be kept.
+    apri();
+    tasto("cmbNaturaMerce", Qt::Key_F11);
+    EXPECT_TRUE(mSchermata.isNull());
+    EXPECT_EQ(mMessaggi.prendi().size(), 1U);
     // The notice that would have followed a save is abandoned, the held shipment stays.
     consegna(QStringLiteral("4711"));
     QTest::keyClick(c("cmdSalva"), Qt::Key_Space);
@@ -235,6 +243,26 @@ TEST_P(RegistrazioneGuasti, LaSchermataPuoSparireSottoOgniSuoMessaggio)
               (QList<QStringList>{{QStringLiteral("42"), QStringLiteral("NULL")}}));
 }
 
+TEST_P(RegistrazioneGuasti, CioCheUnaParteEsternaLanciaSiDice)
+{
+    class Rotta : public RicercaTabella
+    {
+    public:
+        void setPercorsoDatabase(const QString&) override {}
+        void setScelta(Scelta) override {}
+        void mostra(const QString&, const QString&, QWidget*) override
+        {
+            throw std::runtime_error("parte rotta");
+        }
+    };
+    registraParte(QString::fromUtf16(classeRicercaTabella), [] { return std::make_unique<Rotta>(); });
+    apri();
+    tasto("txtFilialeGia", Qt::Key_F12);
+    registraParte(QString::fromUtf16(classeRicercaTabella), {});
+    EXPECT_EQ(mMessaggi.prendi().size(), 1U);
+    EXPECT_EQ(mostrato("lblStato"), QStringLiteral("parte rotta"));
+}
+
 TEST_P(RegistrazioneGuasti, UnaTabellaCheMancaSiDice)
 {
     consegna(QStringLiteral("4711"));
@@ -242,6 +270,57 @@ TEST_P(RegistrazioneGuasti, UnaTabellaCheMancaSiDice)
     tasto("txtLDV", Qt::Key_F12);
     ASSERT_EQ(mMessaggi.messaggi().size(), 1U);
     EXPECT_EQ(mMessaggi.messaggi().front().stile, Stile::critico);
+}
+
+/// The server itself ends the connections of the workstation.
+class RegistrazioneInterrotta : public RegistrazioneGuasti
+{
+protected:
+    void interrompi()
+    {
+        static const QRegularExpression utente(QStringLiteral("UID=([^;]+)"));
+        const auto aperte =
+            mBase.righe(QStringLiteral("select id from information_schema.processlist where user='%1'")
+                            .arg(utente.match(mBase.stringa()).captured(1)));
+        EXPECT_THAT(aperte, testing::Not(IsEmpty()));
+        for (const QStringList& collegamento : aperte)
+            mBase.esegui(QStringLiteral("kill %1;").arg(collegamento.first()));
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Basi, RegistrazioneInterrotta, testing::Values("mariadb"),
+                         nomeBase<testing::TestParamInfo<std::string>>);
+
+TEST_P(RegistrazioneInterrotta, AMetaDiUnSalvataggioNonLasciaNienteEPoiSiSalva)
+{
+    consegna(QStringLiteral("4711"));
+    bool interrotta = false;
+    impostaTraccia([&](EventoDati evento, const QString& istruzione) {
+        if (evento != EventoDati::istruzione || interrotta ||
+            !istruzione.startsWith(QLatin1String("update letve00f")))
+            return;
+        interrotta = true;
+        interrompi();
+    });
+    clicca("cmdSalva");
+    impostaTraccia({});
+    EXPECT_TRUE(interrotta);
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(QStringLiteral("Impossibile aggiungere la nuova giacenza.")));
+    mMessaggi.prendi();
+    EXPECT_EQ(mBase.leggi(QStringLiteral("select count(*) from giace00f where GINRLV='4711'")),
+              QStringLiteral("0"));
+    EXPECT_EQ(mBase.righe(QStringLiteral("select LERFGI,LEDTCO from letve00f where lenrlv='4711'")),
+              (QList<QStringList>{{QStringLiteral("NULL"), QStringLiteral("2026-11-14")}}));
+    EXPECT_EQ(mBase.leggi(QStringLiteral("select UltimoNumGiacenza from ekelvorqzt_tabge00f")),
+              QStringLiteral("42"))
+        << "the number that was taken is a gap";
+    EXPECT_THAT(mStampe, IsEmpty());
+
+    // The screen's own connection was ended too: its first statement finds that out, the next opens it again.
+    clicca("cmdSalva");
+    clicca("cmdSalva");
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(QStringLiteral("Giacenza aggiunta in database.")));
+    EXPECT_EQ(mostrato("lblNrGia"), QStringLiteral("43"));
 }
 
 } // namespace
