@@ -4,6 +4,7 @@
 
 #include "component/errorenumerato.h"
 #include "search/controlloricerca.h"
+#include "widgets/attesa.h"
 #include "widgets/secondoclic.h"
 
 #include <QGuiApplication>
@@ -22,7 +23,7 @@ enum RuoloVoce
     ruoloRagioneSociale
 };
 
-/// The caption that a kind of party gives the dialog and the code option; empty: unchanged.
+/// The captions that a kind of party gives the dialog and the code option.
 struct Didascalie
 {
     QString finestra;
@@ -39,7 +40,7 @@ Didascalie didascalie(qint16 tipo)
     case 3:
         return {u"Ricerca Destinatario"_s, u"Cod.Destinatario"_s};
     default:
-        return {u"Prove tecniche di trasmissione"_s, {}};
+        return {u"Prove tecniche di trasmissione"_s, u"Codice"_s};
     }
 }
 
@@ -85,8 +86,6 @@ void frmRicerca::setClienti_Fornitori(qint16 tipo)
     mClientiFornitori = tipo;
     const Didascalie testi = didascalie(tipo);
     setWindowTitle(testi.finestra);
-    if (testi.codice.isEmpty())
-        return;
     const QKeySequence tasto = mUi->optCodice->shortcut();
     mUi->optCodice->setText(testi.codice);
     mUi->optCodice->setShortcut(tasto);
@@ -144,8 +143,7 @@ void frmRicerca::cerca()
     abilitaElenco(false);
     mUi->lstCerca->clear();
     mNonTrovata = false;
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const auto cursore = qScopeGuard([] { QGuiApplication::restoreOverrideCursor(); });
+    const Attesa attesa;
     mRicerca.cerca(mStringaConnessione,
                    {mNomeTabella, mCampoCercato, mUi->optInterna->isChecked(), mUi->txtCerca->text()});
     mNonTrovata = mRicerca.finita();
@@ -237,7 +235,10 @@ void frmRicerca::showEvent(QShowEvent* evento)
         mNonTrovata = false;
         azzera();
         mUi->lstCerca->clear();
-        abilitaElenco(false);
+        mUi->txtCerca->clear();
+        mUi->optRagSoc->setChecked(true);
+        mUi->optIniziale->setChecked(true);
+        opzioneScelta();
         mUi->txtCerca->setFocus();
     }
     QDialog::showEvent(evento);

@@ -218,11 +218,20 @@ TEST_P(FinestraRicercaPiena, sceltaFattaIlTastoDiRicercaChiudeSoltanto)
 
 TEST_P(FinestraRicercaPiena, riapertaRicominciaDaCapo)
 {
-    cerca(u"beta"_s);
+    mFinestra.setClienti_Fornitori(1);
+    scegliOpzione(u"optProvincia"_s);
+    scegliOpzione(u"optInterna"_s);
+    cerca(u"g"_s);
     clicSuRiga(0);
     QCoreApplication::processEvents();
     ASSERT_TRUE(mFinestra.trovato());
+    mFinestra.setClienti_Fornitori(0);
     apri();
+    EXPECT_EQ(mFinestra.windowTitle(), u"Prove tecniche di trasmissione"_s);
+    EXPECT_EQ(c<QRadioButton>(u"optCodice"_s)->text(), u"Codice"_s);
+    EXPECT_TRUE(c<QRadioButton>(u"optRagSoc"_s)->isChecked());
+    EXPECT_TRUE(c<QRadioButton>(u"optIniziale"_s)->isChecked());
+    EXPECT_EQ(mTesto->text(), QString());
     EXPECT_FALSE(mFinestra.trovato());
     EXPECT_EQ(mFinestra.IdRecord(), 0);
     EXPECT_EQ(mLista->count(), 0);
