@@ -29,12 +29,19 @@ QString ColonneGriglia::chiave() const
 
 void ColonneGriglia::disponi(ModoRicerca modo)
 {
-    if (!mDisposte.isEmpty() || mModello->columnCount() == 0)
+    if (mModello->columnCount() == 0)
         return;
-    mModo = modo;
     QHeaderView* testata = mGriglia->horizontalHeader();
-    if (!testata->restoreState(QSettings().value(chiave()).toByteArray()))
+    const bool vuota = mModello->rowCount() == 0;
+    if (mDisposte.isEmpty()) {
+        mModo = modo;
+        mDaMisurare = !testata->restoreState(QSettings().value(chiave()).toByteArray());
+    } else if (vuota || !mDaMisurare || testata->saveState() != mDisposte) {
+        return;
+    }
+    if (mDaMisurare)
         misura();
+    mDaMisurare = mDaMisurare && vuota;
     for (int colonna = 0; colonna < mModello->columnCount(); ++colonna)
         mGriglia->setColumnHidden(colonna, nascosta(modo, mModello->nomeColonna(colonna)));
     mDisposte = testata->saveState();
@@ -70,6 +77,7 @@ void ColonneGriglia::ricorda()
     if (!mDisposte.isEmpty() && adesso != mDisposte)
         QSettings().setValue(chiave(), adesso);
     mDisposte.clear();
+    mDaMisurare = false;
 }
 
 } // namespace giacenza

@@ -18,7 +18,8 @@ public:
     /// Both must outlive this object.
     ColonneGriglia(QTableView* griglia, const ModelloRicerca* modello);
 
-    /// Lays the columns out for a list that was just read. Does nothing once it is done, or without columns.
+    /// Lays the columns out for a list that was just read. Does nothing without columns, nor once it is done
+    /// for rows; after an empty list the first rows are measured, unless the operator has changed a column.
     void disponi(ModoRicerca modo);
 
     /// Keeps what the operator changed, and starts anew.
@@ -31,7 +32,8 @@ private:
     QTableView* mGriglia;
     const ModelloRicerca* mModello;
     ModoRicerca mModo{};
-    QByteArray mDisposte; // the header's state as laid out; empty before
+    QByteArray mDisposte;     // the header's state as laid out; empty before
+    bool mDaMisurare = false; // laid out by the captions alone
 };
 
 } // namespace giacenza

@@ -384,3 +384,22 @@ TEST_P(RicercaGia, leColonneCambiateSiRicordanoPerOgniModo)
     EXPECT_EQ(larghezza(dialogo), propria);
     dialogo.close();
 }
+
+TEST_P(RicercaGia, dopoUnElencoVuotoLeColonneSiMisuranoSulleRighe)
+{
+    for (const bool cambiata : {false, true}) {
+        frmRicercaGia dialogo;
+        prepara(dialogo, ModoRicerca::riferimento);
+        dialogo.setRiferimentoCliente(u"zzz"_s);
+        mostra(dialogo);
+        ASSERT_THAT(mMessaggi.prendi(), ElementsAre(vuoto()));
+        auto* testata = trova<QTableView>(dialogo, u"Griglia"_s)->horizontalHeader();
+        const int vuota = testata->sectionSize(3);
+        if (cambiata)
+            testata->resizeSection(2, testata->sectionSize(2) + 1);
+        scrivi(dialogo, u"txtValore"_s, u"RIF"_s);
+        premi(dialogo, u"cmdVisualizza"_s);
+        ASSERT_GT(trova<QTableView>(dialogo, u"Griglia"_s)->model()->rowCount(), 0);
+        EXPECT_EQ(testata->sectionSize(3) > vuota, !cambiata);
+    }
+}
