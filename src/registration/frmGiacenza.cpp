@@ -206,7 +206,13 @@ void frmGiacenza::RicercaSpedizione(Chiave chiave)
                .annoOdata = testo(campoData(chiave))});
     restaAperta(io);
     mModificata.fill(false);
-    const auto giorno = scelta ? leggiData(scelta->data) : std::nullopt;
+    if (!scelta) {
+        if (mUi->txtFiliale->text().isEmpty())
+            stato(QStringLiteral(
+                "L'elenco mostra solo le spedizioni della filiale scritta: scrivere la filiale."));
+        return;
+    }
+    const auto giorno = leggiData(scelta->data);
     if (!giorno)
         return;
     PulisciCampi();

@@ -117,6 +117,25 @@ TEST_P(Ricerche, SenzaFilialeSiApreLElencoESenzaSceltaNienteCorre)
     EXPECT_THAT(inviate.filter(QStringLiteral("giace00f.*")), IsEmpty()) << "no lookup";
     EXPECT_EQ(mostrato("txtDestinatario"), QStringLiteral("Utensileria del Lago"))
         << "the screen is as it was";
+    EXPECT_EQ(
+        mostrato("lblStato"),
+        QStringLiteral("L'elenco mostra solo le spedizioni della filiale scritta: scrivere la filiale."));
+}
+
+TEST_P(Ricerche, SenzaFilialeLaSceltaSiCercaPerNumeroEData)
+{
+    mBase.esegui(QStringLiteral("update letve00f set lefili='' where lenrlv='4711' and leanlv=2026;"));
+    cliente();
+    scrivi("txtLDV", QStringLiteral("4711"));
+    scrivi("txtDataLdv", QStringLiteral("12112026"));
+    const QStringList inviate = istruzioni([&] {
+        const QuandoAperta<frmRicercaGia> intanto(prende());
+        lascia("txtDataLdv");
+        QTest::qWait(1);
+    });
+    ASSERT_EQ(inviate.filter(daLdv).size(), 1);
+    EXPECT_EQ(trovata(), QStringLiteral("4711"));
+    EXPECT_EQ(mostrato("txtDestinatario"), QStringLiteral("Utensileria del Lago"));
 }
 
 TEST_P(Ricerche, LImmissioneSiControllaPrimaDellElenco)
