@@ -233,6 +233,29 @@ TEST_P(Tabella, leRigheSiLeggonoAPagineEIlFiltroLeVedeTutte)
     EXPECT_EQ(mScelte, (QList<QStringList>{{u"Z00999"_s, u"Filiale 00999"_s}}));
 }
 
+class TabellaSqlite : public Tabella
+{};
+INSTANTIATE_TEST_SUITE_P(Basi, TabellaSqlite, testing::Values("sqlite"),
+                         nomeBase<testing::TestParamInfo<std::string>>);
+
+TEST_P(TabellaSqlite, unaLetturaInterrottaTieneLeRigheELoDice)
+{
+    mostra(
+        u"with recursive n(i) as (select 1 union all select i+1 from n where i<600) select cast(i as text) "
+        "as codice, case i when 300 then abs(-9223372036854775808) else 'D' end as descrizione from n;"_s,
+        [](Elenco& elenco) {
+            ASSERT_EQ(elenco.griglia->model()->rowCount(), 200);
+            QTest::keyClicks(elenco.filtro, u"29"_s);
+            EXPECT_EQ(elenco.colonna(0).first(), u"29"_s);
+            EXPECT_EQ(elenco.colonna(0).last(), u"299"_s);
+            EXPECT_TRUE(elenco.stato->text().startsWith(u"La lettura si è interrotta: "_s));
+            QTest::keyClick(elenco.filtro, Qt::Key_End);
+            QTest::keyClicks(elenco.filtro, u"9"_s);
+            QTest::keyClick(elenco.filtro, Qt::Key_Return);
+        });
+    EXPECT_EQ(mScelte, (QList<QStringList>{{u"299"_s, u"D"_s}}));
+}
+
 TEST_P(Tabella, unIstruzioneSbagliataLancia)
 {
     EXPECT_THROW(mParte->mostra(u"select * from nessuna;"_s, u"x"_s, nullptr), ErroreDatabase);
