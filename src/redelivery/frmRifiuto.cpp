@@ -44,6 +44,8 @@ void frmRifiuto::keyPressEvent(QKeyEvent* evento)
 
 void frmRifiuto::annulla()
 {
+    if (mInControllo)
+        return;
     mAnnullo = true;
     mConfermato = false;
     reject();

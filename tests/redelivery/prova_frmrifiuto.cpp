@@ -180,6 +180,18 @@ TEST_F(Rifiuto, chiusaDiNuovoSottoIlMessaggioNonNeMostraUnAltro)
     EXPECT_TRUE(mFinestra.isVisible());
 }
 
+TEST_F(Rifiuto, annullataSottoIlMessaggioRestaApertaEPoiSiConferma)
+{
+    mMessaggi.mentreAperto(
+        [this](QWidget*, const Messaggio&) { trova<QPushButton>(mFinestra, u"cmdAnnulla"_s)->click(); });
+    clic(u"cmdOk"_s);
+    EXPECT_THAT(mMessaggi.prendi(), ElementsAre(motivoVuoto));
+    EXPECT_TRUE(mFinestra.isVisible());
+    scriviMotivo(u"x"_s);
+    clic(u"cmdOk"_s);
+    EXPECT_TRUE(mFinestra.Confermato());
+}
+
 TEST_F(Rifiuto, dopoUnRifiutoSiPuoCorreggereEConfermare)
 {
     scriviData(u"1"_s);
