@@ -1,6 +1,7 @@
 #include "component/moduliparti.h"
 
 #include "component/parti.h"
+#include "component/testoerrore.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -82,10 +83,8 @@ ParteProvata provaACreare(const FabbricaParte& fabbrica)
         if (parte)
             return {std::move(parte), {}};
         return {nullptr, QStringLiteral("nessun oggetto creato")};
-    } catch (const std::exception& errore) {
-        return {nullptr, QString::fromUtf8(errore.what())};
     } catch (...) {
-        return {nullptr, QStringLiteral("errore sconosciuto")};
+        return {nullptr, testoErrore()};
     }
 }
 

@@ -11,6 +11,7 @@
 
 #include <QApplication>
 
+#include <exception>
 #include <utility>
 
 namespace giacenza {
@@ -141,9 +142,9 @@ Seguito frmGiacenza::lascia(Chiave chiave)
     try {
         ricerca(chiave);
         return {};
-    } catch (const Errore& errore) {
+    } catch (...) {
         // Told, like a refusal, once the focus has moved: the click that moved it saves nothing.
-        return gestore([this, errore] { guasto(errore); });
+        return gestore([errore = std::current_exception()] { std::rethrow_exception(errore); });
     }
 }
 

@@ -3,6 +3,7 @@
 #include "component/impostazioni.h"
 #include "component/orologio.h"
 #include "component/servizi.h"
+#include "component/testoerrore.h"
 #include "data/istruzioni.h"
 #include "screens/campi.h"
 #include "screens/porto.h"
@@ -162,11 +163,15 @@ std::function<void()> Schermata::gestore(std::function<void()> azione)
         try {
             try {
                 azione();
-            } catch (const Errore& errore) {
-                guasto(errore);
-            } catch (const std::exception& errore) {
+            } catch (const Abbandono&) {
+                throw;
+            } catch (const ErroreDatabase& errore) {
+                guasto(QStringLiteral("Operazione non riuscita: il database o un suo dato non risponde come "
+                                      "dovrebbe."),
+                       errore.testo());
+            } catch (...) {
                 // A part of the host's throws what it likes, and nothing may pass through Qt's loop.
-                guasto(Errore(QString::fromUtf8(errore.what())));
+                guasto(QStringLiteral("Operazione non riuscita."), testoErrore());
             }
         } catch (const Abbandono&) {
             // The screen is gone: there is nobody to tell.
@@ -188,13 +193,10 @@ Risposta Schermata::messaggio(const QString& testo, Stile stile, const QString& 
     return risposta;
 }
 
-void Schermata::guasto(const Errore& errore)
+void Schermata::guasto(const QString& cheCosa, const QString& perche)
 {
-    stato(errore.testo());
-    messaggio(
-        QStringLiteral("Operazione non riuscita: il database o un suo dato non risponde come dovrebbe.\n\n%1")
-            .arg(errore.testo()),
-        Stile::critico, titoloGestione());
+    stato(perche);
+    messaggio(cheCosa + QStringLiteral("\n\n") + perche, Stile::critico, titoloGestione());
 }
 
 Seguito Schermata::rifiuta(QWidget* campo, const QString& testo, Stile stile, const QString& titolo)

@@ -52,8 +52,8 @@ protected:
     /// What the screen says where no message box is due; empty clears it.
     void stato(const QString& testo);
 
-    /// Makes a handler of what a control starts: a database failure is told, and a screen that was closed
-    /// under its own message or dialog ends the handler without a word.
+    /// Makes a handler of what a control starts: whatever is thrown is told, a database failure as such, and
+    /// a screen that was closed under its own message or dialog ends the handler without a word.
     std::function<void()> gestore(std::function<void()> azione);
 
     /// For handlers: to be called after every dialog; ends the handler when the screen was closed meanwhile.
@@ -61,9 +61,6 @@ protected:
 
     /// A message over the screen.
     Risposta messaggio(const QString& testo, Stile stile, const QString& titolo = titoloApplicazione());
-
-    /// Tells a database failure that no rule of the screen's gives another answer to.
-    void guasto(const Errore& errore);
 
     /// A refusal of a field: the message, then the focus back in the field.
     Seguito rifiuta(QWidget* campo, const QString& testo, Stile stile,
@@ -128,6 +125,7 @@ private:
     Controllo* trova(const char* nome) const;
     void collegaCliente();
     void cercaCliente();
+    void guasto(const QString& cheCosa, const QString& perche);
     void collegaTasti();
     Seguito convalidaDataGia();
     void cercaFiliale();

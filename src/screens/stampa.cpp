@@ -2,9 +2,8 @@
 
 #include "component/impostazioni.h"
 #include "component/servizi.h"
+#include "component/testoerrore.h"
 #include "reports/fontedocumenti.h"
-
-#include <giacenza/Errore.h>
 
 #include <QApplication>
 #include <QPointer>
@@ -71,10 +70,8 @@ std::optional<QString> stampaDocumento(QWidget* schermata, TipoDocumento tipo, c
         if (!modulo.parte)
             return modulo.motivo;
         return guida(*modulo.parte, schermata, tipo, chiave, didascalie);
-    } catch (const Errore& errore) {
-        return errore.testo();
-    } catch (const std::exception& errore) {
-        return QString::fromUtf8(errore.what());
+    } catch (...) {
+        return testoErrore();
     }
 }
 

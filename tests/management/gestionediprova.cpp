@@ -1,6 +1,5 @@
 #include "management/gestionediprova.h"
 
-#include "data/traccia.h"
 #include "support/trova.h"
 
 #include <QApplication>
@@ -23,11 +22,6 @@ insert into giace00f (GIFILI,GINRLV,GIANLV,GICODI,GIFIGI,GINRGI,GIANGI,GIDTGI,GI
 insert into giace00f (GIFILI,GINRLV,GIANLV,GICODI,GIFIGI,GINRGI,GIANGI,GIDTGI,GINRAV,GIDTAV,GIDES1)
  values ('MI','4712',2026,1001,'BO','39',2026,'2026-11-05','3','2026-11-20','Trasloco');
 )"));
-}
-
-GestioneDiProva::~GestioneDiProva()
-{
-    guarisce();
 }
 
 void GestioneDiProva::richiama(const QString& numero, const QString& data)
@@ -88,19 +82,6 @@ QString GestioneDiProva::caso(const QString& colonne, const QString& numero) con
 QString GestioneDiProva::tutto(const QString& numero) const
 {
     return caso(QStringLiteral("GINRAV,GIDTAV,GIDES1,GIDTBF,GIGGSO,FissoGiacenza,GIIMGI"), numero);
-}
-
-void GestioneDiProva::fallisce(const QString& inizio, const QString& sqlstate)
-{
-    impostaTraccia([=](EventoDati evento, const QString& testo) {
-        if (evento == EventoDati::istruzione && testo.startsWith(inizio, Qt::CaseInsensitive))
-            throw ErroreDatabase(sqlstate, 1, QStringLiteral("guasto di prova"), testo);
-    });
-}
-
-void GestioneDiProva::guarisce()
-{
-    impostaTraccia({});
 }
 
 } // namespace giacenza::prove

@@ -17,7 +17,6 @@ class GestioneDiProva : public SchermataDiProva
 {
 protected:
     GestioneDiProva();
-    ~GestioneDiProva() override;
 
     std::unique_ptr<Schermata> crea() const override { return std::make_unique<frmGestGia>(); }
 
@@ -43,10 +42,6 @@ protected:
     QString caso(const QString& colonne, const QString& numero) const;
     /// The same, as it is before and after what a test does to it.
     QString tutto(const QString& numero) const;
-
-    /// Until guarisce(), every statement that begins so fails; with 08S01 the connection is lost too.
-    void fallisce(const QString& inizio, const QString& sqlstate = QStringLiteral("HY000"));
-    void guarisce();
 };
 
 } // namespace giacenza::prove

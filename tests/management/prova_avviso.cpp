@@ -116,10 +116,15 @@ TEST_P(Avviso, SenzaContoEIlPrimoQualunqueSiaLaData)
 TEST_P(Avviso, ContoODataSbagliatiFermanoSenzaScrivereNeStampare)
 {
     const QString ieri = QStringLiteral("'2026-11-20'");
-    for (const auto& [conto, data] :
-         {std::pair{QStringLiteral("'due'"), ieri}, std::pair{QStringLiteral("'32767'"), ieri},
-          std::pair{QStringLiteral("'99999'"), ieri},
-          std::pair{QStringLiteral("'3'"), QStringLiteral("null")}}) {
+    std::vector<std::pair<QString, QString>> sbagliati = {
+        {QStringLiteral("'due'"), ieri},
+        {QStringLiteral("'32767'"), ieri},
+        {QStringLiteral("'99999'"), ieri},
+        {QStringLiteral("'3'"), QStringLiteral("null")},
+    };
+    if (GetParam() == "sqlite") // the other takes nothing but a date
+        sbagliati.emplace_back(QStringLiteral("'3'"), QStringLiteral("'ieri'"));
+    for (const auto& [conto, data] : sbagliati) {
         avvisi(conto, data);
         richiamaAvvisato();
         const QString prima = tutto(QStringLiteral("39"));
@@ -145,10 +150,12 @@ TEST_P(Avviso, DueApostrofiFermanoPrimaDiScrivereEDiStampare)
     descrivi(QStringLiteral("L'autista"));
     const QStringList inviate = istruzioni([&] { avvisa(QStringLiteral("dall'ufficio")); });
     EXPECT_EQ(inviate.size(), 1) << "the state was read, and nothing else was sent";
-    const auto messaggi = mMessaggi.prendi();
-    ASSERT_EQ(messaggi.size(), 1U);
-    EXPECT_THAT(messaggi.front().testo.toStdString(),
-                testing::HasSubstr("La descrizione non si può scrivere: contiene più di un apostrofo."));
+    EXPECT_THAT(mMessaggi.prendi(),
+                ElementsAre(Messaggio{
+                    QStringLiteral("Operazione non riuscita.\n\nLa descrizione non si può scrivere: "
+                                   "contiene più di un apostrofo. Lasciarne uno e ripetere."),
+                    Stile::critico, QStringLiteral("Gestione Trasporti")}))
+        << "nothing is said of the database, which has not failed";
     EXPECT_EQ(tutto(QStringLiteral("39")), prima);
     EXPECT_EQ(mostrato("lblDataAvviso"), QStringLiteral("20/11/2026"));
     EXPECT_THAT(mStampe, IsEmpty());
@@ -249,6 +256,9 @@ TEST_P(Avviso, LaStampaCheNonRiesceSiDiceEIlContoResta)
     clicca("cmdRistampa");
     EXPECT_EQ(mMessaggi.prendi().front().testo.toStdString(),
               inizio + "Il modulo di stampa non ha prodotto il documento.");
+    mDuranteStampa = [] { throw 42; };
+    clicca("cmdRistampa");
+    EXPECT_EQ(mMessaggi.prendi().front().testo.toStdString(), inizio + "errore sconosciuto");
     impostazioni().percorsoFileIni = QStringLiteral("/non/ce.ini");
     clicca("cmdRistampa");
     EXPECT_THAT(mMessaggi.prendi().front().testo.toStdString(),
@@ -263,7 +273,11 @@ TEST_P(Avviso, CollegamentoPersoPrimaDiOgniIstruzione)
         fallisce(QString::fromUtf16(punto), QStringLiteral("08S01"));
         avvisa(QStringLiteral("motivo"));
         guarisce();
-        EXPECT_EQ(mMessaggi.prendi().size(), 1U);
+        EXPECT_THAT(mMessaggi.prendi(),
+                    ElementsAre(Messaggio{
+                        QStringLiteral("Operazione non riuscita: il database o un suo dato non risponde come "
+                                       "dovrebbe.\n\nguasto di prova"),
+                        Stile::critico, QStringLiteral("Gestione Trasporti")}));
         EXPECT_EQ(tutto(QStringLiteral("39")), prima);
         EXPECT_EQ(mostrato("lblDataAvviso"), QStringLiteral("20/11/2026"));
         EXPECT_EQ(mostrato("lblStatoCaso"), QStringLiteral("APERTA · 3 AVVISI"));
@@ -291,6 +305,57 @@ TEST_P(Avviso, LaSchermataCheSeNeVaSottoIlRifiutoAbbandona)
         EXPECT_EQ(tutto(QStringLiteral("39")), prima);
         EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
         EXPECT_THAT(mStampe, IsEmpty());
+    }
+}
+
+TEST_P(Avviso, LaSchermataPuoSparireSottoLaStampa)
+{
+    mDuranteStampa = [this] { delete mSchermata; };
+    for (const char* bottone : {"cmdRistampa", "cmdBuonFine"}) {
+        richiamaAvvisato();
+        clicca(bottone);
+        EXPECT_TRUE(mSchermata.isNull()) << bottone;
+        EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
+    }
+    EXPECT_EQ(mStampe.filter(QStringLiteral("documento 39_2026")).size(), 2);
+    EXPECT_EQ(caso(QStringLiteral("GIDTBF,GIGGSO"), QStringLiteral("39")), QStringLiteral("2026-11-21|16"));
+}
+
+TEST_P(Avviso, LaSchermataPuoSparireSottoOgniSuoMessaggio)
+{
+    mMessaggi.mentreAperto([this](QWidget*, const Messaggio&) { delete mSchermata; });
+    const std::pair<std::function<void()>, QString> modi[] = {
+        {[this] {
+             apri();
+             clicca("cmdRicGiac");
+         },
+         QStringLiteral("Manca il numero della giacenza.")},
+        {[this] { richiama(QStringLiteral("41"), {}); }, QStringLiteral("Manca la data della giacenza.")},
+        {[this] { richiama(QStringLiteral("77"), QStringLiteral("10112026")); },
+         QStringLiteral("Giacenza: 77 del 10/11/2026 non trovata.")},
+        {[this] {
+             richiamaChiuso();
+             clicca("cmdAvvisoGia");
+         },
+         QStringLiteral("La giacenza risulta chiusa,in data: 18/11/2026.")},
+        {[this] {
+             richiamaMaiAvvisato();
+             clicca("cmdBuonFine");
+         },
+         QStringLiteral("Non è stato ancora emesso un avviso di giacenza.")},
+        {[this] {
+             richiamaChiuso();
+             mGuastoStampa = QStringLiteral("guasto");
+             clicca("cmdRistampa");
+         },
+         QStringLiteral("L'avviso di giacenza non è stato stampato; la giacenza resta "
+                        "registrata.\n\nguasto")},
+    };
+    for (const auto& [modo, messaggio] : modi) {
+        modo();
+        EXPECT_TRUE(mSchermata.isNull()) << messaggio.toStdString();
+        EXPECT_EQ(mMessaggi.testi(), QStringList{messaggio});
+        mMessaggi.prendi();
     }
 }
 

@@ -304,6 +304,11 @@ TEST_P(Richiamo, LaDataDellaGiacenzaSiControllaSoloSenzaUnCaso)
     scrivi("txtDataGia", QStringLiteral("19112026"));
     lascia("txtDataGia");
     EXPECT_EQ(mostrato("barGiorniSosta"), QStringLiteral("2"));
+    richiamaMaiAvvisato();
+    scrivi("txtDataGia", QStringLiteral("31022026"));
+    lascia("txtDataGia");
+    EXPECT_EQ(mostrato("txtDataGia"), QStringLiteral("10/11/2026")) << "the shown case's key";
+    EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
 }
 
 TEST_P(Richiamo, UnNumeroConUnApostrofoNonParte)

@@ -20,18 +20,7 @@ using testing::StartsWith;
 namespace {
 
 class RegistrazioneGuasti : public RegistrazioneDiProva
-{
-protected:
-    /// While it lives, every statement that begins so fails; with 08S01 the connection is lost too.
-    void fallisce(const QString& inizio, const QString& sqlstate = QStringLiteral("HY000"))
-    {
-        impostaTraccia([=](EventoDati evento, const QString& testo) {
-            if (evento == EventoDati::istruzione && testo.startsWith(inizio, Qt::CaseInsensitive))
-                throw ErroreDatabase(sqlstate, 1, QStringLiteral("guasto di prova"), testo);
-        });
-    }
-    ~RegistrazioneGuasti() override { impostaTraccia({}); }
-};
+{};
 
 INSTANTIATE_TEST_SUITE_P(Basi, RegistrazioneGuasti, testing::Values("sqlite", "mariadb"),
                          nomeBase<testing::TestParamInfo<std::string>>);
@@ -45,7 +34,7 @@ TEST_P(RegistrazioneGuasti, UnSalvataggioFallitoLoDiceENonLasciaNiente)
                                   u"select * from giace00f", u"insert into giace00f", u"update letve00f"}) {
         fallisce(QString::fromUtf16(punto), QStringLiteral("08S01"));
         clicca("cmdSalva");
-        impostaTraccia({});
+        guarisce();
         EXPECT_THAT(mMessaggi.prendi(), ElementsAre(impossibile));
         EXPECT_EQ(mostrato("lblNrGia"), QString()) << "the label shows what it showed before";
         EXPECT_EQ(mBase.leggi(QStringLiteral("select count(*) from giace00f where GINRLV='4711'")),
@@ -64,12 +53,12 @@ TEST_P(RegistrazioneGuasti, UnGuastoFuoriDallInserimentoFinisceSenzaMessaggio)
     consegna(QStringLiteral("4711"));
     fallisce(QStringLiteral("select Lerico"));
     clicca("cmdSalva");
-    impostaTraccia({});
+    guarisce();
     EXPECT_EQ(mostrato("lblStato"), QStringLiteral("guasto di prova"));
 
     fallisce(QStringLiteral("select GINRAV"));
     clicca("cmdSalva");
-    impostaTraccia({});
+    guarisce();
     EXPECT_THAT(mMessaggi.testi(), ElementsAre(QStringLiteral("Giacenza aggiunta in database.")));
     EXPECT_EQ(mBase.leggi(QStringLiteral("select GINRAV from giace00f where GINRLV='4711'")), std::nullopt);
     EXPECT_THAT(mStampe, IsEmpty());
@@ -81,7 +70,7 @@ TEST_P(RegistrazioneGuasti, LEtichettaDellAvvisoCambiaSoloDopoLIstruzione)
     mBase.esegui(QStringLiteral("update giace00f set GIDTAV='2026-11-20' where GINRGI='40';"));
     fallisce(QStringLiteral("UPDATE giace00f SET GINRAV"));
     clicca("cmdAvvisoGia");
-    impostaTraccia({});
+    guarisce();
     EXPECT_EQ(mMessaggi.prendi().size(), 1U);
     EXPECT_EQ(mostrato("lblDataAvviso"), QStringLiteral("15/11/2026"));
     EXPECT_THAT(mStampe, IsEmpty());
@@ -196,7 +185,7 @@ TEST_P(RegistrazioneGuasti, UnaRicercaFallitaSiDiceEIlClicCheLHaAvviataNonSalva)
     QObject::connect(qobject_cast<QPushButton*>(c("cmdSalva")), &QPushButton::clicked, c("cmdSalva"),
                      [&] { ++salvataggi; });
     clicca("cmdSalva");
-    impostaTraccia({});
+    guarisce();
     EXPECT_EQ(mMessaggi.prendi().size(), 1U);
     EXPECT_EQ(salvataggi, 0);
 }
@@ -225,7 +214,7 @@ TEST_P(RegistrazioneGuasti, LaSchermataPuoSparireSottoOgniSuoMessaggio)
     fallisce(QStringLiteral("SELECT letve00f"));
     QTest::keyClick(c("txtDataLdv"), Qt::Key_Tab);
     QCoreApplication::processEvents();
-    impostaTraccia({});
+    guarisce();
     EXPECT_TRUE(mSchermata.isNull());
     EXPECT_EQ(mMessaggi.prendi().size(), 1U);
     // A goods type that cannot be kept.
@@ -303,7 +292,7 @@ TEST_P(RegistrazioneInterrotta, AMetaDiUnSalvataggioNonLasciaNienteEPoiSiSalva)
         interrompi();
     });
     clicca("cmdSalva");
-    impostaTraccia({});
+    guarisce();
     EXPECT_TRUE(interrotta);
     EXPECT_THAT(mMessaggi.testi(), ElementsAre(QStringLiteral("Impossibile aggiungere la nuova giacenza.")));
     mMessaggi.prendi();

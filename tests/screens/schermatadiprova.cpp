@@ -49,8 +49,8 @@ void ModuloDiProva::setTipoDocumento(TipoDocumento tipo)
 void ModuloDiProva::stampaDocumento(const QString& chiave, bool& nonProdotto)
 {
     mChiamate << QStringLiteral("documento ") + chiave;
-    if (!mGuasto.isEmpty())
-        throw Errore(mGuasto);
+    if (mDurante)
+        mDurante();
     nonProdotto = mNonProdotto;
 }
 
@@ -65,12 +65,19 @@ SchermataDiProva::SchermataDiProva()
         throw std::runtime_error("the settings file of the test cannot be written");
     impostazioni() = {mBase.stringa(), ini.fileName(), QStringLiteral("/logo"), {}};
     registraParte(classeStampa, [this] {
-        return std::make_unique<ModuloDiProva>(mStampe, mGuastoStampa, mStampaNonProdotta);
+        const auto durante = [azione = mDuranteStampa, guasto = mGuastoStampa] {
+            if (azione)
+                azione();
+            if (!guasto.isEmpty())
+                throw Errore(guasto);
+        };
+        return std::make_unique<ModuloDiProva>(mStampe, durante, mStampaNonProdotta);
     });
 }
 
 SchermataDiProva::~SchermataDiProva()
 {
+    guarisce();
     delete mSchermata;
     registraParte(classeStampa, {});
     impostaOggi(std::nullopt);
@@ -137,6 +144,19 @@ void SchermataDiProva::scorciatoia(Qt::Key lettera)
         QObject::connect(bottone, &QPushButton::clicked, &osservatore, [&] { ++scattati; });
     QTest::keyClick(mSchermata, lettera, Qt::AltModifier);
     ASSERT_TRUE(QTest::qWaitFor([&] { return scattati > 0; }));
+}
+
+void SchermataDiProva::fallisce(const QString& inizio, const QString& sqlstate)
+{
+    impostaTraccia([=](EventoDati evento, const QString& testo) {
+        if (evento == EventoDati::istruzione && testo.startsWith(inizio, Qt::CaseInsensitive))
+            throw ErroreDatabase(sqlstate, 1, QStringLiteral("guasto di prova"), testo);
+    });
+}
+
+void SchermataDiProva::guarisce()
+{
+    impostaTraccia({});
 }
 
 QStringList SchermataDiProva::istruzioni(const std::function<void()>& azione) const

@@ -19,8 +19,8 @@ namespace giacenza::prove {
 class ModuloDiProva : public ModuloStampa
 {
 public:
-    ModuloDiProva(QStringList& chiamate, const QString& guasto, bool nonProdotto)
-        : mChiamate(chiamate), mGuasto(guasto), mNonProdotto(nonProdotto)
+    ModuloDiProva(QStringList& chiamate, std::function<void()> durante, bool nonProdotto)
+        : mChiamate(chiamate), mDurante(std::move(durante)), mNonProdotto(nonProdotto)
     {}
 
     void setPercorsoDatabase(const QString& percorso) override;
@@ -32,7 +32,7 @@ public:
 
 private:
     QStringList& mChiamate;
-    QString mGuasto;
+    std::function<void()> mDurante;
     bool mNonProdotto;
 };
 
@@ -59,6 +59,10 @@ protected:
     /// Alt and a letter; waits for the button, which Qt shows pressed before it acts.
     void scorciatoia(Qt::Key lettera);
 
+    /// Until guarisce(), every statement that begins so fails; with 08S01 the connection is lost too.
+    void fallisce(const QString& inizio, const QString& sqlstate = QStringLiteral("HY000"));
+    void guarisce();
+
     /// The statements that data access sends while this lives, but for the session's own.
     QStringList istruzioni(const std::function<void()>& azione) const;
 
@@ -66,6 +70,9 @@ protected:
     QTemporaryDir mCartella;
     RegistroMessaggi mMessaggi;
     QStringList mStampe;
+    /// What the print module does once its document is asked for.
+    std::function<void()> mDuranteStampa;
+    /// The module fails so, when this is not empty.
     QString mGuastoStampa;
     bool mStampaNonProdotta = false;
     QPointer<Schermata> mSchermata;
