@@ -78,12 +78,11 @@ void frmGestGia::ChiudiGiacenza()
 void frmGestGia::scriviChiusura(const ChiaveGiacenza& caso)
 {
     const QString giorni = testo(barGiorniSosta);
-    if (eData(LeggiDataBuonFine(impostazioni().percorsoDatabase, caso))) {
-        connessione().esegui(istruzioni::chiusuraRipetuta(caso, giorni));
-        return;
-    }
-    const QDate giorno = oggi();
-    connessione().esegui(istruzioni::chiusura(caso, giorno, giorni));
+    // The first date stays, also one that another workstation wrote since the case was brought up.
+    const auto prima = leggiData(LeggiDataBuonFine(impostazioni().percorsoDatabase, caso));
+    const QDate giorno = prima.value_or(oggi());
+    connessione().esegui(prima ? istruzioni::chiusuraRipetuta(caso, giorni)
+                               : istruzioni::chiusura(caso, giorno, giorni));
     scrivi(lblDataBuonFine, dataBreve(giorno));
     mostraStatoCaso();
 }

@@ -4,8 +4,8 @@
 #include "component/servizi.h"
 #include "component/testoerrore.h"
 #include "reports/fontedocumenti.h"
+#include "widgets/attesa.h"
 
-#include <QApplication>
 #include <QPointer>
 #include <QWidget>
 
@@ -13,20 +13,18 @@ namespace giacenza {
 
 namespace {
 
-/// The screen below other windows, and the pointer waiting, while a document is made.
-class Attesa
+/// The screen out of the always-on-top state, while a document is made.
+class SottoLeAltre
 {
 public:
-    explicit Attesa(QWidget* schermata) : mSchermata(schermata)
+    explicit SottoLeAltre(QWidget* schermata) : mSchermata(schermata)
     {
         SempreInPrimoPiano(mSchermata, false);
-        QApplication::setOverrideCursor(Qt::WaitCursor);
     }
-    Attesa(const Attesa&) = delete;
-    Attesa& operator=(const Attesa&) = delete;
-    ~Attesa()
+    SottoLeAltre(const SottoLeAltre&) = delete;
+    SottoLeAltre& operator=(const SottoLeAltre&) = delete;
+    ~SottoLeAltre()
     {
-        QApplication::restoreOverrideCursor();
         if (mSchermata)
             SempreInPrimoPiano(mSchermata, true);
     }
@@ -64,7 +62,8 @@ std::array<QString, 4> leggiDidascalie()
 std::optional<QString> stampaDocumento(QWidget* schermata, TipoDocumento tipo, const QString& chiave,
                                        const std::array<QString, 4>& didascalie)
 {
-    const Attesa attesa(schermata);
+    const SottoLeAltre sotto(schermata);
+    const Attesa attesa;
     try {
         const auto modulo = CaricaModuloStampa();
         if (!modulo.parte)

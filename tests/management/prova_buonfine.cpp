@@ -223,6 +223,10 @@ TEST_P(BuonFine, ChiusoDaUnAltraPostazioneLaDataNonCambia)
     mBase.esegui(u"update giace00f set GIDTBF='2026-11-19' where GINRGI='39';"_s);
     clicca("cmdBuonFine");
     EXPECT_EQ(chiusura(u"39"_s), u"2026-11-19|16|7.50|16.50"_s);
+    EXPECT_EQ(mostrato("lblDataBuonFine"), u"19/11/2026"_s);
+    EXPECT_EQ(mostrato("lblStatoCaso"), u"CHIUSA · 3 AVVISI"_s);
+    clicca("cmdAvvisoGia");
+    EXPECT_EQ(mMessaggi.testi(), QStringList{u"La giacenza risulta chiusa,in data: 19/11/2026."_s});
 }
 
 TEST_P(BuonFine, CollegamentoPersoPrimaDiOgniIstruzione)
