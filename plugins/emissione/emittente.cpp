@@ -1,7 +1,6 @@
 #include "emissione/emittente.h"
 
 #include "emissione/letteravettura.h"
-#include "emissione/nuovaldv.h"
 #include "stampa/archivio.h"
 #include "stampa/pdf.h"
 
@@ -67,6 +66,16 @@ void EmittenteDeposito::controllaCartella() const
                 QDir::toNativeSeparators(mCartellaStampa)));
 }
 
+/// Returns the file as the operator reads it.
+QString EmittenteDeposito::stampaLdv(Connessione& connessione, const LdvEmessa& emessa) const
+{
+    const auto byte = stampa::pdf(*componiLdv(connessione, emessa, mPercorsoLogo));
+    const QString file = stampa::archivia(
+        mCartellaStampa, u"LDV_%1_%2_%3"_s.arg(emessa.filiale, emessa.numero, QString::number(emessa.anno)),
+        byte.value());
+    return QDir::toNativeSeparators(file);
+}
+
 QString EmittenteDeposito::emettiOLancia(const RecordLdv& ldv) const
 {
     if (!mDefinitiva)
@@ -85,15 +94,15 @@ QString EmittenteDeposito::emettiOLancia(const RecordLdv& ldv) const
     const QString nome = u"lettera di vettura %1/%2"_s.arg(emessa.numero, QString::number(emessa.anno));
     if (!mStampa)
         return u"Emessa la %1."_s.arg(nome);
+    const auto nonStampata = [&](const QString& motivo) {
+        return Errore(u"La %1 è stata emessa, ma non è stata stampata.\n\n%2"_s.arg(nome, motivo));
+    };
     try {
-        const auto byte = stampa::pdf(*componiLdv(connessione, emessa, mPercorsoLogo));
-        const QString file = stampa::archivia(
-            mCartellaStampa,
-            u"LDV_%1_%2_%3"_s.arg(emessa.filiale, emessa.numero, QString::number(emessa.anno)),
-            byte.value_or(QByteArray()));
-        return u"Emessa la %1, stampata in %2"_s.arg(nome, QDir::toNativeSeparators(file));
+        return u"Emessa la %1, stampata in %2"_s.arg(nome, stampaLdv(connessione, emessa));
     } catch (const Errore& errore) {
-        throw Errore(u"La %1 è stata emessa, ma non è stata stampata.\n\n%2"_s.arg(nome, errore.testo()));
+        throw nonStampata(errore.testo());
+    } catch (const std::exception& errore) {
+        throw nonStampata(QString::fromUtf8(errore.what()));
     }
 }
 

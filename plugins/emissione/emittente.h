@@ -1,5 +1,7 @@
 #pragma once
 
+#include "emissione/nuovaldv.h"
+
 #include <giacenza/Contesto.h>
 #include <giacenza/EmittenteLdv.h>
 
@@ -20,6 +22,7 @@ public:
 
 private:
     QString emettiOLancia(const RecordLdv& ldv) const;
+    QString stampaLdv(Connessione& connessione, const LdvEmessa& emessa) const;
     void controllaCartella() const;
 
     Contesto mContesto;
