@@ -35,25 +35,37 @@ Valore LdvLetta::valore(const QString& colonna) const
     throw Errore(QStringLiteral("La lettera di vettura non ha la colonna %1.").arg(colonna));
 }
 
+namespace {
+
+QString consegna(EmittenteLdv& emittente, const RecordLdv& ldv, bool stampa, const Contesto& contesto)
+{
+    if (auto* conContesto = dynamic_cast<ParteConContesto*>(&emittente))
+        conContesto->setContesto(contesto);
+    const QString cartella = QCoreApplication::applicationDirPath();
+    emittente.setPercorsoDatabase(impostazioni().percorsoDatabase);
+    emittente.setCartellaStampa(cartella + QStringLiteral("/imp"));
+    emittente.setPercorsoLogo(cartella + QStringLiteral("/logo.gif"));
+    emittente.setStampa(stampa);
+    emittente.setDefinitiva(true);
+    return emittente.emetti(ldv);
+}
+
+} // namespace
+
 QString EmettiRiconsegna(const RecordLdv& ldv, bool stampa, const Contesto& contesto)
 {
     const auto emittente = creaParteDi<EmittenteLdv>(QString::fromUtf16(classeEmittenteLdv));
     if (!emittente.parte)
         throw Errore(emittente.motivo);
-    if (auto* conContesto = dynamic_cast<ParteConContesto*>(emittente.parte.get()))
-        conContesto->setContesto(contesto);
-    const QString cartella = QCoreApplication::applicationDirPath();
-    emittente.parte->setPercorsoDatabase(impostazioni().percorsoDatabase);
-    emittente.parte->setCartellaStampa(cartella + QStringLiteral("/imp"));
-    emittente.parte->setPercorsoLogo(cartella + QStringLiteral("/logo.gif"));
-    emittente.parte->setStampa(stampa);
-    emittente.parte->setDefinitiva(true);
     try {
-        return emittente.parte->emetti(ldv);
+        return consegna(*emittente.parte, ldv, stampa, contesto);
     } catch (const Errore&) {
         throw;
     } catch (const std::exception& errore) {
         throw Errore(QString::fromUtf8(errore.what()));
+    } catch (...) {
+        // The issuer is the host's: nothing of it may pass through Qt's loop.
+        throw Errore(QStringLiteral("L'emissione si è interrotta per un errore sconosciuto."));
     }
 }
 

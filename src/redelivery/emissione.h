@@ -33,7 +33,7 @@ private:
 /// folder and the logo of the program's folder, the print flag, true, and then the record.
 ///
 /// Returns what was issued, in the issuer's words; empty when nothing was. Throws Errore when there is no
-/// issuer, and what the issuer throws; the rest of the hand-over is then skipped.
+/// issuer, and for whatever the issuer throws at any step; the rest of the hand-over is then skipped.
 QString EmettiRiconsegna(const RecordLdv& ldv, bool stampa, const Contesto& contesto);
 
 } // namespace giacenza

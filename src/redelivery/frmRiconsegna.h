@@ -66,6 +66,7 @@ private:
     Seguito convalidaFilialeGia();
 
     void riconsegna();
+    void emetti(const LdvLetta& ldv, bool stampa, const Contesto& contesto);
     void ApriConnessione();
     void leggiLdv(LdvLetta& ldv);
     Scelte chiediPorto();
@@ -75,6 +76,7 @@ private:
 
     std::unique_ptr<Ui::frmRiconsegna> mUi;
     bool mModificata[2] = {false, false};
+    bool mInCorso = false; ///< the issue is running
 };
 
 } // namespace giacenza

@@ -8,6 +8,7 @@
 #include "screens/campi.h"
 
 #include <QPointer>
+#include <QScopeGuard>
 
 /// The issue: what the button of the re-delivery screen does, step by step. A step that fails does not stop
 /// the next one; its failure stands in the status line.
@@ -101,12 +102,36 @@ Contesto frmRiconsegna::contesto(const Scelte& scelte, const std::optional<Conto
             .finestra = const_cast<frmRiconsegna*>(this)};
 }
 
+void frmRiconsegna::emetti(const LdvLetta& ldv, bool stampa, const Contesto& contesto)
+{
+    // The issuer's windows let the host work meanwhile: it may destroy this screen.
+    const QPointer<const Schermata> io(this);
+    QString esito;
+    try {
+        esito = EmettiRiconsegna(ldv, stampa, contesto);
+    } catch (const Errore& errore) {
+        esito = errore.testo();
+    }
+    restaAperta(io);
+    stato(esito);
+}
+
 void frmRiconsegna::riconsegna()
 {
-    // A shortcut moves no focus: the held-shipment date is checked first if it has it.
-    if (txtDataGia->hasFocus())
+    // An issuer that keeps the program going while it works leaves the button within reach.
+    if (mInCorso)
+        return;
+    // A shortcut moves no focus: the field that has it is checked first. Not so the branch, whose message
+    // stops nothing.
+    if (!txtFilialeGia->hasFocus())
         if (const Seguito seguito = mConvalida->verificaCorrente())
             return seguito();
+    const QPointer<frmRiconsegna> io(this);
+    mInCorso = true;
+    const auto finito = qScopeGuard([io] {
+        if (io)
+            io->mInCorso = false;
+    });
     stato({});
     LdvLetta ldv;
     prosegui([&] {
@@ -118,11 +143,8 @@ void frmRiconsegna::riconsegna()
     if (!scelte.annullato) {
         const auto conto = scelte.controllo ? contaGiacenza() : std::nullopt;
         emessa = !scelte.controllo || accettato(conto);
-        if (emessa) {
-            const QPointer<const Schermata> io(this);
-            prosegui([&] { stato(EmettiRiconsegna(ldv, scelte.stampa, contesto(scelte, conto))); });
-            restaAperta(io);
-        }
+        if (emessa)
+            emetti(ldv, scelte.stampa, contesto(scelte, conto));
     }
     rilasciaConnessione();
     if (emessa)

@@ -76,6 +76,8 @@ void EmittenteDiProva::setContesto(const Contesto& contesto)
 void EmittenteDiProva::setPercorsoDatabase(const QString& percorso)
 {
     mEmissioni.chiamate << QStringLiteral("database ") + percorso;
+    if (mEmissioni.allInizio)
+        mEmissioni.allInizio();
 }
 
 void EmittenteDiProva::setCartellaStampa(const QString& cartella)

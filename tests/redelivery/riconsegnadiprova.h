@@ -16,6 +16,7 @@ struct Emissioni
                           ///< "emetti 4711"
     std::vector<Contesto> contesti;
     std::vector<QStringList> colonne; ///< of each record handed over
+    std::function<void()> allInizio;  ///< at the first thing handed over; may throw
     std::function<void()> durante;    ///< while it issues; may throw
     int vivi = 0;                     ///< issuers not yet released
 };

@@ -1,0 +1,121 @@
+#include "data/riconsegne.h"
+#include "redelivery/frmPorto.h"
+#include "redelivery/riconsegnadiprova.h"
+#include "support/modale.h"
+#include "support/stampa.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QTest>
+#include <QTimer>
+
+using namespace giacenza;
+using namespace giacenza::prove;
+using namespace Qt::StringLiterals;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+namespace {
+
+/// The hand-over to an issuer that does what it likes.
+class Consegna : public RiconsegnaDiProva
+{
+protected:
+    int emesse() const { return static_cast<int>(mEmissioni.chiamate.filter(u"emetti"_s).size()); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Basi, Consegna, testing::Values("sqlite", "mariadb"),
+                         nomeBase<testing::TestParamInfo<std::string>>);
+
+TEST_P(Consegna, CioCheSiLanciaPrimaDiEmettereFermaIlRestoESpegneIlBottone)
+{
+    mEmissioni.allInizio = [] { throw std::runtime_error("ignota"); };
+    cerca(u"950"_s);
+    EXPECT_THAT(emetti(), SizeIs(2)) << "the context and the connection string, and no more";
+    EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
+    EXPECT_EQ(stato()->text(), u"ignota"_s);
+    EXPECT_FALSE(bottoneAcceso());
+    EXPECT_EQ(mEmissioni.vivi, 0);
+}
+
+TEST_P(Consegna, AncheCioCheNonEUnaEccezioneSiFerma)
+{
+    mEmissioni.durante = [] { throw 7; };
+    cerca(u"950"_s);
+    emetti();
+    EXPECT_EQ(stato()->text(), u"L'emissione si è interrotta per un errore sconosciuto."_s);
+    EXPECT_FALSE(bottoneAcceso());
+}
+
+TEST_P(Consegna, LaSchermataDistruttaNelMezzoFinisceInSilenzio)
+{
+    mEmissioni.durante = [this] { delete mSchermata; };
+    cerca(u"950"_s);
+    emetti();
+    EXPECT_TRUE(mSchermata.isNull());
+    EXPECT_EQ(mEmissioni.vivi, 0);
+
+    mEmissioni.durante = [this] {
+        delete mSchermata;
+        throw Errore(u"carta finita"_s);
+    };
+    cerca(u"950"_s);
+    emetti();
+    EXPECT_TRUE(mSchermata.isNull());
+}
+
+TEST_P(Consegna, IlBottonePremutoDiNuovoMentreSiEmetteNonFaNulla)
+{
+    int finestre = 0;
+    mEmissioni.durante = [&] {
+        QObject osservatore;
+        QTimer guarda(&osservatore);
+        QObject::connect(&guarda, &QTimer::timeout, &osservatore, [&] {
+            if (QWidget* aperta = QApplication::activeModalWidget()) {
+                ++finestre;
+                aperta->close();
+            }
+        });
+        guarda.start(0);
+        clicca("cmdRiconsegna");
+    };
+    cerca(u"950"_s);
+    emetti();
+    EXPECT_EQ(finestre, 0);
+    EXPECT_EQ(emesse(), 1);
+    EXPECT_FALSE(bottoneAcceso());
+}
+
+TEST_P(Consegna, LaScorciatoiaEmetteCioCheLaDataAppenaScrittaTrova)
+{
+    cerca(u"950"_s);
+    scrivi("txtLDV", u"951"_s);
+    scrivi("txtDataLdv", u"12112026"_s);
+    mMessaggi.rispondi(Risposta::si);
+    {
+        const QuandoAperta<frmPorto> intanto([](frmPorto& porto) { porto.close(); });
+        scorciatoia(Qt::Key_V);
+    }
+    EXPECT_EQ(mMessaggi.testi(),
+              QStringList(u"Sono presenti n.2 riconsegne emettere una nuova riconsegna?"_s));
+    ASSERT_EQ(emesse(), 1);
+    EXPECT_EQ(mEmissioni.chiamate.last(), u"emetti 951"_s);
+    EXPECT_EQ(mEmissioni.contesti.back().numeroGiacenza, u"51"_s) << "not the one shown before";
+}
+
+TEST_P(Consegna, OltreISediciBitIlConteggioEUnErrore)
+{
+    Connessione connessione = mBase.connessione();
+    if (GetParam() == "mariadb")
+        connessione.esegui(u"set session max_recursive_iterations=40000"_s);
+    const QString fino =
+        u"with recursive n(i) as (select 1 union all select i+1 from n where i<%1) select i from n"_s;
+    Recordset righe;
+    righe.apri(connessione, fino.arg(32767));
+    EXPECT_EQ(ContaRecord(righe), 32767);
+    EXPECT_EQ(righe.valore(0), u"1"_s) << "the first is current again";
+    righe.apri(connessione, fino.arg(32768));
+    EXPECT_THROW(ContaRecord(righe), ErroreConversione);
+}
+
+} // namespace
