@@ -33,9 +33,15 @@ void numeraConLdv(Sezione& sezione)
     sezione.controllo(u"lblRifMitt"_s).testo = u"Rif. mittente"_s;
 }
 
-double mittente(Sezione& sezione, double y)
+/// A return is sent by who would not have the goods; the customer stays the one who pays.
+double mittente(Sezione& sezione, double y, bool reso)
 {
     y = blocchi::capitolo(sezione, y, u"lblMittenti"_s, u"Mittente"_s);
+    if (reso) {
+        blocchi::voce(sezione, y, Posto::intero, u"Reso da"_s,
+                      report::campo(u"txtResoDa"_s, {}, u"resoDa"_s, {10, true}));
+        y += blocchi::passoVoce;
+    }
     Controllo nome = report::campo(u"txtMittente"_s, {}, u"RagioneSociale"_s, {10, true});
     nome.formato = [](const Contesto& contesto) {
         return formati::unisci({contesto.riga.testo(u"RagioneSociale"_s), contesto.riga.testo(u"Indirizzo"_s),
@@ -75,12 +81,12 @@ double firme(Sezione& sezione, double y)
     return y + spazioFirma + 6;
 }
 
-report::Definizione definizione()
+report::Definizione definizione(bool reso)
 {
     report::Definizione lettera = blocchi::lettera(u"letteraVettura"_s);
     Sezione& sezione = lettera.dettaglio;
     double y = blocchi::titolo(sezione, 4, u"Lettera di vettura"_s);
-    y = mittente(sezione, y + 2);
+    y = mittente(sezione, y + 2, reso);
     y = blocchi::spedizione(sezione, y);
     y = blocchi::merce(sezione, y);
     y = consegna(sezione, y);
@@ -102,6 +108,7 @@ void aggiungiColonne(RigaReport& riga, const Recordset& righe)
 RigaReport leggi(Connessione& connessione, const LdvEmessa& ldv)
 {
     RigaReport riga;
+    riga.aggiungi(u"resoDa"_s, ldv.mittente);
     Recordset righe;
     righe.apri(connessione, istruzioni::spedizionePerNumeroDataFiliale(ldv.numero, ldv.data, ldv.filiale));
     if (righe.eof())
@@ -123,7 +130,7 @@ std::unique_ptr<Documento> componiLdv(Connessione& connessione, const LdvEmessa&
 {
     const QString titolo = u"Lettera di vettura %1/%2"_s.arg(ldv.numero, QString::number(ldv.anno));
     const QImage immagine = report::leggiLogo(logo);
-    report::Definizione lettera = definizione();
+    report::Definizione lettera = definizione(!ldv.mittente.isEmpty());
     blocchi::completaIntestazione(lettera.intestazione, {}, !immagine.isNull());
     report::Composizione composizione(lettera, titolo, immagine);
     composizione.aggiungi(leggi(connessione, ldv), connessione);

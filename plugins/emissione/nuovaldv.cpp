@@ -3,6 +3,7 @@
 #include "data/riconsegne.h"
 #include "data/transazione.h"
 #include "data/valori.h"
+#include "reports/formati.h"
 
 using namespace Qt::StringLiterals;
 
@@ -27,6 +28,13 @@ Luogo destinatario(const RecordLdv& originale)
 {
     return {originale.valore(u"ledest"_s), originale.valore(u"leindd"_s), originale.valore(u"lecapd"_s),
             originale.valore(u"lelocd"_s), originale.valore(u"leprod"_s)};
+}
+
+QString inUnaRiga(const Luogo& luogo)
+{
+    return report::formati::unisci({luogo.nome.value_or(QString()), luogo.indirizzo.value_or(QString()),
+                                    luogo.cap.value_or(QString()), luogo.localita.value_or(QString())},
+                                   luogo.provincia.value_or(QString()));
 }
 
 Luogo mittente(Connessione& connessione, const RecordLdv& originale)
@@ -146,7 +154,8 @@ LdvEmessa inUnaTransazione(Connessione& connessione, const RecordLdv& originale,
         ricontrolla(connessione, contesto);
     const int anno = contesto.oggi.year();
     const LdvEmessa chiave = {originale.valore(u"lefili"_s).value_or(QString()),
-                              prossimoNumero(connessione, anno), anno, contesto.oggi};
+                              prossimoNumero(connessione, anno), anno, contesto.oggi,
+                              contesto.resoAMittente ? inUnaRiga(destinatario(originale)) : QString()};
     aggiungi(connessione, originale, contesto, chiave);
     transazione.conferma();
     return chiave;

@@ -7,13 +7,14 @@
 
 namespace giacenza::emissione {
 
-/// The key of a waybill that was issued.
+/// A waybill that was issued: its key, and what its row has no column for.
 struct LdvEmessa
 {
     QString filiale;
     QString numero;
     int anno = 0;
     QDate data;
+    QString mittente; ///< of a return: the recipient who sends the goods back, name and address; else empty
 };
 
 /// Adds the waybill that follows another one: one row, in one transaction of the connection, or nothing.

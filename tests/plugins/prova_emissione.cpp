@@ -62,6 +62,13 @@ protected:
         EXPECT_EQ(emissione(), QString());
         return testo;
     }
+    static QString pagina(const QString& file)
+    {
+        QProcess testo;
+        testo.start(u"pdftotext"_s, {u"-layout"_s, file, u"-"_s});
+        EXPECT_TRUE(testo.waitForFinished());
+        return QString::fromUtf8(testo.readAllStandardOutput());
+    }
     QString emesse() const
     {
         return mBase.leggi(u"select count(*) from letve00f where ledtlv='2026-11-21'"_s).value_or(QString());
@@ -81,21 +88,30 @@ TEST_P(Emissione, StampaLaLdvConIlSuoCodiceABarre)
 {
     const QString file = mImp + u"/LDV_MI_4716_2026.pdf"_s;
     EXPECT_EQ(emetti(), u"Emessa la lettera di vettura 4716/2026, stampata in "_s + file);
-    QProcess testo;
-    testo.start(u"pdftotext"_s, {u"-layout"_s, file, u"-"_s});
-    ASSERT_TRUE(testo.waitForFinished());
-    const QString pagina = QString::fromUtf8(testo.readAllStandardOutput());
+    const QString letta = pagina(file);
     for (const char16_t* atteso :
          {u"Lettera di vettura", u"n. 4716 / 2026", u"LDV 4716",
           u"Ferramenta Lombarda S.r.l. Via Po 1 20900 Monza (MB)", u"Utensileria del Lago",
           u"Corso Italia 44", u"22100 Como (CO)", u"21/11/2026", u"Assegnato", u"Autotrasporti Riuniti",
           u"Brianza nord", u"45,5 kg", u"120,00 €", u"giacenza 40/2026", u"Solo al mattino",
           u"Firma del destinatario", u"Pagina 1 di 1"})
-        EXPECT_TRUE(pagina.contains(QString::fromUtf16(atteso)))
+        EXPECT_TRUE(letta.contains(QString::fromUtf16(atteso)))
             << QString::fromUtf16(atteso).toStdString() << '\n'
-            << pagina.toStdString();
+            << letta.toStdString();
+    EXPECT_FALSE(letta.contains(u"Reso da"_s));
     EXPECT_EQ(emesse(), u"1"_s);
     EXPECT_THAT(QDir(mImp).entryList(QDir::Files | QDir::Hidden), SizeIs(1)) << "no leftover of the trial";
+}
+
+TEST_P(Emissione, SulResoIlMittenteEChiRendeLaMerce)
+{
+    mContesto.resoAMittente = true;
+    emetti();
+    const QString letta = pagina(mImp + u"/LDV_MI_4716_2026.pdf"_s).simplified();
+    EXPECT_TRUE(letta.contains(u"Mittente Reso da Utensileria del Lago Corso Italia 44 22100 Como (CO) "
+                               "Cliente Ferramenta Lombarda S.r.l. Via Po 1 20900 Monza (MB) Spedizione"_s))
+        << letta.toStdString();
+    EXPECT_EQ(letta.count(u"Ferramenta Lombarda S.r.l."_s), 2) << "the customer, who is the recipient too";
 }
 
 TEST_P(Emissione, SenzaStampaNonLasciaFile)

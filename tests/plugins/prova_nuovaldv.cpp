@@ -92,6 +92,7 @@ TEST_P(NuovaLdv, LaRiconsegnaCopiaLaLdv)
     EXPECT_EQ(emessa.numero, u"4716"_s);
     EXPECT_EQ(emessa.anno, 2026);
     EXPECT_EQ(emessa.filiale, u"MI"_s);
+    EXPECT_EQ(emessa.mittente, QString());
     ASSERT_THAT(nuove(), SizeIs(1));
     EXPECT_EQ(
         ripulita(nuove().front()),
@@ -132,7 +133,8 @@ TEST_P(NuovaLdv, IlResoVaAlMittenteSenzaContrassegno)
     Contesto contesto = contestoDiProva();
     contesto.lavoro = u"Reso a Mittente"_s;
     contesto.resoAMittente = true;
-    emettiLdv(mConnessione, LdvDiProva(mConnessione, u"4711"_s), contesto);
+    EXPECT_EQ(emettiLdv(mConnessione, LdvDiProva(mConnessione, u"4711"_s), contesto).mittente,
+              u"Utensileria del Lago Corso Italia 44 22100 Como (CO)"_s);
     ASSERT_THAT(nuove(), SizeIs(1));
     const QStringList riga = ripulita(nuove().front());
     EXPECT_EQ(riga.mid(6, 5),
