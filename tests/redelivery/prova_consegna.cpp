@@ -9,6 +9,8 @@
 #include <QTest>
 #include <QTimer>
 
+#include <utility>
+
 using namespace giacenza;
 using namespace giacenza::prove;
 using namespace Qt::StringLiterals;
@@ -67,7 +69,10 @@ TEST_P(Consegna, LaSchermataDistruttaNelMezzoFinisceInSilenzio)
 TEST_P(Consegna, IlBottonePremutoDiNuovoMentreSiEmetteNonFaNulla)
 {
     int finestre = 0;
+    bool premuto = false;
     mEmissioni.durante = [&] {
+        if (std::exchange(premuto, true))
+            return;
         QObject osservatore;
         QTimer guarda(&osservatore);
         QObject::connect(&guarda, &QTimer::timeout, &osservatore, [&] {
