@@ -1,7 +1,5 @@
 #include "data/odbc.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 #include <array>
 
@@ -27,6 +25,15 @@ QString diagnosi(SQLSMALLINT tipo, SQLHANDLE maniglia, SQLSMALLINT numero, QStri
     return QString::fromUtf8(testo.constData(), std::min<qsizetype>(lunghezza, testo.size()));
 }
 
+/// Whether a connection string names a keyword.
+bool nomina(QStringView stringa, QStringView chiave)
+{
+    const auto voci = stringa.split(u';');
+    return std::any_of(voci.begin(), voci.end(), [chiave](QStringView voce) {
+        return voce.left(voce.indexOf(u'=')).trimmed().compare(chiave, Qt::CaseInsensitive) == 0;
+    });
+}
+
 /// The host's string with the limits that the drivers take from there alone. A driver ignores keywords that
 /// it does not know.
 QString conLimiti(const QString& stringa, const Limiti& limiti)
@@ -38,9 +45,7 @@ QString conLimiti(const QString& stringa, const Limiti& limiti)
     // MariaDB: the driver ignores the login time-out. Without these it would wait for ever for a server that
     // takes the connection and says nothing, or whose machine went away.
     const auto aggiungi = [&](const QString& chiave, int secondi) {
-        const QRegularExpression presente(QStringLiteral("(^|;)\\s*%1\\s*=").arg(chiave),
-                                          QRegularExpression::CaseInsensitiveOption);
-        if (stringa.contains(presente))
+        if (nomina(stringa, chiave))
             return;
         if (!completa.endsWith(u';'))
             completa += u';';
