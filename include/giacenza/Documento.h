@@ -37,6 +37,10 @@ public:
     /// are the device's own, from which the size of the page follows. Its state is put back afterwards.
     /// False when the operator, asked because printing takes long, gave it up: nothing more is to be painted.
     virtual bool dipingi(int pagina, QPainter& pittore) = 0;
+
+    /// The pages are about to be painted once more, on another paper: how long a print takes is counted from
+    /// here.
+    virtual void ricomincia() {}
 };
 
 /// What a document is made from: what the print module was told.

@@ -135,7 +135,7 @@ std::unique_ptr<Documento> componiLdv(Connessione& connessione, const LdvEmessa&
     report::Composizione composizione(lettera, titolo, immagine);
     composizione.aggiungi(leggi(connessione, ldv), connessione);
     return std::make_unique<report::DocumentoReport>(titolo, lettera.carta, composizione.pagine(),
-                                                     [] { return true; });
+                                                     report::Ascoltatore{[] { return true; }});
 }
 
 } // namespace giacenza::emissione

@@ -2,9 +2,13 @@
 
 #include <giacenza/Documento.h>
 
+#include <QPointer>
+#include <QWidget>
+
 namespace giacenza::stampa {
 
-/// The print module of the depot: keeps each document as a PDF in the documents' folder.
+/// The print module of the depot: keeps each document as a PDF in the documents' folder, and then shows or
+/// prints it if the key "Modalita" of the settings file says so: "pdf", "anteprima" or "stampante".
 class ModuloDeposito : public ModuloStampaConFonte
 {
 public:
@@ -16,12 +20,14 @@ public:
     void setTipoDocumento(TipoDocumento tipo) override { mRichiesta.tipo = tipo; }
 
     /// Writes "<key>.pdf", for the closure "<key>_buonfine.pdf"; a document printed again gets the next free
-    /// "-2", "-3". Throws Errore without a source, when printing was switched off, and when the document
-    /// cannot be read or the file cannot be written.
+    /// "-2", "-3". Throws Errore without a source, when printing was switched off, when the document cannot
+    /// be read or the file cannot be written; and, with the file written and named in the text, when the
+    /// document did not come out of the printer or the mode is unknown.
     void stampaDocumento(const QString& chiave, bool& nonProdotto) override;
 
 private:
     FonteDocumenti* mFonte = nullptr;
+    QPointer<QWidget> mPadre;
     RichiestaDocumento mRichiesta;
     bool mStampa = false;
 };

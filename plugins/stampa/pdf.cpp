@@ -1,15 +1,16 @@
 #include "stampa/pdf.h"
 
+#include "stampa/pagine.h"
+
 #include <QBuffer>
 #include <QCoreApplication>
-#include <QPainter>
 #include <QPdfWriter>
 
 using namespace Qt::StringLiterals;
 
 namespace giacenza::stampa {
 
-std::optional<QByteArray> pdf(Documento& documento)
+std::optional<QByteArray> pdf(Documento& documento, QWidget* padre)
 {
     constexpr int puntiPerPollice = 1200;
     QBuffer memoria;
@@ -21,13 +22,8 @@ std::optional<QByteArray> pdf(Documento& documento)
         scrittore.setTitle(documento.titolo());
         scrittore.setCreator(QCoreApplication::applicationName());
         scrittore.setPageLayout(documento.impaginazione());
-        QPainter pittore(&scrittore);
-        for (int pagina = 0; pagina < documento.pagine() && pittore.isActive(); ++pagina) {
-            if (pagina > 0)
-                scrittore.newPage();
-            if (!documento.dipingi(pagina, pittore))
-                return std::nullopt;
-        }
+        if (!dipingiPagine(documento, tutte(documento), scrittore, padre))
+            return std::nullopt;
     }
     if (!memoria.data().startsWith("%PDF-") || !memoria.data().trimmed().endsWith("%%EOF"))
         throw Errore(u"Impossibile comporre il PDF di \"%1\"."_s.arg(documento.titolo()));

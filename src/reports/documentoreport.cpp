@@ -5,8 +5,8 @@
 namespace giacenza::report {
 
 DocumentoReport::DocumentoReport(const QString& titolo, const QPageSize& carta,
-                                 std::vector<PaginaReport> pagine, std::function<bool()> prosegui)
-    : mTitolo(titolo), mCarta(carta), mPagine(std::move(pagine)), mProsegui(std::move(prosegui))
+                                 std::vector<PaginaReport> pagine, Ascoltatore ascoltatore)
+    : mTitolo(titolo), mCarta(carta), mPagine(std::move(pagine)), mAscoltatore(std::move(ascoltatore))
 {}
 
 QPageLayout DocumentoReport::impaginazione() const
@@ -18,10 +18,16 @@ QPageLayout DocumentoReport::impaginazione() const
 
 bool DocumentoReport::dipingi(int pagina, QPainter& pittore)
 {
-    if (!mProsegui())
+    if (!mAscoltatore.prosegui())
         return false;
     dipingiPagina(mPagine.at(static_cast<std::size_t>(pagina)), pittore);
     return true;
+}
+
+void DocumentoReport::ricomincia()
+{
+    if (mAscoltatore.ricomincia)
+        mAscoltatore.ricomincia();
 }
 
 } // namespace giacenza::report

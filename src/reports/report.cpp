@@ -75,6 +75,11 @@ void Report::notifica(int codice, const QString& descrizione)
     Error(codice, mostra);
 }
 
+void Report::ricomincia()
+{
+    mCronometro = mFabbricaCronometro ? mFabbricaCronometro() : cronometroVero();
+}
+
 bool Report::prosegue()
 {
     bool annulla = false;
@@ -85,7 +90,7 @@ bool Report::prosegue()
 std::unique_ptr<DocumentoReport> Report::componi(const RichiestaDocumento& richiesta, QWidget* padre)
 {
     mPadre = padre;
-    mCronometro = mFabbricaCronometro ? mFabbricaCronometro() : cronometroVero();
+    ricomincia();
     if (!prosegue())
         return nullptr;
     Connessione connessione;
@@ -114,8 +119,9 @@ std::unique_ptr<DocumentoReport> Report::componi(const RichiestaDocumento& richi
         notifica(erroreFormato, errore.testo());
         return nullptr;
     }
-    return std::make_unique<DocumentoReport>(nome, definizione.carta, composizione.pagine(),
-                                             [this] { return prosegue(); });
+    return std::make_unique<DocumentoReport>(
+        nome, definizione.carta, composizione.pagine(),
+        Ascoltatore{[this] { return prosegue(); }, [this] { ricomincia(); }});
 }
 
 } // namespace giacenza::report

@@ -55,6 +55,7 @@ protected:
     void attaccaFormato(const QString& campo, Formato formato);
 
 private:
+    void ricomincia();
     bool prosegue();
     void notifica(int codice, const QString& descrizione);
 

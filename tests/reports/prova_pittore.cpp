@@ -93,7 +93,7 @@ TEST(Documento, siChiedePrimaDiOgniPagina)
     const PaginaReport pagina = {CornicePagina{u"cor"_s, {10, 10, 10, 10}, 0.4, QColor(), nero}};
     int chieste = 0;
     DocumentoReport documento(u"Prova"_s, QPageSize(QPageSize::A4), {pagina, pagina},
-                              [&] { return ++chieste < 2; });
+                              {[&] { return ++chieste < 2; }});
     QImage immagine = carta();
     QPainter pittore(&immagine);
     EXPECT_TRUE(documento.dipingi(0, pittore));
@@ -105,7 +105,7 @@ TEST(Documento, siChiedePrimaDiOgniPagina)
 
 TEST(Documento, laCartaEIntera)
 {
-    const DocumentoReport documento(u"Prova"_s, QPageSize(QPageSize::A4), {{}}, [] { return true; });
+    const DocumentoReport documento(u"Prova"_s, QPageSize(QPageSize::A4), {{}}, {[] { return true; }});
     EXPECT_EQ(documento.impaginazione().pageSize().id(), QPageSize::A4);
     EXPECT_EQ(documento.impaginazione().paintRect(QPageLayout::Millimeter), QRectF(0, 0, 210, 297));
 }

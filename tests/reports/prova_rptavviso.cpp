@@ -5,6 +5,8 @@
 #include "reports/pagineprova.h"
 #include "support/registromessaggi.h"
 
+#include <QPainter>
+
 #include <gmock/gmock.h>
 
 using namespace giacenza;
@@ -263,6 +265,34 @@ TEST_P(Avviso, loStampareLungoSiPuoAnnullare)
     EXPECT_EQ(mRegistro.testi(),
               QStringList{u"Sono trascorsi circa 30 secondi dall'inizio dell'operazione di "
                           "stampa\rAnnullare l'operazione?"_s});
+}
+
+TEST_P(Avviso, laSecondaStampaContaDaZero)
+{
+    int secondi = 0;
+    mAvviso.setCronometro([&] {
+        secondi = 0;
+        return [&] { return secondi; };
+    });
+    const auto documento = mAvviso.componi(mRichiesta, nullptr);
+    ASSERT_TRUE(documento);
+    QImage carta(210, 297, QImage::Format_RGB32);
+    QPainter pittore(&carta);
+    const auto stampa = [&](int durata) {
+        for (secondi = 0; secondi <= durata; ++secondi)
+            EXPECT_TRUE(documento->dipingi(0, pittore));
+    };
+    const auto domanda = [](int quando) {
+        return u"Sono trascorsi circa %1 secondi dall'inizio dell'operazione di "
+               "stampa\rAnnullare l'operazione?"_s.arg(quando);
+    };
+    for (int i = 0; i < 3; ++i)
+        mRegistro.rispondi(Risposta::no);
+    stampa(45);
+    documento->ricomincia();
+    EXPECT_EQ(secondi, 0) << "un cronometro nuovo";
+    stampa(25);
+    EXPECT_EQ(mRegistro.testi(), (QStringList{domanda(20), domanda(40), domanda(20)}));
 }
 
 TEST_P(Avviso, ilDatabaseCheNonCE)
