@@ -39,14 +39,15 @@ inline long piccoKilobyte()
     return picco;
 }
 
-/// righe: how many were read, attese: how many a page has to have. Returns the exit code.
-inline int stampaEsito(double millisecondi, long righe, long attese)
+/// righe: how many came out, attese: how many had to. picco: the peak, where it is not this process's own.
+/// Returns the exit code.
+inline int stampaEsito(double millisecondi, long righe, long attese, long picco = piccoKilobyte())
 {
     if (righe != attese) {
-        std::fprintf(stderr, "%ld rows were read, not %ld\n", righe, attese);
+        std::fprintf(stderr, "%ld came out, not %ld\n", righe, attese);
         return EXIT_FAILURE;
     }
-    std::printf("%.3f %ld\n", millisecondi, piccoKilobyte());
+    std::printf("%.3f %ld\n", millisecondi, picco);
     return EXIT_SUCCESS;
 }
 

@@ -17,7 +17,7 @@ using Tema = std::vector<Confronto> (*)(const Basi&, const Opzioni&);
 
 const std::map<QString, Tema>& temi()
 {
-    static const std::map<QString, Tema> tutti{{u"grid"_s, temaGriglia}};
+    static const std::map<QString, Tema> tutti{{u"grid"_s, temaGriglia}, {u"print"_s, temaStampa}};
     return tutti;
 }
 

@@ -16,6 +16,7 @@ namespace banco {
 namespace {
 
 const QString modello = u"%1 %2 %3 %4 %5 %6 %7 %8 %9\n"_s;
+constexpr int larghezzaNome = -22;
 
 double millesimi(double valore)
 {
@@ -46,7 +47,7 @@ QJsonObject oggetto(const Misura& misura)
 
 QString testata()
 {
-    return modello.arg(u"name"_s, -14)
+    return modello.arg(u"name"_s, larghezzaNome)
         .arg(u"database"_s, -8)
         .arg(u"rows"_s, 9)
         .arg(u"ours ms"_s, 10)
@@ -61,7 +62,7 @@ QString riga(const Misura& misura)
 {
     const Confronto& confronto = misura.confronto;
     const bool obiettivo = confronto.obiettivo > 0;
-    return modello.arg(confronto.nome, -14)
+    return modello.arg(confronto.nome, larghezzaNome)
         .arg(confronto.database, -8)
         .arg(confronto.righe, 9)
         .arg(cifra(misura.nostroMs, 2, 10), cifra(misura.riferimentoMs, 2, 10), cifra(misura.rapporto, 2, 6),

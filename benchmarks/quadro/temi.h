@@ -11,4 +11,7 @@ namespace banco {
 /// The shipment search: until its first page stands, and how much memory that takes.
 std::vector<Confronto> temaGriglia(const Basi& basi, const Opzioni& opzioni);
 
+/// A storage notice, from the database to the PDF in the archive.
+std::vector<Confronto> temaStampa(const Basi& basi, const Opzioni& opzioni);
+
 } // namespace banco
