@@ -229,6 +229,8 @@ void frmGiacenza::clienteCercato()
 
 void frmGiacenza::scegliData()
 {
+    if (!mUi->cmdData->isEnabled())
+        return;
     const QPointer<const Schermata> io(this);
     const QPointer<frmCalendario> calendario = new frmCalendario(this);
     calendario->setDataAttuale(leggiData(testo(lblDataLav)));

@@ -193,6 +193,8 @@ TEST_P(Ricerche, IlClienteSiCercaPerNome)
     EXPECT_EQ(mostrato("txtCodiceCli"), QStringLiteral("1002"));
     EXPECT_EQ(mostrato("barCliente"), QStringLiteral("Oleificio del Garda"));
     EXPECT_FALSE(c("cmdData")->isEnabled());
+    tasto("txtDataGia", Qt::Key_F12); // a calendar that opened would keep the test here
+    EXPECT_EQ(mostrato("txtDataGia"), QStringLiteral("21/11/2026"));
 }
 
 TEST_P(Ricerche, LaRicercaDelClienteAnnullataNonTocca)
