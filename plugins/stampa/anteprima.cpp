@@ -86,11 +86,11 @@ void mostraAnteprima(Documento& documento, QWidget* padre)
     QObject::connect(finestra, &QPrintPreviewDialog::paintRequested, [&](QPrinter* carta) {
         try {
             dipingi(documento, *carta, finestra);
-        } catch (const Errore&) {
+        } catch (...) {
             guasto = std::current_exception();
-            carta->abort();
+            // Later: the preview is still at its pages.
             if (finestra)
-                finestra->reject();
+                QMetaObject::invokeMethod(finestra, &QDialog::reject, Qt::QueuedConnection);
         }
     });
     finestra->exec();

@@ -189,6 +189,23 @@ TEST_F(Modalita, lAnteprimaSopravviveAllaSchermata)
     EXPECT_FALSE(nonProdotto);
 }
 
+TEST_F(Modalita, unGuastoNellAnteprimaLaChiudeESiDice)
+{
+    int dipinte = 0;
+    try {
+        stampa(u"anteprima"_s, std::make_unique<DocumentoFinto>(1, [&](int) {
+                   if (++dipinte > 1)
+                       throw Errore(u"Manca un carattere."_s);
+                   return true;
+               }));
+        FAIL() << "non ha lanciato";
+    } catch (const Errore& errore) {
+        EXPECT_EQ(errore.testo(), u"Manca un carattere.\nIl documento resta archiviato in \"%1\"."_s.arg(
+                                      percorso(u"documenti/7_2024.pdf"_s)));
+    }
+    EXPECT_EQ(archivio(), mUno);
+}
+
 TEST_F(Modalita, unDocumentoCortoNonMostraLAvanzamento)
 {
     bool visto = false;
