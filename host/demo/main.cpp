@@ -11,6 +11,15 @@
 
 namespace {
 
+QtMessageHandler diPrima = nullptr;
+
+/// The platform without a display says at every window what it cannot do; everything else is passed on.
+void senzaRumore(QtMsgType tipo, const QMessageLogContext& contesto, const QString& testo)
+{
+    if (!testo.startsWith(QLatin1String("This plugin does not support")))
+        diPrima(tipo, contesto, testo);
+}
+
 int racconta(const QString& cartella, const QString& database)
 {
     giacenza::cGiacenza componente;
@@ -33,6 +42,7 @@ int main(int argc, char** argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    diPrima = qInstallMessageHandler(senzaRumore);
     QApplication applicazione(argc, argv);
     QApplication::setApplicationDisplayName(QStringLiteral("Gestione Trasporti"));
     QCommandLineParser opzioni;
