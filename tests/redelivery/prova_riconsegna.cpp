@@ -35,13 +35,7 @@ protected:
     }
 
     /// Every statement that begins so fails, the connection with it.
-    static void fallisce(const QString& inizio)
-    {
-        impostaTraccia([=](EventoDati evento, const QString& testo) {
-            if (evento == EventoDati::istruzione && testo.startsWith(inizio, Qt::CaseInsensitive))
-                throw ErroreDatabase(u"08S01"_s, 1, u"guasto di prova"_s, testo);
-        });
-    }
+    void fallisce(const QString& inizio) { SchermataDiProva::fallisce(inizio, u"08S01"_s); }
 
     static Messaggio dellApplicazione(const QString& testo, Stile stile = Stile::avviso)
     {

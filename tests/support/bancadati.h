@@ -24,7 +24,8 @@ enum class Contenuto
 ///     protected:
 ///         BancaDati mBase{GetParam()};
 ///     };
-///     INSTANTIATE_TEST_SUITE_P(Basi, Salvataggio, testing::Values("sqlite", "mariadb"), nomeBase);
+///     INSTANTIATE_TEST_SUITE_P(Basi, Salvataggio, testing::Values("sqlite", "mariadb"),
+///                              nomeBase<testing::TestParamInfo<std::string>>);
 ///
 /// "mariadb" needs the label "server" in the test's CMakeLists.txt: ctest starts the server. A database that
 /// cannot be made throws, and so fails the test, with what is missing.
