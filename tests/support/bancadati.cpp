@@ -1,5 +1,7 @@
 #include "support/bancadati.h"
 
+#include "schema/script.h"
+
 #include <gtest/gtest.h>
 
 #include <QFile>
@@ -156,19 +158,8 @@ QString stringaServer()
 
 void eseguiTutte(Connessione& connessione, const QString& istruzioni)
 {
-    QStringList righe;
-    const QStringList tutte = istruzioni.split(u'\n');
-    for (const QString& riga : tutte) {
-        if (riga.trimmed().isEmpty() || riga.startsWith(QStringLiteral("--")))
-            continue;
-        righe += riga;
-        if (riga.endsWith(u';')) {
-            connessione.esegui(righe.join(u'\n'));
-            righe.clear();
-        }
-    }
-    if (!righe.isEmpty())
-        connessione.esegui(righe.join(u'\n'));
+    for (const QString& istruzione : istruzioniScript(istruzioni))
+        connessione.esegui(istruzione);
 }
 
 BancaDati::BancaDati(const std::string& tipo, Contenuto contenuto) : mMotore(creaMotore(tipo, contenuto)) {}
