@@ -14,11 +14,26 @@ if(GIACENZA_SANITIZE)
     target_link_options(giacenza_opzioni INTERFACE -fsanitize=address,undefined)
 endif()
 
-# giacenza_libreria(NAME sources...): a static, position-independent library of the component's inside.
+# giacenza_porta(TARGET ROOM SCOPE): lets the target, and with SCOPE PUBLIC who links it, include the headers of one room of
+# src/ as "room/header.h", and of no other. The folder holds a link to the room alone.
+function(giacenza_porta nome stanza ambito)
+    set(porta ${PROJECT_BINARY_DIR}/stanze/${nome})
+    cmake_path(GET stanza PARENT_PATH sopra)
+    file(MAKE_DIRECTORY ${porta}/${sopra})
+    file(CREATE_LINK ${PROJECT_SOURCE_DIR}/src/${stanza} ${porta}/${stanza} SYMBOLIC)
+    target_include_directories(${nome} ${ambito} ${porta})
+endfunction()
+
+# giacenza_stanza(TARGET ROOM sources...): a room of src/, a static, position-independent library of the component's inside.
+function(giacenza_stanza nome stanza)
+    giacenza_libreria(${nome} ${ARGN})
+    giacenza_porta(${nome} ${stanza} PUBLIC)
+endfunction()
+
+# giacenza_libreria(NAME sources...): a static, position-independent library of ours.
 function(giacenza_libreria nome)
     add_library(${nome} STATIC ${ARGN})
     target_link_libraries(${nome} PRIVATE giacenza_opzioni PUBLIC giacenza_interfacce)
-    target_include_directories(${nome} PUBLIC ${PROJECT_SOURCE_DIR}/src)
     set_target_properties(${nome} PROPERTIES LINKER_LANGUAGE CXX)
 endfunction()
 

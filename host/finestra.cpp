@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace deposito {
 
 using giacenza::cGiacenza;
@@ -49,16 +51,14 @@ Finestra::Finestra(const Opzioni& opzioni, QWidget* parent)
     collega();
 
     const QString archivio = nomeArchivio(opzioni.database);
-    auto* nome = new QLabel(archivio.isEmpty() ? QStringLiteral("Nessun archivio")
-                                               : QStringLiteral("Archivio: %1").arg(archivio),
-                            this);
-    nome->setObjectName(QStringLiteral("lblArchivio"));
+    auto* nome =
+        new QLabel(archivio.isEmpty() ? u"Nessun archivio"_s : u"Archivio: %1"_s.arg(archivio), this);
+    nome->setObjectName(u"lblArchivio"_s);
     mUi->statusbar->addPermanentWidget(nome);
-    mUi->statusbar->showMessage(QStringLiteral("Pronto."));
+    mUi->statusbar->showMessage(u"Pronto."_s);
     if (opzioni.database.isEmpty())
-        mostraMessaggio(
-            QStringLiteral("Non è stato indicato l'archivio su cui lavorare: avviare il programma "
-                           "con --database e la stringa di connessione."));
+        mostraMessaggio(u"Non è stato indicato l'archivio su cui lavorare: avviare il programma "
+                        "con --database e la stringa di connessione."_s);
 }
 
 Finestra::~Finestra() = default;
@@ -66,15 +66,14 @@ Finestra::~Finestra() = default;
 void Finestra::collega()
 {
     connect(mUi->azNuova, &QAction::triggered, this,
-            [this] { apri(QStringLiteral("Nuova giacenza"), [this] { mGiacenza->NuovaGiacenza(); }); });
+            [this] { apri(u"Nuova giacenza"_s, [this] { mGiacenza->NuovaGiacenza(); }); });
     connect(mUi->azGestione, &QAction::triggered, this,
-            [this] { apri(QStringLiteral("Gestione giacenze"), [this] { mGiacenza->ConsultaGiacenza(); }); });
+            [this] { apri(u"Gestione giacenze"_s, [this] { mGiacenza->ConsultaGiacenza(); }); });
     connect(mUi->azNuovaLdv, &QAction::triggered, this, &Finestra::apriPerLdv);
-    connect(mUi->azRiconsegna, &QAction::triggered, this, [this] {
-        apriRiconsegna(cGiacenza::ResoDestinatario, QStringLiteral("Riconsegna a destinatario"));
-    });
+    connect(mUi->azRiconsegna, &QAction::triggered, this,
+            [this] { apriRiconsegna(cGiacenza::ResoDestinatario, u"Riconsegna a destinatario"_s); });
     connect(mUi->azReso, &QAction::triggered, this,
-            [this] { apriRiconsegna(cGiacenza::ResoMittente, QStringLiteral("Reso a mittente")); });
+            [this] { apriRiconsegna(cGiacenza::ResoMittente, u"Reso a mittente"_s); });
     connect(mUi->azEsci, &QAction::triggered, this, &QWidget::close);
 
     const std::pair<QPushButton*, QAction*> pulsanti[] = {
@@ -103,15 +102,14 @@ void Finestra::apri(const QString& schermata, const std::function<void()>& apert
     nascondiMessaggio();
     try {
         apertura();
-        mUi->statusbar->showMessage(QStringLiteral("%1: schermata aperta.").arg(schermata));
+        mUi->statusbar->showMessage(u"%1: schermata aperta."_s.arg(schermata));
         return;
     } catch (const giacenza::ErroreDatabase& errore) {
         mostraMessaggio(spiega(errore));
     } catch (const std::exception& errore) {
-        mostraMessaggio(
-            QStringLiteral("La schermata non è stata aperta. %1").arg(QString::fromUtf8(errore.what())));
+        mostraMessaggio(u"La schermata non è stata aperta. %1"_s.arg(QString::fromUtf8(errore.what())));
     }
-    mUi->statusbar->showMessage(QStringLiteral("%1: schermata non aperta.").arg(schermata));
+    mUi->statusbar->showMessage(u"%1: schermata non aperta."_s.arg(schermata));
 }
 
 void Finestra::apriPerLdv()
@@ -120,7 +118,7 @@ void Finestra::apriPerLdv()
     const QString giorno = dataTypata(*mUi->txtDataLdv);
     const QString filiale = mUi->txtFiliale->text();
     const QString cliente = mUi->txtCliente->text();
-    apri(QStringLiteral("Nuova giacenza per la LDV %1").arg(numero),
+    apri(u"Nuova giacenza per la LDV %1"_s.arg(numero),
          [&] { mGiacenza->NuovaGiacenzaEXT(numero, giorno, filiale, cliente); });
 }
 
@@ -136,8 +134,8 @@ void Finestra::schermataChiusa()
 {
     if (mUscitaAnnunciata)
         nascondiMessaggio();
-    mUi->statusbar->showMessage(QStringLiteral("Schermata chiusa alle %1.")
-                                    .arg(QTime::currentTime().toString(QStringLiteral("HH:mm:ss"))));
+    mUi->statusbar->showMessage(
+        u"Schermata chiusa alle %1."_s.arg(QTime::currentTime().toString(u"HH:mm:ss"_s)));
 }
 
 void Finestra::mostraMessaggio(const QString& testo)
@@ -157,9 +155,8 @@ void Finestra::nascondiMessaggio()
 void Finestra::closeEvent(QCloseEvent* evento)
 {
     if (!mUscitaAnnunciata && altreFinestreAperte(this)) {
-        mostraMessaggio(
-            QStringLiteral("Ci sono schermate ancora aperte: uscendo si perde ciò che non è salvato. "
-                           "Per uscire lo stesso, chiudere di nuovo."));
+        mostraMessaggio(u"Ci sono schermate ancora aperte: uscendo si perde ciò che non è salvato. "
+                        "Per uscire lo stesso, chiudere di nuovo."_s);
         mUscitaAnnunciata = true;
         evento->ignore();
         return;

@@ -2,11 +2,13 @@
 
 #include <QApplication>
 
+using namespace Qt::StringLiterals;
+
 int main(int argc, char* argv[])
 {
     QApplication applicazione(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("deposito"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Gestione Trasporti"));
+    QApplication::setApplicationName(u"deposito"_s);
+    QApplication::setApplicationDisplayName(u"Gestione Trasporti"_s);
     QApplication::setQuitOnLastWindowClosed(false);
     deposito::parlaItaliano(applicazione);
 

@@ -7,26 +7,23 @@
 #include <QStandardPaths>
 #include <QTranslator>
 
+using namespace Qt::StringLiterals;
+
 namespace deposito {
 
 Opzioni leggiOpzioni(const QCoreApplication& applicazione)
 {
-    const QCommandLineOption aiuto({QStringLiteral("h"), QStringLiteral("help")},
-                                   QStringLiteral("Mostra queste righe."));
-    const QCommandLineOption database(QStringLiteral("database"),
-                                      QStringLiteral("Stringa di connessione ODBC dell'archivio."),
-                                      QStringLiteral("stringa"));
-    const QCommandLineOption ini(QStringLiteral("ini"), QStringLiteral("File delle impostazioni."),
-                                 QStringLiteral("file"),
+    const QCommandLineOption aiuto({u"h"_s, u"help"_s}, u"Mostra queste righe."_s);
+    const QCommandLineOption database(u"database"_s, u"Stringa di connessione ODBC dell'archivio."_s,
+                                      u"stringa"_s);
+    const QCommandLineOption ini(u"ini"_s, u"File delle impostazioni."_s, u"file"_s,
                                  QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                                     QStringLiteral("/giacenza/giacenza.ini"));
-    const QCommandLineOption logo(
-        QStringLiteral("logo"), QStringLiteral("Logo stampato in testa all'avviso di giacenza."),
-        QStringLiteral("file"), QCoreApplication::applicationDirPath() + QStringLiteral("/logo.gif"));
+                                     u"/giacenza/giacenza.ini"_s);
+    const QCommandLineOption logo(u"logo"_s, u"Logo stampato in testa all'avviso di giacenza."_s, u"file"_s,
+                                  QCoreApplication::applicationDirPath() + u"/logo.gif"_s);
 
     QCommandLineParser riga;
-    riga.setApplicationDescription(
-        QStringLiteral("Il programma del deposito: apre le schermate delle giacenze."));
+    riga.setApplicationDescription(u"Il programma del deposito: apre le schermate delle giacenze."_s);
     riga.addOptions({aiuto, database, ini, logo});
     riga.process(applicazione);
     if (riga.isSet(aiuto))
@@ -41,7 +38,7 @@ bool parlaItaliano(QCoreApplication& applicazione)
     const QLocale italiano(QLocale::Italian, QLocale::Italy);
     QLocale::setDefault(italiano);
     auto* traduzioni = new QTranslator(&applicazione);
-    return traduzioni->load(italiano, QStringLiteral("qtbase"), QStringLiteral("_"),
+    return traduzioni->load(italiano, u"qtbase"_s, u"_"_s,
                             QLibraryInfo::path(QLibraryInfo::TranslationsPath)) &&
            QCoreApplication::installTranslator(traduzioni);
 }

@@ -3,6 +3,8 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 namespace deposito {
 
 namespace {
@@ -10,13 +12,13 @@ namespace {
 QString causa(const QString& sqlstate)
 {
     if (sqlstate == u"28000")
-        return QStringLiteral("L'archivio non accetta il nome utente o la parola d'ordine.");
+        return u"L'archivio non accetta il nome utente o la parola d'ordine."_s;
     if (sqlstate == u"IM002" || sqlstate == u"IM003" || sqlstate == u"01000")
-        return QStringLiteral("Il driver ODBC indicato per l'archivio non è installato.");
+        return u"Il driver ODBC indicato per l'archivio non è installato."_s;
     if (sqlstate.startsWith(u"08"))
-        return QStringLiteral("L'archivio non è raggiungibile: controllare il server, la rete e il nome "
-                              "dell'archivio.");
-    return QStringLiteral("L'archivio ha risposto con un errore.");
+        return u"L'archivio non è raggiungibile: controllare il server, la rete e il nome "
+               "dell'archivio."_s;
+    return u"L'archivio ha risposto con un errore."_s;
 }
 
 QString campo(const QString& stringaConnessione, const QString& nome)
@@ -32,20 +34,19 @@ QString campo(const QString& stringaConnessione, const QString& nome)
 
 QString spiega(const giacenza::ErroreDatabase& errore)
 {
-    return QStringLiteral("La schermata non è stata aperta. %1\n\nRisposta dell'archivio: %2 (%3, %4)")
-        .arg(causa(errore.sqlstate()), errore.testo(), errore.sqlstate(),
-             QString::number(errore.codiceNativo()));
+    return u"La schermata non è stata aperta. %1\n\nRisposta dell'archivio: %2 (%3, %4)"_s.arg(
+        causa(errore.sqlstate()), errore.testo(), errore.sqlstate(), QString::number(errore.codiceNativo()));
 }
 
 QString nomeArchivio(const QString& stringaConnessione)
 {
-    const QString nome = campo(stringaConnessione, QStringLiteral("DATABASE"));
-    const QString server = campo(stringaConnessione, QStringLiteral("SERVER"));
+    const QString nome = campo(stringaConnessione, u"DATABASE"_s);
+    const QString server = campo(stringaConnessione, u"SERVER"_s);
     if (nome.isEmpty())
-        return campo(stringaConnessione, QStringLiteral("DSN"));
+        return campo(stringaConnessione, u"DSN"_s);
     if (server.isEmpty())
         return QFileInfo(nome).fileName();
-    return QStringLiteral("%1 su %2").arg(nome, server);
+    return u"%1 su %2"_s.arg(nome, server);
 }
 
 } // namespace deposito

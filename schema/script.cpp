@@ -3,15 +3,17 @@
 #include <QFile>
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza {
 
 namespace {
 
 QString testoRisorsa(const QString& nome)
 {
-    QFile file(QStringLiteral(":/schema/") + nome);
+    QFile file(u":/schema/"_s + nome);
     if (!file.open(QIODevice::ReadOnly))
-        throw Errore(QStringLiteral("Manca lo schema %1.").arg(nome));
+        throw Errore(u"Manca lo schema %1."_s.arg(nome));
     return QString::fromUtf8(file.readAll());
 }
 
@@ -24,9 +26,8 @@ QString traApici(QString nome, QChar apice)
 
 QStringList istruzioniScript(const QString& testo)
 {
-    static const QRegularExpression commento(QStringLiteral("^--.*\\n?"),
-                                             QRegularExpression::MultilineOption);
-    static const QRegularExpression fine(QStringLiteral(";\\s*$"), QRegularExpression::MultilineOption);
+    static const QRegularExpression commento(u"^--.*\\n?"_s, QRegularExpression::MultilineOption);
+    static const QRegularExpression fine(u";\\s*$"_s, QRegularExpression::MultilineOption);
     QStringList istruzioni;
     for (const QString& parte : QString(testo).remove(commento).split(fine)) {
         if (const QString istruzione = parte.trimmed(); !istruzione.isEmpty())
@@ -39,9 +40,9 @@ QStringList istruzioniSchema(Dialetto dialetto)
 {
     switch (dialetto) {
     case Dialetto::mariadb:
-        return istruzioniScript(testoRisorsa(QStringLiteral("mariadb.sql")));
+        return istruzioniScript(testoRisorsa(u"mariadb.sql"_s));
     case Dialetto::sqlite:
-        return istruzioniScript(testoRisorsa(QStringLiteral("sqlite.sql")));
+        return istruzioniScript(testoRisorsa(u"sqlite.sql"_s));
     case Dialetto::altro:
         break;
     }
@@ -51,10 +52,9 @@ QStringList istruzioniSchema(Dialetto dialetto)
 QStringList istruzioniPrivilegi(const QString& base, const QString& utente, const QString& host)
 {
     const QString conto = traApici(utente, u'\'') + u'@' + traApici(host, u'\'');
-    QStringList istruzioni = istruzioniScript(testoRisorsa(QStringLiteral("grants.sql")));
+    QStringList istruzioni = istruzioniScript(testoRisorsa(u"grants.sql"_s));
     for (QString& istruzione : istruzioni)
-        istruzione.replace(QLatin1String(":utente"), conto)
-            .replace(QLatin1String(":base"), traApici(base, u'`'));
+        istruzione.replace(":utente"_L1, conto).replace(":base"_L1, traApici(base, u'`'));
     return istruzioni;
 }
 

@@ -1,13 +1,15 @@
 // One run: the search from its opening until its first page is painted. The statement is made by the dialog;
 // the first argument only says which one is expected.
 
+#include "base/impostazioni.h"
+#include "base/messaggi.h"
 #include "benchmarks/quadro/esito.h"
-#include "component/impostazioni.h"
-#include "component/messaggi.h"
 #include "search/frmRicercaGia.h"
 #include "search/modelloricerca.h"
 
 #include <QApplication>
+
+using namespace Qt::StringLiterals;
 
 int main(int argc, char* argv[])
 {
@@ -22,8 +24,8 @@ int main(int argc, char* argv[])
     schermata.apri(giacenza::impostazioni().percorsoDatabase);
     giacenza::frmRicercaGia dialogo;
     dialogo.setTipoRicerca(giacenza::ModoRicerca::letteraVettura);
-    dialogo.setCodiceCliente(QStringLiteral("1001"));
-    dialogo.setFiliale(QStringLiteral("MI"));
+    dialogo.setCodiceCliente(u"1001"_s);
+    dialogo.setFiliale(u"MI"_s);
     const banco::Cronometro cronometro;
     dialogo.show();
     QApplication::processEvents();

@@ -1,8 +1,8 @@
 #include "benchmarks/quadro/temi.h"
 
 #include "data/istruzioniricerca.h"
-#include "data/transazione.h"
-#include "data/valori.h"
+#include "database/transazione.h"
+#include "database/valori.h"
 
 using namespace Qt::StringLiterals;
 using namespace giacenza;

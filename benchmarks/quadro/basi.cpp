@@ -1,6 +1,6 @@
 #include "benchmarks/quadro/basi.h"
 
-#include "data/recordset.h"
+#include "database/recordset.h"
 #include "schema/dati/struttura.h"
 #include "schema/script.h"
 

@@ -2,7 +2,7 @@
 
 #include "benchmarks/quadro/opzioni.h"
 
-#include "data/connessione.h"
+#include "database/connessione.h"
 
 #include <functional>
 

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 namespace banco {
 
 /// What was asked for on the command line.
@@ -15,7 +17,7 @@ struct Opzioni
     QString cartella;          ///< where databases are kept
     QString mariadb;           ///< connection string of an administrator, without a DATABASE
     QString relazione;         ///< the file to write
-    std::vector<QString> basi{QStringLiteral("sqlite"), QStringLiteral("mariadb")};
+    std::vector<QString> basi{u"sqlite"_s, u"mariadb"_s};
 };
 
 /// Throws giacenza::Errore, with a text in English, for what is not understood.

@@ -10,6 +10,8 @@
 #include <QPdfWriter>
 #include <QTemporaryDir>
 
+using namespace Qt::StringLiterals;
+
 using namespace banco;
 
 namespace {
@@ -19,7 +21,7 @@ constexpr double perMm = puntiPerPollice / 25.4;
 
 void scrivi(QPainter& pittore)
 {
-    QFont carattere(QStringLiteral("Liberation Sans"));
+    QFont carattere(u"Liberation Sans"_s);
     carattere.setHintingPreference(QFont::PreferNoHinting);
     for (const Scritta& scritta : scritte) {
         carattere.setPointSizeF(scritta.punti);
@@ -63,8 +65,8 @@ int main(int argc, char* argv[])
 {
     const QGuiApplication applicazione(argc, argv);
     const QStringList argomenti = QCoreApplication::arguments();
-    const QTemporaryDir cartella(argomenti.value(1) + QStringLiteral("/amano-XXXXXX"));
-    const QString percorso = cartella.filePath(QStringLiteral("avviso.pdf"));
+    const QTemporaryDir cartella(argomenti.value(1) + u"/amano-XXXXXX"_s);
+    const QString percorso = cartella.filePath(u"avviso.pdf"_s);
     const Cronometro cronometro;
     dipingi(percorso, argomenti.value(2));
     const double millisecondi = cronometro.millisecondi();

@@ -13,6 +13,8 @@
 
 #include <sys/resource.h>
 
+using namespace Qt::StringLiterals;
+
 using namespace banco;
 
 namespace {
@@ -34,20 +36,18 @@ QByteArray lettera(const QString& logo)
     QFile immagine(logo);
     if (immagine.open(QIODevice::ReadOnly))
         testo += QString::fromLatin1(immagine.readAll().toBase64());
-    testo += QStringLiteral("</office:binary-data></draw:image></draw:frame></text:p>\n");
+    testo += u"</office:binary-data></draw:image></draw:frame></text:p>\n"_s;
     for (const Scritta& scritta : scritte)
-        testo +=
-            QStringLiteral("<text:p>%1</text:p>\n").arg(QString::fromUtf16(scritta.testo).toHtmlEscaped());
-    return (testo + QStringLiteral("</office:text></office:body></office:document>\n")).toUtf8();
+        testo += u"<text:p>%1</text:p>\n"_s.arg(QString::fromUtf16(scritta.testo).toHtmlEscaped());
+    return (testo + u"</office:text></office:body></office:document>\n"_s).toUtf8();
 }
 
 bool converti(const QString& documento, const QString& cartella, const QString& profilo)
 {
     QProcess processo;
-    processo.start(QStringLiteral("soffice"),
-                   {QStringLiteral("-env:UserInstallation=") + QUrl::fromLocalFile(profilo).toString(),
-                    QStringLiteral("--headless"), QStringLiteral("--convert-to"), QStringLiteral("pdf"),
-                    QStringLiteral("--outdir"), cartella, documento});
+    processo.start(u"soffice"_s,
+                   {u"-env:UserInstallation="_s + QUrl::fromLocalFile(profilo).toString(), u"--headless"_s,
+                    u"--convert-to"_s, u"pdf"_s, u"--outdir"_s, cartella, documento});
     if (processo.waitForFinished(-1) && processo.exitCode() == 0)
         return true;
     std::fprintf(stderr, "soffice: %s %s\n", qPrintable(processo.errorString()),
@@ -61,18 +61,18 @@ int main(int argc, char* argv[])
 {
     const QCoreApplication applicazione(argc, argv);
     const QString base = QFileInfo(QCoreApplication::arguments().value(1)).absoluteFilePath();
-    const QTemporaryDir cartella(base + QStringLiteral("/lettera-XXXXXX"));
-    QFile documento(cartella.filePath(QStringLiteral("avviso.fodt")));
+    const QTemporaryDir cartella(base + u"/lettera-XXXXXX"_s);
+    QFile documento(cartella.filePath(u"avviso.fodt"_s));
     const QByteArray testo = lettera(QCoreApplication::arguments().value(2));
     if (!documento.open(QIODevice::WriteOnly) || documento.write(testo) != testo.size())
         return EXIT_FAILURE;
     documento.close();
     const Cronometro cronometro;
-    if (!converti(documento.fileName(), cartella.path(), base + QStringLiteral("/libreoffice")))
+    if (!converti(documento.fileName(), cartella.path(), base + u"/libreoffice"_s))
         return EXIT_FAILURE;
     const double millisecondi = cronometro.millisecondi();
     rusage uso{};
     getrusage(RUSAGE_CHILDREN, &uso);
-    return stampaEsito(millisecondi, QFile::exists(cartella.filePath(QStringLiteral("avviso.pdf"))) ? 1 : 0,
-                       1, uso.ru_maxrss);
+    return stampaEsito(millisecondi, QFile::exists(cartella.filePath(u"avviso.pdf"_s)) ? 1 : 0, 1,
+                       uso.ru_maxrss);
 }

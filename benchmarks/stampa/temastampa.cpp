@@ -1,6 +1,6 @@
 #include "benchmarks/quadro/temi.h"
 
-#include "data/transazione.h"
+#include "database/transazione.h"
 
 using namespace Qt::StringLiterals;
 using namespace giacenza;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "data/connessione.h"
-#include "data/valori.h"
+#include "database/connessione.h"
+#include "database/valori.h"
 
 #include <vector>
 

@@ -4,9 +4,11 @@
 
 #include <QDir>
 
+using namespace Qt::StringLiterals;
+
 QStringList documenti(const QString& cartella)
 {
-    return QDir(cartella).entryList({QStringLiteral("*.pdf")}, QDir::Files);
+    return QDir(cartella).entryList({u"*.pdf"_s}, QDir::Files);
 }
 
 QString documentoNuovo(const QString& chiave, const QString& cartella, const QStringList& prima)
@@ -15,5 +17,5 @@ QString documentoNuovo(const QString& chiave, const QString& cartella, const QSt
     for (const QString& nome : adesso)
         if (nome.startsWith(chiave) && !prima.contains(nome))
             return nome;
-    throw Imprevisto(QStringLiteral("manca il documento %1").arg(chiave));
+    throw Imprevisto(u"manca il documento %1"_s.arg(chiave));
 }

@@ -9,6 +9,8 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QtMessageHandler diPrima = nullptr;
@@ -16,7 +18,7 @@ QtMessageHandler diPrima = nullptr;
 /// The platform without a display says at every window what it cannot do; everything else is passed on.
 void senzaRumore(QtMsgType tipo, const QMessageLogContext& contesto, const QString& testo)
 {
-    if (!testo.startsWith(QLatin1String("This plugin does not support")))
+    if (!testo.startsWith("This plugin does not support"_L1))
         diPrima(tipo, contesto, testo);
 }
 
@@ -24,14 +26,14 @@ int racconta(const QString& cartella, const QString& database)
 {
     giacenza::cGiacenza componente;
     componente.setPercorsoDatabase(database);
-    componente.setPercorsoFileIni(QDir(cartella).filePath(QStringLiteral("giacenza.ini")));
+    componente.setPercorsoFileIni(QDir(cartella).filePath(u"giacenza.ini"_s));
     componente.setPercorsoLogoIntestazione(QCoreApplication::applicationDirPath());
     Regista regista(cartella);
     Archivio archivio(database);
     raccontaRegistrazione(regista, componente, archivio, cartella);
     raccontaGestione(regista, componente, archivio, cartella);
     raccontaRiconsegna(regista, componente, archivio, cartella);
-    regista.passo(QStringLiteral("Fatto: le righe attese sono in archivio."));
+    regista.passo(u"Fatto: le righe attese sono in archivio."_s);
     return 0;
 }
 
@@ -44,16 +46,14 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     diPrima = qInstallMessageHandler(senzaRumore);
     QApplication applicazione(argc, argv);
-    QApplication::setApplicationDisplayName(QStringLiteral("Gestione Trasporti"));
+    QApplication::setApplicationDisplayName(u"Gestione Trasporti"_s);
     QCommandLineParser opzioni;
-    opzioni.addOptions(
-        {{QStringLiteral("cartella"), QStringLiteral("Dove restano immagini e documenti."),
-          QStringLiteral("cartella")},
-         {QStringLiteral("database"), QStringLiteral("Stringa di connessione."), QStringLiteral("stringa")}});
+    opzioni.addOptions({{u"cartella"_s, u"Dove restano immagini e documenti."_s, u"cartella"_s},
+                        {u"database"_s, u"Stringa di connessione."_s, u"stringa"_s}});
     opzioni.addHelpOption();
     opzioni.process(applicazione);
     try {
-        return racconta(opzioni.value(QStringLiteral("cartella")), opzioni.value(QStringLiteral("database")));
+        return racconta(opzioni.value(u"cartella"_s), opzioni.value(u"database"_s));
     } catch (const std::exception& errore) {
         std::fprintf(stderr, "La dimostrazione si è fermata: %s\n", errore.what());
         return 1;

@@ -8,6 +8,8 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int pazienza = 10'000;
@@ -29,9 +31,9 @@ void Regista::passo(const QString& testo)
 void Regista::fotografa(QWidget* finestra, const QString& nome)
 {
     QCoreApplication::processEvents();
-    const QString file = QStringLiteral("%1-%2.png").arg(++mFoto, 2, 10, QLatin1Char('0')).arg(nome);
+    const QString file = u"%1-%2.png"_s.arg(++mFoto, 2, 10, QChar(u'0')).arg(nome);
     verifica(finestra->grab().save(QDir(mCartella).filePath(file)),
-             QStringLiteral("l'immagine %1 non è stata scritta").arg(file));
+             u"l'immagine %1 non è stata scritta"_s.arg(file));
 }
 
 QWidget* Regista::finestra(const QString& nome)
@@ -45,14 +47,14 @@ QWidget* Regista::finestra(const QString& nome)
                     trovata = candidata;
             return trovata != nullptr;
         },
-        QStringLiteral("la finestra %1 non si è aperta").arg(nome));
+        u"la finestra %1 non si è aperta"_s.arg(nome));
     return trovata;
 }
 
 QWidget* Regista::controllo(QWidget* finestra, const QString& nome)
 {
     auto* trovato = finestra->findChild<QWidget*>(nome);
-    verifica(trovato, QStringLiteral("in %1 manca %2").arg(finestra->objectName(), nome));
+    verifica(trovato, u"in %1 manca %2"_s.arg(finestra->objectName(), nome));
     return trovato;
 }
 
@@ -62,7 +64,7 @@ QString Regista::testo(QWidget* finestra, const QString& nome)
     for (const char* proprieta : {"text", "plainText", "currentText"})
         if (const QVariant valore = dove->property(proprieta); valore.isValid())
             return valore.toString();
-    throw Imprevisto(QStringLiteral("%1 non ha un testo").arg(nome));
+    throw Imprevisto(u"%1 non ha un testo"_s.arg(nome));
 }
 
 void Regista::scrive(QWidget* finestra, const QString& nome, const QString& testo)
@@ -79,7 +81,7 @@ void Regista::preme(QWidget* destinatario, Qt::Key tasto, Qt::KeyboardModifiers 
     // Without a window manager nobody gives the window its focus back when a box over it has closed.
     destinatario->activateWindow();
     attende([&] { return destinatario->isActiveWindow(); },
-            QStringLiteral("la finestra di %1 non è attiva").arg(destinatario->objectName()));
+            u"la finestra di %1 non è attiva"_s.arg(destinatario->objectName()));
     QTest::keyClick(destinatario, tasto, modificatori);
     QCoreApplication::processEvents();
 }
@@ -87,11 +89,11 @@ void Regista::preme(QWidget* destinatario, Qt::Key tasto, Qt::KeyboardModifiers 
 void Regista::scorre(QWidget* elenco, const std::function<bool(const QModelIndex&)>& voluta)
 {
     auto* vista = qobject_cast<QAbstractItemView*>(elenco);
-    verifica(vista && vista->model(), QStringLiteral("non c'è un elenco"));
+    verifica(vista && vista->model(), u"non c'è un elenco"_s);
     // A list takes no row that only has the focus: the first arrow marks it.
     const auto scelta = [vista] { return vista->selectionModel()->isSelected(vista->currentIndex()); };
     for (int passi = 0; !scelta() || !voluta(vista->currentIndex()); ++passi) {
-        verifica(passi < 2'000, QStringLiteral("la riga cercata non è nell'elenco"));
+        verifica(passi < 2'000, u"la riga cercata non è nell'elenco"_s);
         preme(elenco, Qt::Key_Down);
     }
 }
@@ -111,8 +113,8 @@ void Regista::rispondendo(const std::function<void()>& azione, std::deque<Rispos
     // What an action starts may be queued behind it.
     if (mFallito.isEmpty() && !mRisposte.empty())
         attende([this] { return mRisposte.empty() || !mFallito.isEmpty(); },
-                QStringLiteral("si attendeva ancora una finestra di dialogo"));
-    attende([] { return !QApplication::activeModalWidget(); }, QStringLiteral("un dialogo è rimasto aperto"));
+                u"si attendeva ancora una finestra di dialogo"_s);
+    attende([] { return !QApplication::activeModalWidget(); }, u"un dialogo è rimasto aperto"_s);
     mSguardo.stop();
     if (!mFallito.isEmpty())
         throw Imprevisto(std::exchange(mFallito, {}));
@@ -126,7 +128,7 @@ void Regista::guardaDialoghi()
     if (dialogo == mRisposto) {
         // An answer that did not close its dialog would keep the action waiting for ever.
         if (mDaQuando.hasExpired(pazienza)) {
-            mFallito = QStringLiteral("la finestra %1 è rimasta aperta").arg(dialogo->objectName());
+            mFallito = u"la finestra %1 è rimasta aperta"_s.arg(dialogo->objectName());
             mRisposte.clear();
             dialogo->close();
         }
@@ -141,8 +143,8 @@ void Regista::guardaDialoghi()
             mRisposto = nullptr;
     });
     if (mRisposte.empty()) {
-        mFallito = QStringLiteral("si è aperta una finestra inattesa: %1 %2")
-                       .arg(dialogo->objectName(), dialogo->property("text").toString());
+        mFallito = u"si è aperta una finestra inattesa: %1 %2"_s.arg(dialogo->objectName(),
+                                                                     dialogo->property("text").toString());
         dialogo->close();
         return;
     }
@@ -161,10 +163,9 @@ Regista::Risposta Regista::messaggio(const QString& testo, Qt::Key tasto)
 {
     return [this, testo, tasto](QWidget* dialogo) {
         const QString mostrato = dialogo->property("text").toString();
-        fotografa(dialogo, QStringLiteral("messaggio"));
-        verifica(mostrato == testo,
-                 QStringLiteral("messaggio inatteso: \"%1\" al posto di \"%2\"").arg(mostrato, testo));
-        passo(QStringLiteral("    messaggio: %1").arg(mostrato));
+        fotografa(dialogo, u"messaggio"_s);
+        verifica(mostrato == testo, u"messaggio inatteso: \"%1\" al posto di \"%2\""_s.arg(mostrato, testo));
+        passo(u"    messaggio: %1"_s.arg(mostrato));
         QTest::keyClick(dialogo, tasto);
     };
 }

@@ -4,6 +4,8 @@
 
 #include <QModelIndex>
 
+using namespace Qt::StringLiterals;
+
 using namespace giacenza;
 
 namespace {
@@ -11,96 +13,91 @@ namespace {
 void digitata(Regista& regista, cGiacenza& componente, Archivio& archivio, const Spedizione& s,
               const QString& cartella)
 {
-    regista.passo(QStringLiteral("Registrazione di una giacenza dalla LDV %1 del %2").arg(s.numero, s.data));
+    regista.passo(u"Registrazione di una giacenza dalla LDV %1 del %2"_s.arg(s.numero, s.data));
     componente.NuovaGiacenza();
-    QWidget* schermata = regista.finestra(QStringLiteral("frmGiacenza"));
-    regista.fotografa(schermata, QStringLiteral("registrazione-vuota"));
+    QWidget* schermata = regista.finestra(u"frmGiacenza"_s);
+    regista.fotografa(schermata, u"registrazione-vuota"_s);
 
-    regista.scrive(schermata, QStringLiteral("txtCodiceCli"), s.cliente);
-    regista.preme(Regista::controllo(schermata, QStringLiteral("txtCodiceCli")), Qt::Key_Tab);
-    regista.passo(QStringLiteral("  Cliente %1: %2")
-                      .arg(s.cliente, Regista::testo(schermata, QStringLiteral("barCliente"))));
-    regista.scrive(schermata, QStringLiteral("txtFiliale"), s.filiale);
-    regista.scrive(schermata, QStringLiteral("txtLDV"), s.numero);
-    regista.scrive(schermata, QStringLiteral("txtDataLdv"), QString(s.data).remove(QLatin1Char('/')));
-    regista.preme(Regista::controllo(schermata, QStringLiteral("txtDataLdv")), Qt::Key_Tab);
-    Regista::verifica(Regista::testo(schermata, QStringLiteral("txtDestinatario")) == s.destinatario,
-                      QStringLiteral("la LDV %1 non è stata trovata").arg(s.numero));
-    regista.fotografa(schermata, QStringLiteral("ldv-trovata"));
-    regista.passo(QStringLiteral("  Trovata: destinatario %1").arg(s.destinatario));
+    regista.scrive(schermata, u"txtCodiceCli"_s, s.cliente);
+    regista.preme(Regista::controllo(schermata, u"txtCodiceCli"_s), Qt::Key_Tab);
+    regista.passo(u"  Cliente %1: %2"_s.arg(s.cliente, Regista::testo(schermata, u"barCliente"_s)));
+    regista.scrive(schermata, u"txtFiliale"_s, s.filiale);
+    regista.scrive(schermata, u"txtLDV"_s, s.numero);
+    regista.scrive(schermata, u"txtDataLdv"_s, QString(s.data).remove(u'/'));
+    regista.preme(Regista::controllo(schermata, u"txtDataLdv"_s), Qt::Key_Tab);
+    Regista::verifica(Regista::testo(schermata, u"txtDestinatario"_s) == s.destinatario,
+                      u"la LDV %1 non è stata trovata"_s.arg(s.numero));
+    regista.fotografa(schermata, u"ldv-trovata"_s);
+    regista.passo(u"  Trovata: destinatario %1"_s.arg(s.destinatario));
 
-    regista.scrive(schermata, QStringLiteral("txtFilialeGia"), s.filiale);
-    regista.scrive(schermata, QStringLiteral("txtDescGia"),
-                   QStringLiteral("Destinatario assente, negozio chiuso"));
-    regista.fotografa(schermata, QStringLiteral("compilata"));
+    regista.scrive(schermata, u"txtFilialeGia"_s, s.filiale);
+    regista.scrive(schermata, u"txtDescGia"_s, u"Destinatario assente, negozio chiuso"_s);
+    regista.fotografa(schermata, u"compilata"_s);
     salvaEVerifica(regista, archivio, schermata, s, cartella);
 
-    regista.passo(QStringLiteral("  Ancora Alt+S: la spedizione è già in giacenza"));
-    regista.rispondendo(
-        [&] { regista.preme(schermata, Qt::Key_S, Qt::AltModifier); },
-        {regista.messaggio(QStringLiteral("Giacenza esistente impossibile inserirla in database."))});
+    regista.passo(u"  Ancora Alt+S: la spedizione è già in giacenza"_s);
+    regista.rispondendo([&] { regista.preme(schermata, Qt::Key_S, Qt::AltModifier); },
+                        {regista.messaggio(u"Giacenza esistente impossibile inserirla in database."_s)});
     regista.preme(schermata, Qt::Key_E, Qt::AltModifier);
 }
 
 void consegnata(Regista& regista, cGiacenza& componente, Archivio& archivio, const Spedizione& s,
                 const QString& cartella)
 {
-    regista.passo(
-        QStringLiteral("Registrazione dalla LDV %1 consegnata dal programma del deposito").arg(s.numero));
+    regista.passo(u"Registrazione dalla LDV %1 consegnata dal programma del deposito"_s.arg(s.numero));
     componente.NuovaGiacenzaEXT(s.numero, s.data, s.filiale, s.cliente);
-    QWidget* schermata = regista.finestra(QStringLiteral("frmGiacenza"));
-    Regista::attende(
-        [&] { return Regista::testo(schermata, QStringLiteral("txtDestinatario")) == s.destinatario; },
-        QStringLiteral("la LDV %1 non è stata trovata").arg(s.numero));
-    regista.scrive(schermata, QStringLiteral("txtDescGia"), QStringLiteral("Indirizzo sconosciuto"));
-    regista.fotografa(schermata, QStringLiteral("consegnata"));
+    QWidget* schermata = regista.finestra(u"frmGiacenza"_s);
+    Regista::attende([&] { return Regista::testo(schermata, u"txtDestinatario"_s) == s.destinatario; },
+                     u"la LDV %1 non è stata trovata"_s.arg(s.numero));
+    regista.scrive(schermata, u"txtDescGia"_s, u"Indirizzo sconosciuto"_s);
+    regista.fotografa(schermata, u"consegnata"_s);
     salvaEVerifica(regista, archivio, schermata, s, cartella);
-    regista.clicca(schermata, QStringLiteral("cmdEsci"));
+    regista.clicca(schermata, u"cmdEsci"_s);
 }
 
 void cercata(Regista& regista, cGiacenza& componente, Archivio& archivio, const Spedizione& s,
              const QString& cartella)
 {
     const QString nome =
-        archivio.valore(QStringLiteral("select RagioneSociale from clien where Codice=%1").arg(s.cliente));
-    regista.passo(QStringLiteral("Registrazione cercando il cliente per nome e la LDV nell'elenco"));
+        archivio.valore(u"select RagioneSociale from clien where Codice=%1"_s.arg(s.cliente));
+    regista.passo(u"Registrazione cercando il cliente per nome e la LDV nell'elenco"_s);
     componente.NuovaGiacenza();
-    QWidget* schermata = regista.finestra(QStringLiteral("frmGiacenza"));
-    regista.rispondendo(
-        [&] { regista.clicca(schermata, QStringLiteral("cmdCercaCliente")); }, {[&](QWidget* dialogo) {
-            regista.clicca(dialogo, QStringLiteral("optRagSoc"));
-            regista.scrive(dialogo, QStringLiteral("txtCerca"), nome.section(QLatin1Char(' '), 0, 0));
-            regista.preme(Regista::controllo(dialogo, QStringLiteral("txtCerca")), Qt::Key_Return);
-            QWidget* elenco = Regista::controllo(dialogo, QStringLiteral("lstCerca"));
-            elenco->setFocus();
-            regista.scorre(elenco, [&](const QModelIndex& riga) { return riga.data() == nome; });
-            regista.fotografa(dialogo, QStringLiteral("ricerca-cliente"));
-            regista.preme(elenco, Qt::Key_Return);
-        }});
-    Regista::verifica(Regista::testo(schermata, QStringLiteral("txtCodiceCli")) == s.cliente,
-                      QStringLiteral("il cliente %1 non è stato preso").arg(nome));
-    regista.passo(QStringLiteral("  Cliente %1: %2").arg(s.cliente, nome));
+    QWidget* schermata = regista.finestra(u"frmGiacenza"_s);
+    regista.rispondendo([&] { regista.clicca(schermata, u"cmdCercaCliente"_s); }, {[&](QWidget* dialogo) {
+                            regista.clicca(dialogo, u"optRagSoc"_s);
+                            regista.scrive(dialogo, u"txtCerca"_s, nome.section(u' ', 0, 0));
+                            regista.preme(Regista::controllo(dialogo, u"txtCerca"_s), Qt::Key_Return);
+                            QWidget* elenco = Regista::controllo(dialogo, u"lstCerca"_s);
+                            elenco->setFocus();
+                            regista.scorre(elenco,
+                                           [&](const QModelIndex& riga) { return riga.data() == nome; });
+                            regista.fotografa(dialogo, u"ricerca-cliente"_s);
+                            regista.preme(elenco, Qt::Key_Return);
+                        }});
+    Regista::verifica(Regista::testo(schermata, u"txtCodiceCli"_s) == s.cliente,
+                      u"il cliente %1 non è stato preso"_s.arg(nome));
+    regista.passo(u"  Cliente %1: %2"_s.arg(s.cliente, nome));
 
-    regista.scrive(schermata, QStringLiteral("txtFiliale"), s.filiale);
-    regista.scrive(schermata, QStringLiteral("txtLDV"), s.numero.left(1));
-    regista.scrive(schermata, QStringLiteral("txtDataLdv"), QString(s.data).remove(QLatin1Char('/')));
-    regista.rispondendo(
-        [&] { regista.preme(Regista::controllo(schermata, QStringLiteral("txtDataLdv")), Qt::Key_F9); },
-        {[&](QWidget* dialogo) {
-            QWidget* griglia = Regista::controllo(dialogo, QStringLiteral("Griglia"));
-            griglia->setFocus();
-            regista.scorre(griglia, [&](const QModelIndex& riga) {
-                return riga.siblingAtColumn(0).data() == s.numero && riga.siblingAtColumn(1).data() == s.data;
-            });
-            regista.fotografa(dialogo, QStringLiteral("ricerca-ldv"));
-            regista.preme(griglia, Qt::Key_Return);
-        }});
-    Regista::verifica(Regista::testo(schermata, QStringLiteral("txtDestinatario")) == s.destinatario,
-                      QStringLiteral("la LDV %1 non è stata presa dall'elenco").arg(s.numero));
-    regista.passo(QStringLiteral("  Scelta la LDV %1 del %2").arg(s.numero, s.data));
-    regista.scrive(schermata, QStringLiteral("txtDescGia"), QStringLiteral("Merce rifiutata"));
+    regista.scrive(schermata, u"txtFiliale"_s, s.filiale);
+    regista.scrive(schermata, u"txtLDV"_s, s.numero.left(1));
+    regista.scrive(schermata, u"txtDataLdv"_s, QString(s.data).remove(u'/'));
+    regista.rispondendo([&] { regista.preme(Regista::controllo(schermata, u"txtDataLdv"_s), Qt::Key_F9); },
+                        {[&](QWidget* dialogo) {
+                            QWidget* griglia = Regista::controllo(dialogo, u"Griglia"_s);
+                            griglia->setFocus();
+                            regista.scorre(griglia, [&](const QModelIndex& riga) {
+                                return riga.siblingAtColumn(0).data() == s.numero &&
+                                       riga.siblingAtColumn(1).data() == s.data;
+                            });
+                            regista.fotografa(dialogo, u"ricerca-ldv"_s);
+                            regista.preme(griglia, Qt::Key_Return);
+                        }});
+    Regista::verifica(Regista::testo(schermata, u"txtDestinatario"_s) == s.destinatario,
+                      u"la LDV %1 non è stata presa dall'elenco"_s.arg(s.numero));
+    regista.passo(u"  Scelta la LDV %1 del %2"_s.arg(s.numero, s.data));
+    regista.scrive(schermata, u"txtDescGia"_s, u"Merce rifiutata"_s);
     salvaEVerifica(regista, archivio, schermata, s, cartella);
-    regista.clicca(schermata, QStringLiteral("cmdEsci"));
+    regista.clicca(schermata, u"cmdEsci"_s);
 }
 
 } // namespace
@@ -112,13 +109,10 @@ void raccontaRegistrazione(Regista& regista, cGiacenza& componente, Archivio& ar
     QObject::connect(&componente, &cGiacenza::fine, &regista, [&chiusure] { ++chiusure; });
     const auto libere = spedizioniLibere(archivio);
     digitata(regista, componente, archivio, libere[0], cartella);
-    Regista::attende([&] { return chiusure == 1; },
-                     QStringLiteral("la chiusura della schermata non è stata annunciata"));
+    Regista::attende([&] { return chiusure == 1; }, u"la chiusura della schermata non è stata annunciata"_s);
     consegnata(regista, componente, archivio, libere[1], cartella);
-    Regista::attende([&] { return chiusure == 2; },
-                     QStringLiteral("la chiusura della schermata non è stata annunciata"));
+    Regista::attende([&] { return chiusure == 2; }, u"la chiusura della schermata non è stata annunciata"_s);
     cercata(regista, componente, archivio, libere[2], cartella);
-    Regista::attende([&] { return chiusure == 3; },
-                     QStringLiteral("la chiusura della schermata non è stata annunciata"));
+    Regista::attende([&] { return chiusure == 3; }, u"la chiusura della schermata non è stata annunciata"_s);
     QObject::disconnect(&componente, &cGiacenza::fine, &regista, nullptr);
 }

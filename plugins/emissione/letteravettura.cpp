@@ -1,12 +1,12 @@
 #include "emissione/letteravettura.h"
 
 #include "data/istruzioni.h"
-#include "data/recordset.h"
-#include "reports/blocchi.h"
-#include "reports/composizione.h"
-#include "reports/documentoreport.h"
-#include "reports/formati.h"
-#include "reports/logo.h"
+#include "database/recordset.h"
+#include "reports/engine/composizione.h"
+#include "reports/engine/documentoreport.h"
+#include "reports/engine/formati.h"
+#include "reports/engine/logo.h"
+#include "reports/letters/blocchi.h"
 
 using namespace Qt::StringLiterals;
 

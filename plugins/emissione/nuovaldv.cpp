@@ -1,9 +1,9 @@
 #include "emissione/nuovaldv.h"
 
 #include "data/riconsegne.h"
-#include "data/transazione.h"
-#include "data/valori.h"
-#include "reports/formati.h"
+#include "database/transazione.h"
+#include "database/valori.h"
+#include "reports/engine/formati.h"
 
 using namespace Qt::StringLiterals;
 

@@ -7,6 +7,8 @@
 #include <QKeyEvent>
 #include <QSortFilterProxyModel>
 
+using namespace Qt::StringLiterals;
+
 frmRicercaTabella::frmRicercaTabella(std::unique_ptr<RigheTabella> righe, const QString& titolo,
                                      QWidget* parent)
     : QDialog(parent), mUi(std::make_unique<Ui::frmRicercaTabella>()), mRighe(std::move(righe)),
@@ -66,11 +68,11 @@ void frmRicercaTabella::aggiornaStato()
     const bool vuota = mFiltrate->rowCount() == 0;
     mUi->cmdSeleziona->setEnabled(!vuota);
     if (!mInterruzione.isEmpty())
-        mUi->lblStato->setText(QStringLiteral("La lettura si è interrotta: %1").arg(mInterruzione));
+        mUi->lblStato->setText(u"La lettura si è interrotta: %1"_s.arg(mInterruzione));
     else if (vuota)
         mUi->lblStato->setText(mUi->txtFiltro->text().isEmpty()
-                                   ? QStringLiteral("L'elenco è vuoto.")
-                                   : QStringLiteral("Nessuna riga contiene il testo scritto."));
+                                   ? u"L'elenco è vuoto."_s
+                                   : u"Nessuna riga contiene il testo scritto."_s);
     else
         mUi->lblStato->clear();
 }

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::dimostrazione {
 
 namespace {
@@ -21,7 +23,7 @@ Condizioni nuoveCondizioni(int cliente)
 QString sedeSociale(const Comune& comune, Caso& caso)
 {
     return comune.cap == comuneFiliale(comune.filiale).cap ? indirizzo(caso)
-                                                           : indirizzo(caso) + QStringLiteral(" - zona ind.");
+                                                           : indirizzo(caso) + u" - zona ind."_s;
 }
 
 } // namespace
@@ -68,7 +70,7 @@ std::vector<Cliente> clienti(int spedizioni)
 
 QString codiceFiliale(int filiale)
 {
-    return QStringLiteral("%1").arg(filiale + 1, 2, 10, QLatin1Char('0'));
+    return u"%1"_s.arg(filiale + 1, 2, 10, QChar(u'0'));
 }
 
 QString codiceZona(int filiale, bool citta)
@@ -106,10 +108,10 @@ std::vector<Riga> righeZone()
 
 std::vector<Riga> righePorto()
 {
-    return {{QStringLiteral("1"), QStringLiteral("Franco")},
-            {QStringLiteral("2"), QStringLiteral("Assegnato")},
-            {QStringLiteral("3"), QStringLiteral("Reso al mittente")},
-            {QStringLiteral("4"), QStringLiteral("Franco con addebito")}};
+    return {{u"1"_s, u"Franco"_s},
+            {u"2"_s, u"Assegnato"_s},
+            {u"3"_s, u"Reso al mittente"_s},
+            {u"4"_s, u"Franco con addebito"_s}};
 }
 
 std::vector<Riga> righeFornitori()
@@ -141,7 +143,7 @@ std::vector<Riga> righeFatturazione(const std::vector<Cliente>& clienti)
     for (const Cliente& c : clienti) {
         if (!c.condizioni)
             continue;
-        righe.push_back({QStringLiteral("C"), QString::number(c.codice), c.mpe, QStringLiteral("22"),
+        righe.push_back({u"C"_s, QString::number(c.codice), c.mpe, u"22"_s,
                          testoDecimale(c.condizioni->fisso, 4), QString::number(c.condizioni->franchi),
                          testoDecimale(c.condizioni->giornaliero, 4),
                          testoDecimale(c.condizioni->minimo, 4)});

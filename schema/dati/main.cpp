@@ -1,10 +1,12 @@
-#include "data/valori.h"
+#include "database/valori.h"
 #include "schema/dati/opzioni.h"
 
 #include <QElapsedTimer>
 #include <QLocale>
 
 #include <cstdio>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -41,8 +43,8 @@ Avanzamento racconto()
         if (ultima.elapsed() < millisecondi)
             return;
         ultima.restart();
-        scrivi(stderr, QStringLiteral("Righe scritte: %1 di %2 (%3%)\n")
-                           .arg(cifra(fatte), cifra(totali), cifra(fatte * 100 / totali)));
+        scrivi(stderr, u"Righe scritte: %1 di %2 (%3%)\n"_s.arg(cifra(fatte), cifra(totali),
+                                                                cifra(fatte * 100 / totali)));
     };
 }
 
@@ -53,9 +55,9 @@ Uscita genera(const Opzioni& opzioni)
     Connessione connessione;
     connessione.apri(opzioni.stringa, {.comando = secondiLavoro});
     const Riepilogo riepilogo = riempi(connessione, opzioni.richiesta, racconto());
-    scrivi(stdout, QStringLiteral("Creati %1 clienti, %2 spedizioni e %3 giacenze fino al %4.\n")
-                       .arg(cifra(riepilogo.clienti), cifra(riepilogo.spedizioni), cifra(riepilogo.giacenze),
-                            dataBreve(opzioni.richiesta.oggi)));
+    scrivi(stdout, u"Creati %1 clienti, %2 spedizioni e %3 giacenze fino al %4.\n"_s.arg(
+                       cifra(riepilogo.clienti), cifra(riepilogo.spedizioni), cifra(riepilogo.giacenze),
+                       dataBreve(opzioni.richiesta.oggi)));
     return fatto;
 }
 
@@ -70,7 +72,7 @@ int main(int argc, char* argv[])
     try {
         opzioni = leggiOpzioni(argomenti, QDate::currentDate());
     } catch (const Errore& errore) {
-        scrivi(stderr, errore.testo() + QStringLiteral(" L'uso si legge con genera-dati --aiuto\n"));
+        scrivi(stderr, errore.testo() + u" L'uso si legge con genera-dati --aiuto\n"_s);
         return comandoErrato;
     }
     if (opzioni.aiuto) {
@@ -80,12 +82,11 @@ int main(int argc, char* argv[])
     try {
         return genera(opzioni);
     } catch (const Rifiuto& rifiuto) {
-        scrivi(stderr, rifiuto.testo() + QStringLiteral(" Non è stato scritto nulla.\n"));
+        scrivi(stderr, rifiuto.testo() + u" Non è stato scritto nulla.\n"_s);
         return rifiutato;
     } catch (const ErroreDatabase& errore) {
-        scrivi(stderr,
-               QStringLiteral("I dati non sono stati creati: il database ha risposto con l'errore %1.\n%2\n")
-                   .arg(errore.sqlstate(), errore.testo()));
+        scrivi(stderr, u"I dati non sono stati creati: il database ha risposto con l'errore %1.\n%2\n"_s.arg(
+                           errore.sqlstate(), errore.testo()));
         return databaseInErrore;
     }
 }

@@ -2,6 +2,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::dimostrazione {
 
 namespace {
@@ -143,7 +145,7 @@ QString nomeDestinatario(Caso& caso)
 QString indirizzo(Caso& caso)
 {
     const QStringView via = caso.uno(vie);
-    return QStringLiteral("%1, %2").arg(via).arg(caso.tra(1, 180));
+    return u"%1, %2"_s.arg(via).arg(caso.tra(1, 180));
 }
 
 QString naturaMerce(Caso& caso)
@@ -163,8 +165,7 @@ QString motivoGiacenza(Caso& caso)
 
 QString partitaIva(int azienda, int ufficio)
 {
-    QString numero =
-        QStringLiteral("%1%2").arg(azienda, 7, 10, QLatin1Char('0')).arg(ufficio, 3, 10, QLatin1Char('0'));
+    QString numero = u"%1%2"_s.arg(azienda, 7, 10, QChar(u'0')).arg(ufficio, 3, 10, QChar(u'0'));
     int somma = 0;
     for (int i = 0; i < 10; ++i) {
         const int cifra = numero.at(i).digitValue() * (i % 2 == 0 ? 1 : 2);

@@ -1,6 +1,6 @@
 #include "schema/dati/riempimento.h"
 
-#include "data/transazione.h"
+#include "database/transazione.h"
 #include "schema/dati/righe.h"
 #include "schema/dati/scrittore.h"
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::dimostrazione {
 
 namespace {
@@ -38,24 +40,23 @@ Valore riferimento(Caso& caso)
     case 2:
     case 3:
     case 4:
-        return QStringLiteral("%1/A").arg(numero);
+        return u"%1/A"_s.arg(numero);
     case 5:
     case 6:
     case 7:
     case 8:
-        return QStringLiteral("ORD-%1").arg(numero, 6, 10, QLatin1Char('0'));
+        return u"ORD-%1"_s.arg(numero, 6, 10, QChar(u'0'));
     default:
-        return QStringLiteral("DDT %1").arg(numero);
+        return u"DDT %1"_s.arg(numero);
     }
 }
 
 /// What was written on the case: at the save, then at each later notice.
 QString descrizione(const Sosta& sosta, Caso& caso)
 {
-    QString testo = dataBreve(sosta.data) + QStringLiteral(" - ") + motivoGiacenza(caso);
+    QString testo = dataBreve(sosta.data) + u" - "_s + motivoGiacenza(caso);
     for (int n = 1; n < sosta.avvisi; ++n) {
-        testo += QStringLiteral("\r\n") + dataBreve(sosta.data.addDays(7 * n)) + QStringLiteral(" - ") +
-                 motivoGiacenza(caso);
+        testo += u"\r\n"_s + dataBreve(sosta.data.addDays(7 * n)) + u" - "_s + motivoGiacenza(caso);
     }
     return testo;
 }
@@ -98,12 +99,12 @@ Righe::Spedizione Righe::nuova(int posizione) const
     s.indirizzo = giacenza::dimostrazione::indirizzo(caso);
     const bool citta = s.comune == &comuneFiliale(s.comune->filiale);
     // A line that has no row yet, a carrier of one journey, no carrier: the waybill is there all the same.
-    s.linea = caso.tra(1, 200) == 1 ? QStringLiteral("NUOVA") : codiceZona(s.comune->filiale, citta);
+    s.linea = caso.tra(1, 200) == 1 ? u"NUOVA"_s : codiceZona(s.comune->filiale, citta);
     const int tipoVettore = caso.tra(1, 200);
     if (tipoVettore > 2)
         s.vettore = codiceVettore(s.comune->filiale, caso.percento(40));
     else if (tipoVettore == 2)
-        s.vettore = QStringLiteral("999");
+        s.vettore = u"999"_s;
     s.merce = naturaMerce(caso);
     s.riferimento = giacenza::dimostrazione::riferimento(caso);
     if (s.riferimento)
@@ -126,15 +127,14 @@ Righe::Spedizione Righe::riconsegna(const Posto& posto) const
     const Sosta& sosta = in(mCronologia.giacenze, posto.riconsegnaDi);
     const Posto& originale = in(mCronologia.spedizioni, sosta.spedizione);
     Spedizione s = nuova(sosta.spedizione);
-    const QString vecchia = s.nota ? QStringLiteral(" - ") + *s.nota : QString();
-    s.nota =
-        QStringLiteral("%1 - giacenza %2/%3 - LDV %4/%5")
-            .arg(posto.reso ? QStringLiteral("Reso a Mittente") : QStringLiteral("Riconsegna a Destinatario"))
-            .arg(sosta.numero)
-            .arg(sosta.data.year())
-            .arg(originale.numero)
-            .arg(originale.data.year()) +
-        vecchia;
+    const QString vecchia = s.nota ? u" - "_s + *s.nota : QString();
+    s.nota = u"%1 - giacenza %2/%3 - LDV %4/%5"_s
+                 .arg(posto.reso ? u"Reso a Mittente"_s : u"Riconsegna a Destinatario"_s)
+                 .arg(sosta.numero)
+                 .arg(sosta.data.year())
+                 .arg(originale.numero)
+                 .arg(originale.data.year()) +
+             vecchia;
     if (posto.reso) {
         s.destinatario = s.cliente->ragione;
         s.indirizzo = s.cliente->indirizzo;
@@ -168,7 +168,7 @@ Riga Righe::spedizione(int posizione) const
             s.comune->cap.toString(),
             s.comune->nome.toString(),
             s.comune->provincia.toString(),
-            diNuovo ? Valore(QStringLiteral("R")) : Valore(),
+            diNuovo ? Valore(u"R"_s) : Valore(),
             s.vettore,
             s.linea,
             s.merce,
@@ -182,7 +182,7 @@ Riga Righe::spedizione(int posizione) const
             importo(s.anticipo),
             s.nota,
             importo(s.valoreMerce),
-            partita ? Valore(QStringLiteral("1")) : Valore(),
+            partita ? Valore(u"1"_s) : Valore(),
             sosta ? Valore(QString::number(sosta->numero)) : Valore(),
             sosta ? Valore(anno(sosta->data)) : Valore(),
             consegnata ? data(consegna) : Valore()};
@@ -225,7 +225,7 @@ Riga Righe::giacenza(int posizione) const
             fisso,
             fattura.isValid() ? Valore(QString::number(100 + s.cliente->codice % 800)) : Valore(),
             data(fattura),
-            fattura.isValid() ? Valore(QStringLiteral("G%1").arg(fattura.month())) : Valore()};
+            fattura.isValid() ? Valore(u"G%1"_s.arg(fattura.month())) : Valore()};
 }
 
 Riga Righe::impostazioni() const
@@ -234,10 +234,9 @@ Riga Righe::impostazioni() const
     for (const Sosta& sosta : mCronologia.giacenze)
         ultimo = std::max(ultimo, sosta.numero);
     return {QString::number(ultimo),
-            QStringLiteral(
-                "La merce resta a Vostra disposizione presso il nostro deposito. Attendiamo istruzioni "
-                "scritte entro cinque giorni: consegna, nuova consegna o reso. Trascorso tale termine "
-                "saranno addebitate le spese di sosta previste dal contratto."),
+            u"La merce resta a Vostra disposizione presso il nostro deposito. Attendiamo istruzioni "
+            "scritte entro cinque giorni: consegna, nuova consegna o reso. Trascorso tale termine "
+            "saranno addebitate le spese di sosta previste dal contratto."_s,
             QString::number(mCronologia.spedizioni.size() / 25), data(mCronologia.oggi)};
 }
 

@@ -1,5 +1,7 @@
 #include "schema/dati/scrittore.h"
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::dimostrazione {
 
 namespace {
@@ -37,11 +39,10 @@ void Scrittore::finisci()
 
 QString Scrittore::istruzione(std::size_t righe) const
 {
-    const QString riga =
-        u'(' + QStringList(mTabella.colonne.size(), QStringLiteral("?")).join(QStringLiteral(", ")) + u')';
-    return QStringLiteral("insert into %1 (%2) values %3")
-        .arg(mTabella.nome, mTabella.colonne.join(QStringLiteral(", ")),
-             QStringList(static_cast<qsizetype>(righe), riga).join(QStringLiteral(", ")));
+    const QString riga = u'(' + QStringList(mTabella.colonne.size(), u"?"_s).join(u", "_s) + u')';
+    return u"insert into %1 (%2) values %3"_s.arg(
+        mTabella.nome, mTabella.colonne.join(u", "_s),
+        QStringList(static_cast<qsizetype>(righe), riga).join(u", "_s));
 }
 
 } // namespace giacenza::dimostrazione

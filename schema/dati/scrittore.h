@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/recordset.h"
+#include "database/recordset.h"
 #include "schema/dati/tabelle.h"
 
 #include <optional>

@@ -1,8 +1,10 @@
 #include "schema/dati/struttura.h"
 
-#include "data/recordset.h"
+#include "database/recordset.h"
 #include "schema/dati/tabelle.h"
 #include "schema/script.h"
+
+using namespace Qt::StringLiterals;
 
 namespace giacenza::dimostrazione {
 
@@ -12,9 +14,9 @@ bool esiste(Connessione& connessione, const QString& tabella)
 {
     const QString istruzione =
         connessione.dialetto() == Dialetto::sqlite
-            ? QStringLiteral("select 1 from sqlite_master where type = 'table' and name = '%1'")
-            : QStringLiteral("select 1 from information_schema.tables where table_schema = database() and "
-                             "table_name = '%1'");
+            ? u"select 1 from sqlite_master where type = 'table' and name = '%1'"_s
+            : u"select 1 from information_schema.tables where table_schema = database() and "
+              "table_name = '%1'"_s;
     Recordset righe;
     righe.apri(connessione, istruzione.arg(tabella));
     return !righe.eof();
@@ -22,14 +24,13 @@ bool esiste(Connessione& connessione, const QString& tabella)
 
 bool indice(const QString& istruzione)
 {
-    return istruzione.startsWith(QLatin1String("create index")) ||
-           istruzione.startsWith(QLatin1String("create unique index"));
+    return istruzione.startsWith("create index"_L1) || istruzione.startsWith("create unique index"_L1);
 }
 
 void pretendiDialettoNoto(const Connessione& connessione)
 {
     if (connessione.dialetto() == Dialetto::altro)
-        throw Rifiuto(QStringLiteral("Il database non è né MariaDB né SQLite."));
+        throw Rifiuto(u"Il database non è né MariaDB né SQLite."_s);
 }
 
 } // namespace
@@ -39,10 +40,8 @@ void pretendiSenzaTabelle(Connessione& connessione)
     pretendiDialettoNoto(connessione);
     for (const Tabella* tabella : tutteLeTabelle()) {
         if (esiste(connessione, tabella->nome))
-            throw Rifiuto(
-                QStringLiteral("La tabella %1 esiste già: senza --crea si riempiono le tabelle che ci "
-                               "sono, se sono vuote.")
-                    .arg(tabella->nome));
+            throw Rifiuto(u"La tabella %1 esiste già: senza --crea si riempiono le tabelle che ci "
+                          "sono, se sono vuote."_s.arg(tabella->nome));
     }
 }
 
@@ -51,14 +50,12 @@ void pretendiTabelleVuote(Connessione& connessione)
     pretendiDialettoNoto(connessione);
     for (const Tabella* tabella : tutteLeTabelle()) {
         if (!esiste(connessione, tabella->nome))
-            throw Rifiuto(
-                QStringLiteral("Manca la tabella %1: con --crea si creano tutte.").arg(tabella->nome));
+            throw Rifiuto(u"Manca la tabella %1: con --crea si creano tutte."_s.arg(tabella->nome));
         Recordset righe;
-        righe.apri(connessione, QStringLiteral("select 1 from %1 limit 1").arg(tabella->nome));
+        righe.apri(connessione, u"select 1 from %1 limit 1"_s.arg(tabella->nome));
         if (!righe.eof())
-            throw Rifiuto(QStringLiteral("La tabella %1 contiene già dei dati: i dati dimostrativi si "
-                                         "aggiungono solo a un database vuoto.")
-                              .arg(tabella->nome));
+            throw Rifiuto(u"La tabella %1 contiene già dei dati: i dati dimostrativi si "
+                          "aggiungono solo a un database vuoto."_s.arg(tabella->nome));
     }
 }
 
@@ -82,7 +79,7 @@ void togliTabelle(Connessione& connessione) noexcept
 {
     for (const Tabella* tabella : tutteLeTabelle()) {
         try {
-            connessione.esegui(QStringLiteral("drop table if exists ") + tabella->nome);
+            connessione.esegui(u"drop table if exists "_s + tabella->nome);
         } catch (...) {
             // The failure that brought us here is the one to tell.
         }
@@ -92,12 +89,12 @@ void togliTabelle(Connessione& connessione) noexcept
 void aggiornaStatistiche(Connessione& connessione)
 {
     if (connessione.dialetto() == Dialetto::sqlite) {
-        connessione.esegui(QStringLiteral("analyze"));
+        connessione.esegui(u"analyze"_s);
         return;
     }
     for (const Tabella* tabella : tutteLeTabelle()) {
         Recordset esito;
-        esito.apri(connessione, QStringLiteral("analyze table ") + tabella->nome);
+        esito.apri(connessione, u"analyze table "_s + tabella->nome);
     }
 }
 
@@ -106,9 +103,9 @@ void attivaGiornale(Connessione& connessione)
     if (connessione.dialetto() != Dialetto::sqlite)
         return;
     Recordset esito;
-    esito.apri(connessione, QStringLiteral("pragma journal_mode = wal"));
-    if (esito.valore(0) != QStringLiteral("wal"))
-        throw Rifiuto(QStringLiteral("Il file non accetta il giornale WAL: è su un disco di rete?"));
+    esito.apri(connessione, u"pragma journal_mode = wal"_s);
+    if (esito.valore(0) != u"wal"_s)
+        throw Rifiuto(u"Il file non accetta il giornale WAL: è su un disco di rete?"_s);
 }
 
 } // namespace giacenza::dimostrazione

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/connessione.h"
+#include "database/connessione.h"
 
 namespace giacenza::dimostrazione {
 

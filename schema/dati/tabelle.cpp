@@ -1,5 +1,7 @@
 #include "schema/dati/tabelle.h"
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::dimostrazione {
 
 namespace {
@@ -13,71 +15,64 @@ Tabella tabella(const QString& nome, const QString& colonne)
 
 const Tabella& tabellaFiliali()
 {
-    static const Tabella t =
-        tabella(QStringLiteral("filiali"), QStringLiteral("codice descrizione Indirizzo Località provincia"));
+    static const Tabella t = tabella(u"filiali"_s, u"codice descrizione Indirizzo Località provincia"_s);
     return t;
 }
 
 const Tabella& tabellaClienti()
 {
     static const Tabella t =
-        tabella(QStringLiteral("clien"),
-                QStringLiteral("Codice RagioneSociale Indirizzo Localita Provincia CLCAP PartitaIva"));
+        tabella(u"clien"_s, u"Codice RagioneSociale Indirizzo Localita Provincia CLCAP PartitaIva"_s);
     return t;
 }
 
 const Tabella& tabellaFornitori()
 {
     static const Tabella t =
-        tabella(QStringLiteral("forni"),
-                QStringLiteral("Codice RagioneSociale Indirizzo Localita Provincia PartitaIva"));
+        tabella(u"forni"_s, u"Codice RagioneSociale Indirizzo Localita Provincia PartitaIva"_s);
     return t;
 }
 
 const Tabella& tabellaZone()
 {
-    static const Tabella t = tabella(QStringLiteral("codicizona"), QStringLiteral("Codice Descrizione"));
+    static const Tabella t = tabella(u"codicizona"_s, u"Codice Descrizione"_s);
     return t;
 }
 
 const Tabella& tabellaPorto()
 {
-    static const Tabella t = tabella(QStringLiteral("porto"), QStringLiteral("idPorto Descrizione"));
+    static const Tabella t = tabella(u"porto"_s, u"idPorto Descrizione"_s);
     return t;
 }
 
 const Tabella& tabellaFatturazione()
 {
     static const Tabella t =
-        tabella(QStringLiteral("tabfatturazione"),
-                QStringLiteral("FALCOD FACODI FACMPE FAIVA FADFGI FAFRGI FATGIG FAMIGI"));
+        tabella(u"tabfatturazione"_s, u"FALCOD FACODI FACMPE FAIVA FADFGI FAFRGI FATGIG FAMIGI"_s);
     return t;
 }
 
 const Tabella& tabellaImpostazioni()
 {
-    static const Tabella t =
-        tabella(QStringLiteral("ekelvorqzt_tabge00f"),
-                QStringLiteral("UltimoNumGiacenza IstrSuAvvGiac UltimoNumBordereau DataBorderau"));
+    static const Tabella t = tabella(u"ekelvorqzt_tabge00f"_s,
+                                     u"UltimoNumGiacenza IstrSuAvvGiac UltimoNumBordereau DataBorderau"_s);
     return t;
 }
 
 const Tabella& tabellaSpedizioni()
 {
-    static const Tabella t =
-        tabella(QStringLiteral("letve00f"),
-                QStringLiteral("lefili lenrlv leanlv ledtlv lecodi lecmpe ledest leindd lecapd lelocd leprod "
-                               "lerico lecdve lelin1 lenatu lerife lerifd leport lecoll lepeso levolu lecnss "
-                               "leanpc lenote levame leflbc LERFGI LEANGI LEDTCO"));
+    static const Tabella t = tabella(
+        u"letve00f"_s, u"lefili lenrlv leanlv ledtlv lecodi lecmpe ledest leindd lecapd lelocd leprod "
+                       "lerico lecdve lelin1 lenatu lerife lerifd leport lecoll lepeso levolu lecnss "
+                       "leanpc lenote levame leflbc LERFGI LEANGI LEDTCO"_s);
     return t;
 }
 
 const Tabella& tabellaGiacenze()
 {
-    static const Tabella t =
-        tabella(QStringLiteral("giace00f"),
-                QStringLiteral("GIFILI GINRLV GIANLV GICODI GIFIGI GINRGI GIANGI GIDTGI GIGGSO GINRAV GIDTAV "
-                               "GIDES1 GIDTBF GIIMGI FissoGiacenza GINRFA GIDTFA GICOFA"));
+    static const Tabella t = tabella(
+        u"giace00f"_s, u"GIFILI GINRLV GIANLV GICODI GIFIGI GINRGI GIANGI GIDTGI GIGGSO GINRAV GIDTAV "
+                       "GIDES1 GIDTBF GIIMGI FissoGiacenza GINRFA GIDTFA GICOFA"_s);
     return t;
 }
 
@@ -91,7 +86,7 @@ std::vector<const Tabella*> tutteLeTabelle()
 QString testoDecimale(qint64 valore, int cifre)
 {
     const QString testo = QString::number(qAbs(valore)).rightJustified(cifre + 1, u'0');
-    const QString segno = valore < 0 ? QStringLiteral("-") : QString();
+    const QString segno = valore < 0 ? u"-"_s : QString();
     return segno + testo.left(testo.size() - cifre) + u'.' + testo.right(cifre);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/valori.h"
+#include "database/valori.h"
 
 #include <QStringList>
 

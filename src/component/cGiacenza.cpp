@@ -1,31 +1,27 @@
 #include <giacenza/cGiacenza.h>
 
-#include "component/forme.h"
-#include "component/impostazioni.h"
-#include "component/messaggi.h"
+#include "base/forme.h"
+#include "base/impostazioni.h"
+#include "base/messaggi.h"
 #include "component/registraforme.h"
 
 #include <vector>
+
+using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
 namespace {
 
-const QString schermataGiacenza = QStringLiteral("frmGiacenza");
-const QString schermataRiconsegna = QStringLiteral("frmRiconsegna");
-const QString schermataGestione = QStringLiteral("frmGestGia");
+const QString schermataGiacenza = u"frmGiacenza"_s;
+const QString schermataRiconsegna = u"frmRiconsegna"_s;
+const QString schermataGestione = u"frmGestGia"_s;
 
 // The calendar and the refusal dialog are not among them: they are modal and go by themselves.
 QStringList daScaricare()
 {
-    return {schermataGestione,
-            schermataGiacenza,
-            QStringLiteral("frmPorto"),
-            QStringLiteral("frmRicerca"),
-            QStringLiteral("frmRicercaGia"),
-            schermataRiconsegna,
-            QStringLiteral("rptAvviso"),
-            QStringLiteral("rptBuonFine")};
+    return {schermataGestione,  schermataGiacenza,   u"frmPorto"_s,  u"frmRicerca"_s,
+            u"frmRicercaGia"_s, schermataRiconsegna, u"rptAvviso"_s, u"rptBuonFine"_s};
 }
 
 std::shared_ptr<Forme> formePronte()
@@ -57,9 +53,8 @@ public:
     {
         QWidget* schermata = mForme->forma(nome);
         if (!schermata) {
-            mostraMessaggio(nullptr,
-                            {QStringLiteral("Questa schermata non è ancora disponibile in questa versione."),
-                             Stile::informazione, titoloGestione()});
+            mostraMessaggio(nullptr, {u"Questa schermata non è ancora disponibile in questa versione."_s,
+                                      Stile::informazione, titoloGestione()});
             return nullptr;
         }
         std::erase_if(mLegate, [&](const auto& legata) { return !legata || legata == schermata; });
@@ -148,8 +143,8 @@ void cGiacenza::MostraRiconsegna()
 
 void cGiacenza::setTipoReso(Reso tipo)
 {
-    impostazioni().etichettaReso = tipo == ResoMittente ? QStringLiteral("Reso a Mittente")
-                                                        : QStringLiteral("Riconsegna a Destinatario");
+    impostazioni().etichettaReso =
+        tipo == ResoMittente ? u"Reso a Mittente"_s : u"Riconsegna a Destinatario"_s;
 }
 
 void cGiacenza::ConsultaGiacenza()

@@ -1,17 +1,19 @@
 #include "component/registraforme.h"
 
-#include "component/forme.h"
+#include "base/forme.h"
 #include "management/frmGestGia.h"
 #include "redelivery/frmRiconsegna.h"
 #include "registration/frmGiacenza.h"
+
+using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
 void registraForme(Forme& forme)
 {
-    forme.registra<frmGiacenza>(QStringLiteral("frmGiacenza"));
-    forme.registra<frmGestGia>(QStringLiteral("frmGestGia"));
-    forme.registra<frmRiconsegna>(QStringLiteral("frmRiconsegna"));
+    forme.registra<frmGiacenza>(u"frmGiacenza"_s);
+    forme.registra<frmGestGia>(u"frmGestGia"_s);
+    forme.registra<frmRiconsegna>(u"frmRiconsegna"_s);
 }
 
 } // namespace giacenza

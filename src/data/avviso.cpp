@@ -1,8 +1,10 @@
 #include "data/avviso.h"
 
-#include "data/recordset.h"
+#include "database/recordset.h"
 
 #include <limits>
+
+using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
@@ -37,8 +39,8 @@ QString istruzioneSuccessivo(const ChiaveCaso& chiave, qint16 numero, QDate oggi
                                             RaddoppiaApice(conRitorniACapo(descrizione)));
     } catch (const ErroreDatabase&) {
         // The key has already been in a statement: it is the description that would leave its place.
-        throw ErroreConversione(QStringLiteral(
-            "La descrizione non si può scrivere: contiene più di un apostrofo. Lasciarne uno e ripetere."));
+        throw ErroreConversione(
+            u"La descrizione non si può scrivere: contiene più di un apostrofo. Lasciarne uno e ripetere."_s);
     }
 }
 
@@ -55,13 +57,12 @@ std::optional<qint16> contaAvviso(Connessione& connessione, const QString& strin
     }
     const auto ultimo = leggiData(stato.data);
     if (!ultimo)
-        throw ErroreConversione(
-            QStringLiteral("La data dell'ultimo avviso non è una data: \"%1\"").arg(stato.data));
+        throw ErroreConversione(u"La data dell'ultimo avviso non è una data: \"%1\""_s.arg(stato.data));
     if (*ultimo >= oggi)
         return std::nullopt;
     const int numero = intero16(stato.numero) + 1;
     if (numero > std::numeric_limits<qint16>::max())
-        throw ErroreConversione(QStringLiteral("Il numero degli avvisi è troppo grande: %1").arg(numero));
+        throw ErroreConversione(u"Il numero degli avvisi è troppo grande: %1"_s.arg(numero));
     connessione.esegui(istruzioneSuccessivo(chiave, static_cast<qint16>(numero), oggi, descrizione));
     return static_cast<qint16>(numero);
 }

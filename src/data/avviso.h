@@ -1,7 +1,7 @@
 #pragma once
 
-#include "data/connessione.h"
 #include "data/istruzioni.h"
+#include "database/connessione.h"
 
 #include <optional>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/istruzionisoggetti.h"
-#include "data/recordset.h"
+#include "database/recordset.h"
 
 #include <vector>
 

@@ -1,6 +1,6 @@
 #include "data/chiusura.h"
 
-#include "data/recordset.h"
+#include "database/recordset.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "data/connessione.h"
 #include "data/istruzioni.h"
-#include "data/valori.h"
+#include "database/connessione.h"
+#include "database/valori.h"
 
 #include <optional>
 #include <variant>

@@ -1,6 +1,6 @@
 #include "data/istruzioni.h"
 
-#include "data/sql.h"
+#include "database/sql.h"
 
 using namespace Qt::StringLiterals;
 

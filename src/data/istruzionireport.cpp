@@ -1,6 +1,6 @@
 #include "data/istruzionireport.h"
 
-#include "data/sql.h"
+#include "database/sql.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
 #include "data/istruzioniricerca.h"
 
-#include "data/sql.h"
+#include "database/sql.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 #include "data/numerazione.h"
 
 #include "data/istruzioni.h"
-#include "data/recordset.h"
+#include "database/recordset.h"
 
 using namespace Qt::StringLiterals;
 

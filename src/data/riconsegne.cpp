@@ -2,6 +2,8 @@
 
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza {
 
 qint16 ContaRecord(Recordset& righe)
@@ -10,7 +12,7 @@ qint16 ContaRecord(Recordset& righe)
     for (righe.primo(); !righe.eof(); righe.successivo())
         if (++conto > std::numeric_limits<qint16>::max())
             throw ErroreConversione(
-                QStringLiteral("Le riconsegne sono più di %1.").arg(std::numeric_limits<qint16>::max()));
+                u"Le riconsegne sono più di %1."_s.arg(std::numeric_limits<qint16>::max()));
     righe.primo();
     return static_cast<qint16>(conto);
 }
@@ -22,7 +24,7 @@ ContoRiconsegne ContaRiconsegne(Connessione& connessione, const ChiaveGiacenza& 
     if (legate.bof() || legate.eof())
         return {EsitoRiconsegne::inesistente};
     const auto precedenti = static_cast<qint16>(ContaRecord(legate) - 1);
-    if (eData(legate.valore(QStringLiteral("GIDTBF")).value_or(QString()).left(10)))
+    if (eData(legate.valore(u"GIDTBF"_s).value_or(QString()).left(10)))
         return {EsitoRiconsegne::chiusa};
     if (precedenti != 0)
         return {EsitoRiconsegne::giaRiconsegnata, precedenti};

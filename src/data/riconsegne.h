@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/istruzioni.h"
-#include "data/recordset.h"
+#include "database/recordset.h"
 
 namespace giacenza {
 

@@ -1,14 +1,16 @@
 // What the management screen does with the case that it shows: the notice and the closure.
 
-#include "component/impostazioni.h"
-#include "component/orologio.h"
+#include "base/impostazioni.h"
+#include "base/orologio.h"
 #include "data/chiusura.h"
+#include "dialogs/frmRifiuto.h"
 #include "management/frmGestGia.h"
-#include "management/ui_frmGestGia.h"
-#include "redelivery/frmRifiuto.h"
 #include "screens/campi.h"
 #include "screens/costibuonfine.h"
 #include "screens/stampa.h"
+#include "ui_frmGestGia.h"
+
+using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
@@ -18,8 +20,8 @@ void frmGestGia::emettiAvviso()
         return;
     const QString chiusura = testo(lblDataBuonFine);
     if (eData(chiusura)) {
-        messaggio(QStringLiteral("La giacenza risulta chiusa,in data: %1.").arg(chiusura),
-                  Stile::informazione, titoloGestione());
+        messaggio(u"La giacenza risulta chiusa,in data: %1."_s.arg(chiusura), Stile::informazione,
+                  titoloGestione());
         return;
     }
     const QPointer<const Schermata> io(this);
@@ -28,8 +30,7 @@ void frmGestGia::emettiAvviso()
     rifiuto->exec();
     restaAperta(io);
     const bool confermato = rifiuto->Confermato();
-    const QString riga =
-        QStringLiteral("\n%1 - %2").arg(dataBreve(rifiuto->DataRifiuto()), rifiuto->MotivazioneRifiuto());
+    const QString riga = u"\n%1 - %2"_s.arg(dataBreve(rifiuto->DataRifiuto()), rifiuto->MotivazioneRifiuto());
     delete rifiuto;
     if (!confermato)
         return;
@@ -46,7 +47,7 @@ bool frmGestGia::avvisoAmmesso()
 {
     if (!eData(testo(lblDataBuonFine)))
         return true;
-    messaggio(QStringLiteral("E' già stato rilasciato il buon fine per questa giacenza."), Stile::avviso);
+    messaggio(u"E' già stato rilasciato il buon fine per questa giacenza."_s, Stile::avviso);
     return false;
 }
 
@@ -63,7 +64,7 @@ void frmGestGia::ChiudiGiacenza()
     if (!caso)
         return;
     if (!eData(testo(lblDataAvviso))) {
-        messaggio(QStringLiteral("Non è stato ancora emesso un avviso di giacenza."), Stile::avviso);
+        messaggio(u"Non è stato ancora emesso un avviso di giacenza."_s, Stile::avviso);
         return;
     }
     scriviChiusura(*caso);
@@ -71,8 +72,8 @@ void frmGestGia::ChiudiGiacenza()
     if (mUi->optCostiNo->isChecked())
         NascondiCostiBuonFine(CostiNascosti::tutti);
     stampaCaso(TipoDocumento::buonFine, *caso, leggiDidascalie(),
-               {QStringLiteral("Giacenza %1 chiusa, documento di buon fine prodotto."),
-                QStringLiteral("Il documento di buon fine non è stato stampato; la giacenza resta chiusa.")});
+               {u"Giacenza %1 chiusa, documento di buon fine prodotto."_s,
+                u"Il documento di buon fine non è stato stampato; la giacenza resta chiusa."_s});
 }
 
 void frmGestGia::scriviChiusura(const ChiaveGiacenza& caso)
@@ -93,7 +94,7 @@ void frmGestGia::CalcolaCostiGiacenza()
     const ChiaveSpedizione ldv = {testo(mUi->txtFiliale), testo(mUi->txtLDV),
                                   testo(mUi->txtAnnoLdv).toInt(&intero)};
     if (!intero)
-        throw ErroreConversione(QStringLiteral("Manca l'anno della lettera di vettura."));
+        throw ErroreConversione(u"Manca l'anno della lettera di vettura."_s);
     const auto condizioni = leggiCondizioni(connessione(), ldv.numero, ldv.anno);
     if (!condizioni)
         return;

@@ -1,19 +1,20 @@
 #include "management/frmGestGia.h"
 
-#include "component/orologio.h"
-#include "data/recordset.h"
-#include "management/ui_frmGestGia.h"
+#include "base/orologio.h"
+#include "database/recordset.h"
 #include "screens/campi.h"
+#include "ui_frmGestGia.h"
 #include "widgets/tasti.h"
 
 #include <QScopedValueRollback>
+
+using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
 using istruzioni::Giunzione;
 
-frmGestGia::frmGestGia()
-    : SchermataCaso(QStringLiteral("frmGestGia")), mUi(std::make_unique<Ui::frmGestGia>())
+frmGestGia::frmGestGia() : SchermataCaso(u"frmGestGia"_s), mUi(std::make_unique<Ui::frmGestGia>())
 {
     mUi->setupUi(this);
     preparaComuni(mappaGestione());
@@ -52,8 +53,7 @@ void frmGestGia::attivata()
 
 void frmGestGia::ImpostaModoRicerca(bool perCliente)
 {
-    mUi->chkRicerca->setText(perCliente ? QStringLiteral("Ric. cod. cliente")
-                                        : QStringLiteral("Ric. per n. giacenza"));
+    mUi->chkRicerca->setText(perCliente ? u"Ric. cod. cliente"_s : u"Ric. per n. giacenza"_s);
     const std::initializer_list<QWidget*> perNumero = {mUi->lblGiace, mUi->txtNGiace, mUi->lblDataGiace,
                                                        mUi->txtDataGiace};
     for (QWidget* controllo : perNumero)
@@ -112,7 +112,7 @@ Seguito frmGestGia::convalidaDataGiace()
     const QString digitata = testo(mUi->txtDataGiace);
     if (digitata.isEmpty() || eData(digitata))
         return {};
-    return rifiuta(mUi->txtDataGiace, QStringLiteral("Inserire una data valida."), Stile::avviso);
+    return rifiuta(mUi->txtDataGiace, u"Inserire una data valida."_s, Stile::avviso);
 }
 
 void frmGestGia::richiama()
@@ -127,20 +127,20 @@ void frmGestGia::richiamaPerNumero()
 {
     const QString numero = mUi->txtNGiace->text();
     if (numero.isEmpty()) {
-        messaggio(QStringLiteral("Manca il numero della giacenza."), Stile::avviso, titoloGestione());
+        messaggio(u"Manca il numero della giacenza."_s, Stile::avviso, titoloGestione());
         mUi->txtNGiace->setFocus();
         return;
     }
     const auto giorno = leggiData(testo(mUi->txtDataGiace));
     if (!giorno) {
-        messaggio(QStringLiteral("Manca la data della giacenza."), Stile::avviso, titoloGestione());
+        messaggio(u"Manca la data della giacenza."_s, Stile::avviso, titoloGestione());
         return;
     }
     if (mostra(istruzioni::spedizionePerGiacenza(numero, *giorno)))
         return;
     pulisciFuoriDa({mUi->txtNGiace, mUi->txtDataGiace, txtCodiceCli, barCliente});
-    messaggio(QStringLiteral("Giacenza: %1 del %2 non trovata.").arg(numero, dataBreve(*giorno)),
-              Stile::avviso, titoloGestione());
+    messaggio(u"Giacenza: %1 del %2 non trovata."_s.arg(numero, dataBreve(*giorno)), Stile::avviso,
+              titoloGestione());
 }
 
 void frmGestGia::richiamaPerCliente()
@@ -155,16 +155,16 @@ void frmGestGia::richiamaPerCliente()
     if (mostra(istruzioni::spedizionePerNumeroData(scelta->numero, *giorno, Giunzione::interna)))
         return;
     pulisciFuoriDa({mUi->txtNGiace, mUi->txtDataGiace, txtCodiceCli, barCliente});
-    stato(QStringLiteral("LDV %1 del %2: non si può richiamare, manca il vettore, la linea o la filiale.")
-              .arg(scelta->numero, scelta->data));
+    stato(u"LDV %1 del %2: non si può richiamare, manca il vettore, la linea o la filiale."_s.arg(
+        scelta->numero, scelta->data));
 }
 
 std::optional<SpedizioneScelta> frmGestGia::RicercaSpedizione()
 {
     const QPointer<const Schermata> io(this);
     auto scelta = apriRicercaSpedizione(this, {.tipoRicerca = 11,
-                                               .titolo = QStringLiteral("Ricerca giacenze del cliente"),
-                                               .captionLabel = QStringLiteral("Giacenza"),
+                                               .titolo = u"Ricerca giacenze del cliente"_s,
+                                               .captionLabel = u"Giacenza"_s,
                                                .ragioneSocialeCliente = barCliente->text(),
                                                .cliente = txtCodiceCli->text().trimmed()});
     restaAperta(io);
@@ -185,7 +185,7 @@ bool frmGestGia::mostra(const QString& istruzione)
 
 void frmGestGia::rigaMostrata(const Recordset& riga)
 {
-    mAvvisi = riga.valore(QStringLiteral("GINRAV")).value_or(QString());
+    mAvvisi = riga.valore(u"GINRAV"_s).value_or(QString());
     mostraStatoCaso();
 }
 
@@ -200,10 +200,10 @@ void frmGestGia::bloccaChiave(bool bloccata)
 void frmGestGia::mostraStatoCaso()
 {
     const bool chiusa = eData(testo(lblDataBuonFine));
-    const QString avvisi = mAvvisi.isEmpty()                ? QStringLiteral("NESSUN AVVISO")
-                           : mAvvisi == QStringLiteral("1") ? QStringLiteral("1 AVVISO")
-                                                            : QStringLiteral("%1 AVVISI").arg(mAvvisi);
-    mUi->lblStatoCaso->setText((chiusa ? QStringLiteral("CHIUSA · ") : QStringLiteral("APERTA · ")) + avvisi);
+    const QString avvisi = mAvvisi.isEmpty()   ? u"NESSUN AVVISO"_s
+                           : mAvvisi == u"1"_s ? u"1 AVVISO"_s
+                                               : u"%1 AVVISI"_s.arg(mAvvisi);
+    mUi->lblStatoCaso->setText((chiusa ? u"CHIUSA · "_s : u"APERTA · "_s) + avvisi);
     mUi->lblStatoCaso->setProperty("chiusa", chiusa);
     rinnovaAspetto(mUi->lblStatoCaso);
     mUi->lblStatoCaso->setVisible(!testo(lblNrGia).isEmpty());

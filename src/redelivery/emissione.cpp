@@ -1,9 +1,11 @@
 #include "redelivery/emissione.h"
 
-#include "component/impostazioni.h"
-#include "component/parti.h"
+#include "base/impostazioni.h"
+#include "base/parti.h"
 
 #include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
@@ -28,11 +30,11 @@ QStringList LdvLetta::colonne() const
 Valore LdvLetta::valore(const QString& colonna) const
 {
     if (mVuoto)
-        throw Errore(QStringLiteral("La lettera di vettura è vuota."));
+        throw Errore(u"La lettera di vettura è vuota."_s);
     for (const auto& [nome, valore] : mValori)
         if (nome.compare(colonna, Qt::CaseInsensitive) == 0)
             return valore;
-    throw Errore(QStringLiteral("La lettera di vettura non ha la colonna %1.").arg(colonna));
+    throw Errore(u"La lettera di vettura non ha la colonna %1."_s.arg(colonna));
 }
 
 namespace {
@@ -43,8 +45,8 @@ QString consegna(EmittenteLdv& emittente, const RecordLdv& ldv, bool stampa, con
         conContesto->setContesto(contesto);
     const QString cartella = QCoreApplication::applicationDirPath();
     emittente.setPercorsoDatabase(impostazioni().percorsoDatabase);
-    emittente.setCartellaStampa(cartella + QStringLiteral("/imp"));
-    emittente.setPercorsoLogo(cartella + QStringLiteral("/logo.gif"));
+    emittente.setCartellaStampa(cartella + u"/imp"_s);
+    emittente.setPercorsoLogo(cartella + u"/logo.gif"_s);
     emittente.setStampa(stampa);
     emittente.setDefinitiva(true);
     return emittente.emetti(ldv);
@@ -65,7 +67,7 @@ QString EmettiRiconsegna(const RecordLdv& ldv, bool stampa, const Contesto& cont
         throw Errore(QString::fromUtf8(errore.what()));
     } catch (...) {
         // The issuer is the host's: nothing of it may pass through Qt's loop.
-        throw Errore(QStringLiteral("L'emissione si è interrotta per un errore sconosciuto."));
+        throw Errore(u"L'emissione si è interrotta per un errore sconosciuto."_s);
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/recordset.h"
+#include "database/recordset.h"
 
 #include <giacenza/Contesto.h>
 #include <giacenza/EmittenteLdv.h>

@@ -1,17 +1,18 @@
 #include "redelivery/frmRiconsegna.h"
 
-#include "component/impostazioni.h"
-#include "redelivery/ui_frmRiconsegna.h"
+#include "base/impostazioni.h"
 #include "screens/campi.h"
 #include "screens/ricercaspedizione.h"
+#include "ui_frmRiconsegna.h"
 #include "widgets/tasti.h"
 
 #include <QEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza {
 
-frmRiconsegna::frmRiconsegna()
-    : Schermata(QStringLiteral("frmRiconsegna")), mUi(std::make_unique<Ui::frmRiconsegna>())
+frmRiconsegna::frmRiconsegna() : Schermata(u"frmRiconsegna"_s), mUi(std::make_unique<Ui::frmRiconsegna>())
 {
     mUi->setupUi(this);
     preparaComuni(mappaRiconsegna());
@@ -100,9 +101,8 @@ bool frmRiconsegna::ControlloCampiRicerca(Modo modo)
     const QString valore = cercato(modo);
     if ((perNumero ? eNumero(valore) : !valore.isEmpty()) && eData(testo(campoData(modo))))
         return true;
-    messaggio(perNumero ? QStringLiteral("Controllare l'immissione del num. Ldv e/o data Ldv")
-                        : QStringLiteral(
-                              "Controllare l'immissione del riferimento cliente e/o data rifer. cliente"),
+    messaggio(perNumero ? u"Controllare l'immissione del num. Ldv e/o data Ldv"_s
+                        : u"Controllare l'immissione del riferimento cliente e/o data rifer. cliente"_s,
               Stile::avviso);
     return false;
 }
@@ -110,31 +110,31 @@ bool frmRiconsegna::ControlloCampiRicerca(Modo modo)
 std::optional<SpedizioneScelta> frmRiconsegna::RicercaSpedizione(Modo modo)
 {
     AperturaRicerca apertura = {.tipoRicerca = static_cast<int>(modo),
-                                .captionLabel = QStringLiteral("Num. LDV"),
+                                .captionLabel = u"Num. LDV"_s,
                                 .ragioneSocialeCliente = barCliente->text(),
                                 .cliente = txtCodiceCli->text(),
                                 .filiale = mUi->txtFiliale->text()};
     switch (modo) {
     case Modo::riferimento:
-        apertura.titolo = QStringLiteral("Ricerca per riferimento");
-        apertura.captionLabel = QStringLiteral("Riferimento");
+        apertura.titolo = u"Ricerca per riferimento"_s;
+        apertura.captionLabel = u"Riferimento"_s;
         apertura.riferimento = cercato(modo);
         apertura.annoOdata = testo(campoData(modo));
         break;
     case Modo::letteraVettura:
-        apertura.titolo = QStringLiteral("Ricerca per lettera di vettura");
+        apertura.titolo = u"Ricerca per lettera di vettura"_s;
         apertura.numero = cercato(modo);
         apertura.annoOdata = testo(campoData(modo));
         break;
     case Modo::riconsegne: {
-        apertura.titolo = QStringLiteral("Spedizioni relative alla giacenza selezionata");
+        apertura.titolo = u"Spedizioni relative alla giacenza selezionata"_s;
         apertura.giacenza = testo(lblNrGia);
         const auto giorno = leggiData(testo(mUi->txtDataGia));
         apertura.annoGiacenza = giorno ? QString::number(giorno->year()) : QString();
         break;
     }
     case Modo::giacenze:
-        apertura.titolo = QStringLiteral("Ricerca Giacenze");
+        apertura.titolo = u"Ricerca Giacenze"_s;
         break;
     }
     const QPointer<const Schermata> io(this);
@@ -162,7 +162,7 @@ void frmRiconsegna::cercaPerNumero()
 void frmRiconsegna::mostraRiconsegne()
 {
     if (testo(lblNrGia).isEmpty() || !eData(testo(mUi->txtDataGia)))
-        return stato(QStringLiteral("Nessuna giacenza sullo schermo: non ci sono spedizioni da elencare."));
+        return stato(u"Nessuna giacenza sullo schermo: non ci sono spedizioni da elencare."_s);
     RicercaSpedizione(Modo::riconsegne);
 }
 
@@ -171,10 +171,10 @@ void frmRiconsegna::mostra(const QString& numero, QDate giorno)
     mModificata[0] = mModificata[1] = false;
     if (!mostraSpedizione(
             istruzioni::spedizionePerNumeroData(numero, giorno, istruzioni::Giunzione::interna)))
-        return stato(QStringLiteral("LDV %1 del %2: non trovata.").arg(numero, dataBreve(giorno)));
-    scrivi(mUi->barLdv, QStringLiteral("%1 del %2").arg(tag(mUi->txtLDV), testo(mUi->txtDataLdv)));
+        return stato(u"LDV %1 del %2: non trovata."_s.arg(numero, dataBreve(giorno)));
+    scrivi(mUi->barLdv, u"%1 del %2"_s.arg(tag(mUi->txtLDV), testo(mUi->txtDataLdv)));
     const bool inGiacenza = !testo(lblNrGia).isEmpty();
-    stato(inGiacenza ? QString() : QStringLiteral("Questa lettera di vettura non è in giacenza."));
+    stato(inGiacenza ? QString() : u"Questa lettera di vettura non è in giacenza."_s);
     if (inGiacenza)
         return;
     // They belong to the date and the branch of another held shipment, which stand beside them as left-overs.

@@ -1,14 +1,16 @@
-#include "component/forme.h"
-#include "component/impostazioni.h"
-#include "component/orologio.h"
+#include "base/forme.h"
+#include "base/impostazioni.h"
+#include "base/orologio.h"
+#include "dialogs/frmPorto.h"
 #include "redelivery/emissione.h"
-#include "redelivery/frmPorto.h"
 #include "redelivery/frmRiconsegna.h"
-#include "redelivery/ui_frmRiconsegna.h"
 #include "screens/campi.h"
+#include "ui_frmRiconsegna.h"
 
 #include <QPointer>
 #include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
 
 /// The issue: what the button of the re-delivery screen does, step by step. A step that fails does not stop
 /// the next one; its failure stands in the status line.
@@ -23,7 +25,7 @@ void frmRiconsegna::leggiLdv(LdvLetta& ldv)
 {
     const auto giorno = leggiData(testo(mUi->txtDataLdv));
     if (!giorno)
-        throw ErroreConversione(QStringLiteral("La data della lettera di vettura non è valida."));
+        throw ErroreConversione(u"La data della lettera di vettura non è valida."_s);
     Recordset riga;
     riga.apri(connessione(), istruzioni::spedizioneIntera(
                                  {mUi->txtFiliale->text(), numeroLdv(mUi->txtLDV), giorno->year()}));
@@ -59,7 +61,7 @@ std::optional<ContoRiconsegne> frmRiconsegna::contaGiacenza()
     try {
         return ContaRiconsegne(connessione(), {numero, giorno->year()});
     } catch (const Errore& errore) {
-        stato(QStringLiteral("La giacenza non si controlla: %1").arg(errore.testo()));
+        stato(u"La giacenza non si controlla: %1"_s.arg(errore.testo()));
         return std::nullopt;
     }
 }
@@ -72,17 +74,17 @@ bool frmRiconsegna::accettato(const std::optional<ContoRiconsegne>& conto)
     case EsitoRiconsegne::emettibile:
         return true;
     case EsitoRiconsegne::inesistente:
-        messaggio(QStringLiteral("Giacenza inesistente immettere la giacenza."), Stile::avviso);
+        messaggio(u"Giacenza inesistente immettere la giacenza."_s, Stile::avviso);
         return false;
     case EsitoRiconsegne::chiusa:
-        messaggio(QStringLiteral("la Giacenza è stata chiusa con avviso di buon fine in data: %1.")
-                      .arg(testo(lblDataBuonFine)),
-                  Stile::avviso);
+        messaggio(
+            u"la Giacenza è stata chiusa con avviso di buon fine in data: %1."_s.arg(testo(lblDataBuonFine)),
+            Stile::avviso);
         return false;
     case EsitoRiconsegne::giaRiconsegnata:
-        return messaggio(QStringLiteral("Sono presenti n.%1 riconsegne emettere una nuova riconsegna?")
-                             .arg(conto->riconsegne),
-                         Stile::domandaInformazione) == Risposta::si;
+        return messaggio(
+                   u"Sono presenti n.%1 riconsegne emettere una nuova riconsegna?"_s.arg(conto->riconsegne),
+                   Stile::domandaInformazione) == Risposta::si;
     }
     return false;
 }
@@ -92,7 +94,7 @@ Contesto frmRiconsegna::contesto(const Scelte& scelte, const std::optional<Conto
     const auto giorno = leggiData(testo(txtDataGia));
     const QString lavoro = impostazioni().etichettaReso;
     return {.lavoro = lavoro,
-            .resoAMittente = lavoro == QStringLiteral("Reso a Mittente"),
+            .resoAMittente = lavoro == u"Reso a Mittente"_s,
             .porto = scelte.porto.toInt(),
             .numeroGiacenza = testo(lblNrGia),
             .annoGiacenza = giorno ? giorno->year() : 0,

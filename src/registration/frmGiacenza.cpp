@@ -1,9 +1,9 @@
 #include "registration/frmGiacenza.h"
 
-#include "component/impostazioni.h"
-#include "component/orologio.h"
-#include "redelivery/frmCalendario.h"
-#include "registration/salvataggio.h"
+#include "base/impostazioni.h"
+#include "base/orologio.h"
+#include "data/salvataggio.h"
+#include "dialogs/frmCalendario.h"
 #include "registration/ui_frmGiacenza.h"
 #include "screens/campi.h"
 #include "screens/ricercaspedizione.h"
@@ -14,12 +14,13 @@
 #include <exception>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza {
 
 using istruzioni::Giunzione;
 
-frmGiacenza::frmGiacenza()
-    : SchermataCaso(QStringLiteral("frmGiacenza")), mUi(std::make_unique<Ui::frmGiacenza>())
+frmGiacenza::frmGiacenza() : SchermataCaso(u"frmGiacenza"_s), mUi(std::make_unique<Ui::frmGiacenza>())
 {
     mUi->setupUi(this);
     preparaComuni(mappaRegistrazione());
@@ -154,7 +155,7 @@ void frmGiacenza::ricerca(Chiave chiave)
         return;
     const auto giorno = leggiData(testo(campoData(chiave)));
     if (!giorno)
-        return stato(QStringLiteral("La data non è completa o non è valida: nessuna ricerca."));
+        return stato(u"La data non è completa o non è valida: nessuna ricerca."_s);
     if (mUi->txtFiliale->text().isEmpty())
         return RicercaSpedizione(chiave);
     ricercaDiretta(chiave, *giorno);
@@ -168,23 +169,20 @@ void frmGiacenza::ricercaDiretta(Chiave chiave, QDate giorno)
     PulisciCampi();
     if (chiave == Chiave::numero)
         mostra(istruzioni::spedizionePerNumeroDataFiliale(numero, giorno, filiale),
-               QStringLiteral("LDV %1 del %2, filiale %3: non trovata.")
-                   .arg(numero, dataBreve(giorno), filiale));
+               u"LDV %1 del %2, filiale %3: non trovata."_s.arg(numero, dataBreve(giorno), filiale));
     else
         mostra(istruzioni::spedizionePerRiferimento(numero, giorno, filiale),
-               QStringLiteral("Riferimento %1 del %2, filiale %3: non trovato.")
-                   .arg(numero, dataBreve(giorno), filiale));
+               u"Riferimento %1 del %2, filiale %3: non trovato."_s.arg(numero, dataBreve(giorno), filiale));
 }
 
 bool frmGiacenza::ControllaImmissione(Chiave chiave)
 {
     if (!cercato(chiave).isEmpty() && eData(testo(campoData(chiave))))
         return true;
-    messaggio(
-        chiave == Chiave::numero
-            ? QStringLiteral("Controllare l'immissione del num. Ldv e/o data Ldv")
-            : QStringLiteral("Controllare l'immissione del riferimento cliente e/o data rifer. cliente"),
-        Stile::avviso);
+    messaggio(chiave == Chiave::numero
+                  ? u"Controllare l'immissione del num. Ldv e/o data Ldv"_s
+                  : u"Controllare l'immissione del riferimento cliente e/o data rifer. cliente"_s,
+              Stile::avviso);
     return false;
 }
 
@@ -196,9 +194,8 @@ void frmGiacenza::RicercaSpedizione(Chiave chiave)
     const QPointer<const Schermata> io(this);
     const auto scelta = apriRicercaSpedizione(
         this, {.tipoRicerca = perNumero ? 7 : 1,
-               .titolo = perNumero ? QStringLiteral("Ricerca per lettera di vettura")
-                                   : QStringLiteral("Ricerca per riferimento"),
-               .captionLabel = perNumero ? QStringLiteral("Num. LDV") : QStringLiteral("Riferimento"),
+               .titolo = perNumero ? u"Ricerca per lettera di vettura"_s : u"Ricerca per riferimento"_s,
+               .captionLabel = perNumero ? u"Num. LDV"_s : u"Riferimento"_s,
                .ragioneSocialeCliente = barCliente->text(),
                .cliente = txtCodiceCli->text(),
                .filiale = mUi->txtFiliale->text(),
@@ -209,8 +206,7 @@ void frmGiacenza::RicercaSpedizione(Chiave chiave)
     mModificata.fill(false);
     if (!scelta) {
         if (mUi->txtFiliale->text().isEmpty())
-            stato(QStringLiteral(
-                "L'elenco mostra solo le spedizioni della filiale scritta: scrivere la filiale."));
+            stato(u"L'elenco mostra solo le spedizioni della filiale scritta: scrivere la filiale."_s);
         return;
     }
     const auto giorno = leggiData(scelta->data);
@@ -219,7 +215,7 @@ void frmGiacenza::RicercaSpedizione(Chiave chiave)
     PulisciCampi();
     mostra(istruzioni::spedizionePerNumeroData(scelta->numero, *giorno,
                                                perNumero ? Giunzione::esternaMinuscola : Giunzione::esterna),
-           QStringLiteral("LDV %1 del %2: non trovata.").arg(scelta->numero, scelta->data));
+           u"LDV %1 del %2: non trovata."_s.arg(scelta->numero, scelta->data));
 }
 
 void frmGiacenza::clienteCercato()
@@ -250,7 +246,7 @@ void frmGiacenza::mostra(const QString& istruzione, const QString& nonTrovata)
 {
     if (!mostraSpedizione(istruzione))
         return stato(nonTrovata);
-    scrivi(mUi->barLdv, QStringLiteral("%1 del %2").arg(tag(mUi->txtLDV), testo(mUi->txtDataLdv)));
+    scrivi(mUi->barLdv, u"%1 del %2"_s.arg(tag(mUi->txtLDV), testo(mUi->txtDataLdv)));
 }
 
 void frmGiacenza::segnaGiacenza(bool giacente)
@@ -264,14 +260,13 @@ void frmGiacenza::salva()
     if (const Seguito seguito = mConvalida->verificaCorrente())
         return seguito();
     if (txtCodiceCli->text().isEmpty() || testo(mUi->txtRifMitt).isEmpty())
-        return stato(
-            QStringLiteral("Niente da salvare: mancano il cliente o una spedizione con il suo riferimento."));
+        return stato(u"Niente da salvare: mancano il cliente o una spedizione con il suo riferimento."_s);
     CalcolaGiorniSosta();
     Ammissione ammissione;
     try {
         const auto giorno = leggiData(testo(mUi->txtDataLdv));
         if (!giorno)
-            return stato(QStringLiteral("La data della lettera di vettura non è valida."));
+            return stato(u"La data della lettera di vettura non è valida."_s);
         ammissione = ControlloInserimento(connessione(), tag(mUi->txtLDV), *giorno);
     } catch (const Errore& errore) {
         return stato(errore.testo());
@@ -280,15 +275,14 @@ void frmGiacenza::salva()
     case Ammissione::ammessa:
         return inserisci();
     case Ammissione::giaInGiacenza:
-        messaggio(QStringLiteral("Giacenza esistente impossibile inserirla in database."), Stile::avviso);
+        messaggio(u"Giacenza esistente impossibile inserirla in database."_s, Stile::avviso);
         break;
     case Ammissione::riconsegna:
-        messaggio(QStringLiteral(
-                      "La spedizione selezionata è una riconsegna relativa ad una giacenza già esistente."),
+        messaggio(u"La spedizione selezionata è una riconsegna relativa ad una giacenza già esistente."_s,
                   Stile::avviso);
         break;
     case Ammissione::sconosciuta:
-        messaggio(QStringLiteral("Lettera di vettura non presente in database."), Stile::avviso);
+        messaggio(u"Lettera di vettura non presente in database."_s, Stile::avviso);
         break;
     }
 }
@@ -314,16 +308,16 @@ void frmGiacenza::inserisci()
         scrivi(lblNrGia, InserisciGiacenza(connessione(), impostazioni().percorsoDatabase, dati));
     } catch (const Errore& errore) {
         stato(errore.testo());
-        messaggio(QStringLiteral("Impossibile aggiungere la nuova giacenza."), Stile::critico);
+        messaggio(u"Impossibile aggiungere la nuova giacenza."_s, Stile::critico);
         return;
     }
     segnaGiacenza(true);
-    messaggio(QStringLiteral("Giacenza aggiunta in database."), Stile::informazione);
+    messaggio(u"Giacenza aggiunta in database."_s, Stile::informazione);
     try {
         EmettiAvvisoGiacenza(false);
     } catch (const Errore& errore) {
         // What follows a save that succeeded ends without a message: the held shipment is there.
-        stato(QStringLiteral("L'avviso non è stato emesso: %1").arg(errore.testo()));
+        stato(u"L'avviso non è stato emesso: %1"_s.arg(errore.testo()));
     }
 }
 
@@ -331,7 +325,7 @@ ChiaveCaso frmGiacenza::chiaveAvviso(const ChiaveGiacenza&) const
 {
     const auto giorno = leggiData(testo(mUi->txtDataLdv));
     if (!giorno)
-        throw ErroreConversione(QStringLiteral("La data della lettera di vettura non è valida."));
+        throw ErroreConversione(u"La data della lettera di vettura non è valida."_s);
     return ChiaveSpedizione{mUi->txtFiliale->text(), numeroLdv(mUi->txtLDV), giorno->year()};
 }
 

@@ -10,6 +10,8 @@
 
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza {
 
 namespace {
@@ -24,8 +26,7 @@ void segnaAvanzo(QWidget* controllo, bool avanzo)
     if (eAvanzo(controllo) == avanzo)
         return;
     controllo->setProperty(proprietaAvanzo, avanzo);
-    controllo->setToolTip(avanzo ? QStringLiteral("Valore di un'altra lettera di vettura: non viene usato.")
-                                 : QString());
+    controllo->setToolTip(avanzo ? u"Valore di un'altra lettera di vettura: non viene usato."_s : QString());
     rinnovaAspetto(controllo);
 }
 
@@ -40,7 +41,7 @@ void scriviMostrato(QWidget* controllo, const QString& testo)
     else if (auto* elenco = qobject_cast<QComboBox*>(controllo))
         elenco->setCurrentText(testo);
     else if (auto* blocco = qobject_cast<QPlainTextEdit*>(controllo))
-        blocco->setPlainText(QString(testo).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+        blocco->setPlainText(QString(testo).replace(u"\r\n"_s, u"\n"_s));
     else
         throw std::logic_error("a control of a kind that holds no text");
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/spedizione.h"
+#include "screens/spedizione.h"
 
 #include <QPointer>
 #include <QWidget>

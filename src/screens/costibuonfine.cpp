@@ -1,8 +1,10 @@
 #include "screens/costibuonfine.h"
 
-#include "reports/reportcondivisi.h"
+#include "reports/letters/reportcondivisi.h"
 
 #include <string_view>
+
+using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
@@ -17,7 +19,7 @@ constexpr std::u16string_view costi[] = {u"corTot",     u"lblsosta",   u"txtGIGG
 
 void NascondiCostiBuonFine(CostiNascosti quali)
 {
-    report::Sezione& dettaglio = rptBuonFine().sezione(QStringLiteral("Dettaglio_Dettaglio"));
+    report::Sezione& dettaglio = rptBuonFine().sezione(u"Dettaglio_Dettaglio"_s);
     for (const std::u16string_view nome : costi)
         if (quali == CostiNascosti::tutti || nome != riconsegna)
             dettaglio.controllo(QString::fromUtf16(nome.data(), static_cast<qsizetype>(nome.size())))

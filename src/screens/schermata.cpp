@@ -1,14 +1,17 @@
 #include "screens/schermata.h"
 
-#include "component/impostazioni.h"
-#include "component/orologio.h"
-#include "component/servizi.h"
-#include "component/testoerrore.h"
+#include "base/impostazioni.h"
+#include "base/orologio.h"
+#include "base/parti.h"
+#include "base/testoerrore.h"
 #include "data/istruzioni.h"
+#include "data/sosta.h"
+#include "dialogs/porto.h"
 #include "screens/campi.h"
-#include "screens/porto.h"
 #include "search/apriricerca.h"
 #include "widgets/campodata.h"
+#include "widgets/naturamerce.h"
+#include "widgets/primopiano.h"
 #include "widgets/tasti.h"
 
 #include <giacenza/RicercaTabella.h>
@@ -19,6 +22,8 @@
 #include <QPushButton>
 
 #include <stdexcept>
+
+using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
@@ -99,7 +104,7 @@ void Schermata::collegaCliente()
 void Schermata::cercaCliente()
 {
     const QPointer<const Schermata> io(this);
-    const RisultatoRicerca trovato = ApriRicerca(QStringLiteral("1"), QStringLiteral("Clien"), this);
+    const RisultatoRicerca trovato = ApriRicerca(u"1"_s, u"Clien"_s, this);
     restaAperta(io);
     if (!trovato.trovato)
         return;
@@ -136,7 +141,7 @@ void Schermata::caricaPorto()
     try {
         CaricaPorto(cmbPorto, connessione());
     } catch (const ErroreDatabase& errore) {
-        stato(QStringLiteral("I termini di porto non si leggono: %1").arg(errore.testo()));
+        stato(u"I termini di porto non si leggono: %1"_s.arg(errore.testo()));
     }
 }
 
@@ -153,7 +158,7 @@ void Schermata::rilasciaConnessione()
 
 void Schermata::stato(const QString& testo)
 {
-    mStato->setText(testo.section(QLatin1Char('\n'), 0, 0));
+    mStato->setText(testo.section(u'\n', 0, 0));
     mStato->setToolTip(testo);
 }
 
@@ -166,12 +171,12 @@ std::function<void()> Schermata::gestore(std::function<void()> azione)
             } catch (const Abbandono&) {
                 throw;
             } catch (const ErroreDatabase& errore) {
-                guasto(QStringLiteral("Operazione non riuscita: il database o un suo dato non risponde come "
-                                      "dovrebbe."),
+                guasto(u"Operazione non riuscita: il database o un suo dato non risponde come "
+                       "dovrebbe."_s,
                        errore.testo());
             } catch (...) {
                 // A part of the host's throws what it likes, and nothing may pass through Qt's loop.
-                guasto(QStringLiteral("Operazione non riuscita."), testoErrore());
+                guasto(u"Operazione non riuscita."_s, testoErrore());
             }
         } catch (const Abbandono&) {
             // The screen is gone: there is nobody to tell.
@@ -196,7 +201,7 @@ Risposta Schermata::messaggio(const QString& testo, Stile stile, const QString& 
 void Schermata::guasto(const QString& cheCosa, const QString& perche)
 {
     stato(perche);
-    messaggio(cheCosa + QStringLiteral("\n\n") + perche, Stile::critico, titoloGestione());
+    messaggio(cheCosa + u"\n\n"_s + perche, Stile::critico, titoloGestione());
 }
 
 Seguito Schermata::rifiuta(QWidget* campo, const QString& testo, Stile stile, const QString& titolo)
@@ -257,8 +262,7 @@ Seguito Schermata::convalidaDataGia()
 {
     const QString digitata = testo(txtDataGia);
     if (!digitata.isEmpty() && !eData(digitata))
-        return rifiuta(txtDataGia, QStringLiteral("Controllare l'immissione della data giacenza."),
-                       Stile::avviso);
+        return rifiuta(txtDataGia, u"Controllare l'immissione della data giacenza."_s, Stile::avviso);
     CalcolaGiorniSosta();
     return {};
 }
@@ -275,8 +279,7 @@ Seguito Schermata::verificaCliente(const QString& codice, const Seguito& errato,
         cliente.apri(connessione(), istruzioni::clientePerCodice(codice));
         if (cliente.eof())
             return gestore([this] {
-                messaggio(QStringLiteral("Codice Cliente Inesistente"), Stile::informazione,
-                          titoloGestione());
+                messaggio(u"Codice Cliente Inesistente"_s, Stile::informazione, titoloGestione());
             });
         if (trovato)
             trovato(cliente.valore(0).value_or(QString()));
@@ -302,7 +305,7 @@ Seguito Schermata::convalidaCliente()
 
 QString Schermata::clienteErrato()
 {
-    return QStringLiteral("Codice cliente assente o errato");
+    return u"Codice cliente assente o errato"_s;
 }
 
 QString Schermata::titoloClienteErrato() const
@@ -314,7 +317,7 @@ bool Schermata::clienteScelto()
 {
     if (!txtCodiceCli->text().isEmpty())
         return true;
-    messaggio(QStringLiteral("Selezionare il codice cliente."), Stile::avviso);
+    messaggio(u"Selezionare il codice cliente."_s, Stile::avviso);
     txtCodiceCli->setFocus();
     return false;
 }
@@ -336,7 +339,7 @@ void Schermata::cercaFiliale()
         scrivi(barFilialeGia, valori.value(1));
     });
     const QPointer<const Schermata> io(this);
-    ricerca.parte->mostra(istruzioni::elencoFiliali(), QStringLiteral("Ricerca Filiale"), this);
+    ricerca.parte->mostra(istruzioni::elencoFiliali(), u"Ricerca Filiale"_s, this);
     restaAperta(io);
 }
 

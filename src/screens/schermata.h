@@ -1,9 +1,9 @@
 #pragma once
 
-#include "component/messaggi.h"
-#include "data/connessione.h"
-#include "data/spedizione.h"
+#include "base/messaggi.h"
+#include "database/connessione.h"
 #include "screens/convalida.h"
+#include "screens/spedizione.h"
 
 #include <QDate>
 #include <QPointer>

@@ -1,13 +1,15 @@
 #include "screens/schermatacaso.h"
 
-#include "component/impostazioni.h"
-#include "component/orologio.h"
+#include "base/impostazioni.h"
+#include "base/orologio.h"
 #include "data/avviso.h"
 #include "screens/campi.h"
 #include "screens/stampa.h"
 #include "widgets/campodata.h"
 
 #include <QLabel>
+
+using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
@@ -17,7 +19,7 @@ std::optional<ChiaveGiacenza> SchermataCaso::casoMostrato()
     const auto giorno = leggiData(testo(txtDataGia));
     if (!numero.isEmpty() && giorno)
         return ChiaveGiacenza{numero, giorno->year()};
-    stato(QStringLiteral("Nessuna giacenza sullo schermo: richiamarne una prima."));
+    stato(u"Nessuna giacenza sullo schermo: richiamarne una prima."_s);
     return std::nullopt;
 }
 
@@ -39,21 +41,21 @@ void SchermataCaso::EmettiAvvisoGiacenza(bool ristampa, const QString& descrizio
         }
     }
     stampaCaso(TipoDocumento::avviso, *caso, didascalie,
-               {QStringLiteral("Avviso di giacenza %1 prodotto."),
-                QStringLiteral("L'avviso di giacenza non è stato stampato; la giacenza resta registrata.")});
+               {u"Avviso di giacenza %1 prodotto."_s,
+                u"L'avviso di giacenza non è stato stampato; la giacenza resta registrata."_s});
 }
 
 void SchermataCaso::stampaCaso(TipoDocumento tipo, const ChiaveGiacenza& caso,
                                const std::array<QString, 4>& didascalie, const TestiStampa& testi)
 {
-    const QString chiave = QStringLiteral("%1_%2").arg(caso.numero).arg(caso.anno);
+    const QString chiave = u"%1_%2"_s.arg(caso.numero).arg(caso.anno);
     const QPointer<const Schermata> io(this);
     const auto motivo = stampaDocumento(this, tipo, chiave, didascalie);
     restaAperta(io);
     if (!motivo)
         return stato(testi.prodotto.arg(chiave));
     stato(*motivo);
-    messaggio(testi.nonProdotto + QStringLiteral("\n\n") + *motivo, Stile::avviso);
+    messaggio(testi.nonProdotto + u"\n\n"_s + *motivo, Stile::avviso);
 }
 
 } // namespace giacenza

@@ -1,13 +1,16 @@
 #include "screens/stampa.h"
 
-#include "component/impostazioni.h"
-#include "component/servizi.h"
-#include "component/testoerrore.h"
-#include "reports/fontedocumenti.h"
+#include "base/impostazioni.h"
+#include "base/servizi.h"
+#include "base/testoerrore.h"
+#include "reports/letters/fontedocumenti.h"
 #include "widgets/attesa.h"
+#include "widgets/primopiano.h"
 
 #include <QPointer>
 #include <QWidget>
+
+using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
@@ -45,7 +48,7 @@ std::optional<QString> guida(ModuloStampa& modulo, QWidget* schermata, TipoDocum
     bool nonProdotto = false;
     modulo.stampaDocumento(chiave, nonProdotto);
     if (nonProdotto)
-        return QStringLiteral("Il modulo di stampa non ha prodotto il documento.");
+        return u"Il modulo di stampa non ha prodotto il documento."_s;
     return std::nullopt;
 }
 
@@ -55,7 +58,7 @@ std::array<QString, 4> leggiDidascalie()
 {
     std::array<QString, 4> didascalie;
     for (std::size_t i = 0; i < didascalie.size(); ++i)
-        didascalie[i] = LeggiIni(QStringLiteral("Bord"), QStringLiteral("CaptionLbl%1").arg(i + 1));
+        didascalie[i] = LeggiIni(u"Bord"_s, u"CaptionLbl%1"_s.arg(i + 1));
     return didascalie;
 }
 

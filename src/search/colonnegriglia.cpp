@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza {
 
 ColonneGriglia::ColonneGriglia(QTableView* griglia, const ModelloRicerca* modello)
@@ -22,9 +24,7 @@ ColonneGriglia::ColonneGriglia(QTableView* griglia, const ModelloRicerca* modell
 
 QString ColonneGriglia::chiave() const
 {
-    return QStringLiteral("frmRicercaGia/%1/colonne%2")
-        .arg(static_cast<int>(mModo))
-        .arg(mModello->columnCount());
+    return u"frmRicercaGia/%1/colonne%2"_s.arg(static_cast<int>(mModo)).arg(mModello->columnCount());
 }
 
 void ColonneGriglia::disponi(ModoRicerca modo)
@@ -64,7 +64,7 @@ void ColonneGriglia::misura() const
         if (nascosta(mModo, nome))
             continue;
         avanzo -= testata->sectionSize(colonna);
-        if (nome.compare(QStringLiteral("Destinatario"), Qt::CaseInsensitive) == 0)
+        if (nome.compare(u"Destinatario"_s, Qt::CaseInsensitive) == 0)
             lunga = colonna;
     }
     if (lunga >= 0 && avanzo > 0)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "data/istruzioniricerca.h"
-#include "data/valori.h"
+#include "database/valori.h"
 
 namespace giacenza {
 

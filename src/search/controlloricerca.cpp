@@ -1,7 +1,7 @@
 #include "search/controlloricerca.h"
 
-#include "component/errorenumerato.h"
-#include "data/valori.h"
+#include "base/errorenumerato.h"
+#include "database/valori.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "component/messaggi.h"
+#include "base/messaggi.h"
 #include "data/istruzionisoggetti.h"
 
 #include <optional>

@@ -2,7 +2,7 @@
 
 #include "ui_frmRicerca.h"
 
-#include "component/errorenumerato.h"
+#include "base/errorenumerato.h"
 #include "search/controlloricerca.h"
 #include "widgets/attesa.h"
 #include "widgets/secondoclic.h"

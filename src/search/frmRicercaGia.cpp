@@ -2,10 +2,10 @@
 
 #include "ui_frmRicercaGia.h"
 
-#include "component/forme.h"
-#include "component/impostazioni.h"
-#include "component/messaggi.h"
-#include "component/orologio.h"
+#include "base/forme.h"
+#include "base/impostazioni.h"
+#include "base/messaggi.h"
+#include "base/orologio.h"
 #include "search/colonnegriglia.h"
 #include "search/modelloricerca.h"
 

@@ -3,12 +3,14 @@
 #include <QFocusEvent>
 #include <QMouseEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza {
 
 namespace {
 
-const QString maschera = QStringLiteral("00/00/0000;_");
-const QString mascheraVuota = QStringLiteral("__/__/____");
+const QString maschera = u"00/00/0000;_"_s;
+const QString mascheraVuota = u"__/__/____"_s;
 
 } // namespace
 
@@ -30,7 +32,7 @@ void CampoData::mostraEsempio()
     if (isReadOnly())
         setPlaceholderText({});
     else
-        setPlaceholderText(mData ? QStringLiteral("gg/mm/aaaa") : QStringLiteral("aaaa"));
+        setPlaceholderText(mData ? u"gg/mm/aaaa"_s : u"aaaa"_s);
 }
 
 bool CampoData::event(QEvent* evento)

@@ -1,6 +1,6 @@
-#include "component/formafinta.h"
-#include "component/forme.h"
-#include "component/impostazioni.h"
+#include "base/formafinta.h"
+#include "base/forme.h"
+#include "base/impostazioni.h"
 #include "component/registraforme.h"
 #include "support/registromessaggi.h"
 #include "support/stampa.h"
@@ -14,6 +14,8 @@
 #include <gmock/gmock.h>
 
 #include <thread>
+
+using namespace Qt::StringLiterals;
 
 using giacenza::cGiacenza;
 using giacenza::Forme;
@@ -32,7 +34,7 @@ const QString frmGestGia = QString::fromLatin1(nomeGestione);
 class NonRaggiungibile : public SchermataFinta<nomeGestione>
 {
 public:
-    void carica() { throw giacenza::ErroreDatabase(QStringLiteral("08S01"), 2002, QStringLiteral("rete")); }
+    void carica() { throw giacenza::ErroreDatabase(u"08S01"_s, 2002, u"rete"_s); }
 };
 
 QStringList eventi(const QString& forma, const QStringList& quali)
@@ -43,10 +45,10 @@ QStringList eventi(const QString& forma, const QStringList& quali)
     return tutti;
 }
 
-const QString creata = QStringLiteral("creata");
-const QString mostrata = QStringLiteral("mostrata");
-const QString chiusa = QStringLiteral("chiusa");
-const QString distrutta = QStringLiteral("distrutta");
+const QString creata = u"creata"_s;
+const QString mostrata = u"mostrata"_s;
+const QString chiusa = u"chiusa"_s;
+const QString distrutta = u"distrutta"_s;
 
 class Componente : public ::testing::Test
 {
@@ -82,7 +84,7 @@ void giacenza::registraForme(Forme& forme)
 
 TEST_F(Componente, iPercorsiRestanoTaliEQuali)
 {
-    const QString strano = QStringLiteral("  DRIVER={X};PWD=a;b'\"\\ à\t ");
+    const QString strano = u"  DRIVER={X};PWD=a;b'\"\\ à\t "_s;
     mClasse->setPercorsoDatabase(strano);
     mClasse->setPercorsoFileIni(strano + u'1');
     mClasse->setPercorsoLogoIntestazione(strano + u'2');
@@ -95,13 +97,13 @@ TEST_F(Componente, iPercorsiRestanoTaliEQuali)
 
 TEST_F(Componente, leImpostazioniSonoDelThreadENonDellOggetto)
 {
-    mClasse->setPercorsoDatabase(QStringLiteral("DSN=uno"));
+    mClasse->setPercorsoDatabase(u"DSN=uno"_s);
     cGiacenza altra;
-    EXPECT_EQ(altra.PercorsoDatabase(), QStringLiteral("DSN=uno"));
-    altra.setPercorsoFileIni(QStringLiteral("/dati/gest.ini"));
-    EXPECT_EQ(mClasse->PercorsoFileIni(), QStringLiteral("/dati/gest.ini"));
+    EXPECT_EQ(altra.PercorsoDatabase(), u"DSN=uno"_s);
+    altra.setPercorsoFileIni(u"/dati/gest.ini"_s);
+    EXPECT_EQ(mClasse->PercorsoFileIni(), u"/dati/gest.ini"_s);
     mClasse.reset();
-    EXPECT_EQ(cGiacenza().PercorsoDatabase(), QStringLiteral("DSN=uno"));
+    EXPECT_EQ(cGiacenza().PercorsoDatabase(), u"DSN=uno"_s);
     std::thread([] { EXPECT_EQ(cGiacenza().PercorsoDatabase(), QString()); }).join();
 }
 
@@ -109,14 +111,14 @@ TEST_F(Componente, lEtichettaDelReso)
 {
     EXPECT_EQ(impostazioni().etichettaReso, QString());
     mClasse->setTipoReso(cGiacenza::ResoMittente);
-    EXPECT_EQ(impostazioni().etichettaReso, QStringLiteral("Reso a Mittente"));
+    EXPECT_EQ(impostazioni().etichettaReso, u"Reso a Mittente"_s);
     for (const int altro : {1, 0, 3, -1, 2147483647}) {
         mClasse->setTipoReso(cGiacenza::ResoMittente);
         mClasse->setTipoReso(static_cast<cGiacenza::Reso>(altro));
-        EXPECT_EQ(impostazioni().etichettaReso, QStringLiteral("Riconsegna a Destinatario")) << altro;
+        EXPECT_EQ(impostazioni().etichettaReso, u"Riconsegna a Destinatario"_s) << altro;
     }
     mClasse->setTipoReso(static_cast<cGiacenza::Reso>(2));
-    EXPECT_EQ(impostazioni().etichettaReso, QStringLiteral("Reso a Mittente"));
+    EXPECT_EQ(impostazioni().etichettaReso, u"Reso a Mittente"_s);
 }
 
 TEST_F(Componente, cioCheSiScriveSoloNonSiLegge)
@@ -145,7 +147,7 @@ TEST_F(Componente, iNumeriDeiMembri)
 
 TEST_F(Componente, EseguiNonFaNulla)
 {
-    for (const QString& azione : {QString(), QStringLiteral("NuovaGiacenza"), QStringLiteral("qualsiasi")}) {
+    for (const QString& azione : {QString(), u"NuovaGiacenza"_s, u"qualsiasi"_s}) {
         EXPECT_FALSE(mClasse->Esegui(azione).isValid());
         EXPECT_FALSE(mClasse->Esegui(azione, QVariant(5)).isValid());
     }
@@ -169,19 +171,14 @@ TEST_F(Componente, leApertureMostranoLaSchermataETornanoSubito)
 
 TEST_F(Componente, leQuattroProprietaNelLoroOrdineEPrimaDiMostrare)
 {
-    mClasse->NuovaGiacenzaEXT(QStringLiteral("123"), QStringLiteral("01/02/2024"), QStringLiteral("MI"),
-                              QStringLiteral("77"));
-    EXPECT_EQ(accaduto(),
-              (QStringList{
-                  QStringLiteral("frmGiacenza creata"), QStringLiteral("frmGiacenza.NLettVett=123"),
-                  QStringLiteral("frmGiacenza.DataLdv=01/02/2024"), QStringLiteral("frmGiacenza.Filiale=MI"),
-                  QStringLiteral("frmGiacenza.CodiceCliente=77"), QStringLiteral("frmGiacenza mostrata")}));
+    mClasse->NuovaGiacenzaEXT(u"123"_s, u"01/02/2024"_s, u"MI"_s, u"77"_s);
+    EXPECT_EQ(accaduto(), (QStringList{u"frmGiacenza creata"_s, u"frmGiacenza.NLettVett=123"_s,
+                                       u"frmGiacenza.DataLdv=01/02/2024"_s, u"frmGiacenza.Filiale=MI"_s,
+                                       u"frmGiacenza.CodiceCliente=77"_s, u"frmGiacenza mostrata"_s}));
     accaduto().clear();
     mClasse->NuovaGiacenzaEXT({}, {}, {}, {});
-    EXPECT_EQ(
-        accaduto(),
-        (QStringList{QStringLiteral("frmGiacenza.NLettVett="), QStringLiteral("frmGiacenza.DataLdv="),
-                     QStringLiteral("frmGiacenza.Filiale="), QStringLiteral("frmGiacenza.CodiceCliente=")}));
+    EXPECT_EQ(accaduto(), (QStringList{u"frmGiacenza.NLettVett="_s, u"frmGiacenza.DataLdv="_s,
+                                       u"frmGiacenza.Filiale="_s, u"frmGiacenza.CodiceCliente="_s}));
 }
 
 TEST_F(Componente, riaprireMostraLaStessa)
@@ -268,10 +265,9 @@ TEST_F(Componente, laDistruzioneScaricaNelSuoOrdineESenzaFine)
     accaduto().clear();
     mClasse.reset();
     EXPECT_EQ(accaduto(),
-              (QStringList{QStringLiteral("frmGestGia chiusa"), QStringLiteral("frmGiacenza chiusa"),
-                           QStringLiteral("frmPorto chiusa"), QStringLiteral("frmRicerca chiusa"),
-                           QStringLiteral("frmRicercaGia chiusa"), QStringLiteral("frmRiconsegna chiusa"),
-                           QStringLiteral("rptAvviso chiusa"), QStringLiteral("rptBuonFine chiusa")}));
+              (QStringList{u"frmGestGia chiusa"_s, u"frmGiacenza chiusa"_s, u"frmPorto chiusa"_s,
+                           u"frmRicerca chiusa"_s, u"frmRicercaGia chiusa"_s, u"frmRiconsegna chiusa"_s,
+                           u"rptAvviso chiusa"_s, u"rptBuonFine chiusa"_s}));
     EXPECT_EQ(fine.size(), 0);
 }
 
@@ -305,9 +301,8 @@ TEST_F(Componente, lOspitePuoDistruggereLaClasseDentroFine)
     EXPECT_EQ(volte, 1);
     EXPECT_EQ(mClasse, nullptr);
     svuota();
-    EXPECT_EQ(accaduto(),
-              (QStringList{QStringLiteral("frmGiacenza chiusa"), QStringLiteral("frmGestGia chiusa"),
-                           QStringLiteral("frmGestGia distrutta"), QStringLiteral("frmGiacenza distrutta")}));
+    EXPECT_EQ(accaduto(), (QStringList{u"frmGiacenza chiusa"_s, u"frmGestGia chiusa"_s,
+                                       u"frmGestGia distrutta"_s, u"frmGiacenza distrutta"_s}));
 }
 
 TEST_F(Componente, lOspitePuoRiaprireDentroFine)
@@ -336,9 +331,9 @@ TEST_F(Componente, ilCaricamentoFallitoTornaAllOspiteENonMostraNulla)
         mClasse->ConsultaGiacenza();
         FAIL() << "aperta";
     } catch (const giacenza::ErroreDatabase& errore) {
-        EXPECT_EQ(errore.sqlstate(), QStringLiteral("08S01"));
+        EXPECT_EQ(errore.sqlstate(), u"08S01"_s);
         EXPECT_EQ(errore.codiceNativo(), 2002);
-        EXPECT_EQ(errore.testo(), QStringLiteral("rete"));
+        EXPECT_EQ(errore.testo(), u"rete"_s);
     }
     EXPECT_EQ(accaduto(), eventi(frmGestGia, {creata, distrutta}));
     EXPECT_EQ(mForme->caricata(frmGestGia), nullptr);
@@ -350,24 +345,23 @@ TEST_F(Componente, unaSchermataCheMancaSiDice)
     giacenza::prove::RegistroMessaggi registro;
     mForme->registra(frmGestGia, Forme::Creatore());
     mClasse->ConsultaGiacenza();
-    EXPECT_THAT(registro.prendi(),
-                ::testing::ElementsAre(giacenza::Messaggio{
-                    QStringLiteral("Questa schermata non è ancora disponibile in questa versione."),
-                    giacenza::Stile::informazione, QStringLiteral("Gestione Trasporti")}));
+    EXPECT_THAT(registro.prendi(), ::testing::ElementsAre(giacenza::Messaggio{
+                                       u"Questa schermata non è ancora disponibile in questa versione."_s,
+                                       giacenza::Stile::informazione, u"Gestione Trasporti"_s}));
     mForme->registra(frmGiacenza, Forme::Creatore());
-    mClasse->NuovaGiacenzaEXT(QStringLiteral("1"), QStringLiteral("01/02/2024"), {}, {});
+    mClasse->NuovaGiacenzaEXT(u"1"_s, u"01/02/2024"_s, {}, {});
     EXPECT_EQ(registro.prendi().size(), 1U);
     EXPECT_EQ(accaduto(), QStringList());
 }
 
 TEST_F(Componente, siChiamaAncheTardi)
 {
-    EXPECT_TRUE(QMetaObject::invokeMethod(mClasse.get(), "setPercorsoDatabase",
-                                          Q_ARG(QString, QStringLiteral("DSN=tardi"))));
+    EXPECT_TRUE(
+        QMetaObject::invokeMethod(mClasse.get(), "setPercorsoDatabase", Q_ARG(QString, u"DSN=tardi"_s)));
     QString percorso;
     EXPECT_TRUE(
         QMetaObject::invokeMethod(mClasse.get(), "PercorsoDatabase", Q_RETURN_ARG(QString, percorso)));
-    EXPECT_EQ(percorso, QStringLiteral("DSN=tardi"));
+    EXPECT_EQ(percorso, u"DSN=tardi"_s);
     EXPECT_TRUE(QMetaObject::invokeMethod(mClasse.get(), "NuovaGiacenza"));
     EXPECT_EQ(accaduto(), eventi(frmGiacenza, {creata, mostrata}));
 }

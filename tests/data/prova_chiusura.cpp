@@ -34,7 +34,7 @@ QString comeTesto(qint64 decimillesimi)
     const qint64 assoluto = std::abs(decimillesimi);
     return u"%1%2.%3"_s.arg(decimillesimi < 0 ? u"-"_s : QString())
         .arg(assoluto / scala)
-        .arg(assoluto % scala, 4, 10, QLatin1Char('0'));
+        .arg(assoluto % scala, 4, 10, QChar(u'0'));
 }
 
 struct Caso

@@ -1,6 +1,6 @@
 #include "data/istruzioni.h"
 
-#include "data/valori.h"
+#include "database/valori.h"
 #include "support/stampa.h"
 
 #include <gmock/gmock.h>

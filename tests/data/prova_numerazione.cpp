@@ -1,6 +1,6 @@
 #include "data/numerazione.h"
 
-#include "data/traccia.h"
+#include "database/traccia.h"
 #include "support/bancadati.h"
 #include "support/stampa.h"
 

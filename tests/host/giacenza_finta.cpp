@@ -1,5 +1,7 @@
 #include "giacenza_finta.h"
 
+using namespace Qt::StringLiterals;
+
 GiacenzaFinta& giacenzaFinta()
 {
     static GiacenzaFinta finta;
@@ -44,7 +46,7 @@ QString cGiacenza::PercorsoDatabase() const
 
 void cGiacenza::setPercorsoDatabase(const QString& percorso)
 {
-    segna(QStringLiteral("database ") + percorso);
+    segna(u"database "_s + percorso);
 }
 
 QString cGiacenza::PercorsoFileIni() const
@@ -54,44 +56,44 @@ QString cGiacenza::PercorsoFileIni() const
 
 void cGiacenza::setPercorsoFileIni(const QString& percorso)
 {
-    segna(QStringLiteral("ini ") + percorso);
+    segna(u"ini "_s + percorso);
 }
 
 void cGiacenza::setPercorsoLogoIntestazione(const QString& percorso)
 {
-    segna(QStringLiteral("logo ") + percorso);
+    segna(u"logo "_s + percorso);
 }
 
 void cGiacenza::setTipoReso(Reso tipo)
 {
-    segna(QStringLiteral("tipo %1").arg(tipo));
+    segna(u"tipo %1"_s.arg(tipo));
 }
 
 void cGiacenza::NuovaGiacenza()
 {
-    apri(QStringLiteral("nuova"));
+    apri(u"nuova"_s);
 }
 
 void cGiacenza::NuovaGiacenzaEXT(const QString& strLdv, const QString& strDataLdv, const QString& strFiliale,
                                  const QString& strCliente)
 {
-    apri(QStringLiteral("nuova %1|%2|%3|%4").arg(strLdv, strDataLdv, strFiliale, strCliente));
+    apri(u"nuova %1|%2|%3|%4"_s.arg(strLdv, strDataLdv, strFiliale, strCliente));
 }
 
 void cGiacenza::MostraRiconsegna()
 {
-    apri(QStringLiteral("riconsegna"));
+    apri(u"riconsegna"_s);
 }
 
 void cGiacenza::ConsultaGiacenza()
 {
-    apri(QStringLiteral("gestione"));
+    apri(u"gestione"_s);
 }
 
 QVariant cGiacenza::Esegui(const QString& Azione, const QVariant& Arg)
 {
     Q_UNUSED(Arg);
-    segna(QStringLiteral("esegui ") + Azione);
+    segna(u"esegui "_s + Azione);
     return {};
 }
 

@@ -10,6 +10,8 @@
 #include <QTest>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::prove {
 
 GestioneDiProva::GestioneDiProva()
@@ -47,7 +49,7 @@ void GestioneDiProva::avvisa(const QString& motivo)
 {
     bool venuto = false;
     nelDialogo([&](QDialog& dialogo) {
-        venuto = dialogo.objectName() == QStringLiteral("frmRifiuto") && dialogo.parentWidget() == mSchermata;
+        venuto = dialogo.objectName() == u"frmRifiuto"_s && dialogo.parentWidget() == mSchermata;
         if (motivo.isEmpty()) {
             QTest::keyClick(&dialogo, Qt::Key_Escape);
             return;
@@ -61,10 +63,10 @@ void GestioneDiProva::avvisa(const QString& motivo)
 void GestioneDiProva::confermaRifiuto(const QString& motivo)
 {
     QWidget* dialogo = QApplication::activeModalWidget();
-    auto* riga = trova<QLineEdit>(dialogo, QStringLiteral("txtMotivazione"));
+    auto* riga = trova<QLineEdit>(dialogo, u"txtMotivazione"_s);
     riga->setFocus();
     QTest::keyClicks(riga, motivo);
-    trova<QPushButton>(dialogo, QStringLiteral("cmdOk"))->click();
+    trova<QPushButton>(dialogo, u"cmdOk"_s)->click();
 }
 
 void GestioneDiProva::scriviEtichetta(const char* nome, const QString& testo)
@@ -74,14 +76,14 @@ void GestioneDiProva::scriviEtichetta(const char* nome, const QString& testo)
 
 QString GestioneDiProva::caso(const QString& colonne, const QString& numero) const
 {
-    const auto righe = mBase.righe(
-        QStringLiteral("select %1 from giace00f where GINRGI='%2' and GIANGI=2026").arg(colonne, numero));
-    return righe.isEmpty() ? QString() : righe.front().join(QLatin1Char('|'));
+    const auto righe =
+        mBase.righe(u"select %1 from giace00f where GINRGI='%2' and GIANGI=2026"_s.arg(colonne, numero));
+    return righe.isEmpty() ? QString() : righe.front().join(u'|');
 }
 
 QString GestioneDiProva::tutto(const QString& numero) const
 {
-    return caso(QStringLiteral("GINRAV,GIDTAV,GIDES1,GIDTBF,GIGGSO,FissoGiacenza,GIIMGI"), numero);
+    return caso(u"GINRAV,GIDTAV,GIDES1,GIDTBF,GIGGSO,FissoGiacenza,GIIMGI"_s, numero);
 }
 
 } // namespace giacenza::prove

@@ -5,6 +5,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 class QDialog;
 
 namespace giacenza::prove {
@@ -22,9 +24,9 @@ protected:
 
     /// Types number and date, "ddmmyyyy", and presses Enter in the date.
     void richiama(const QString& numero, const QString& data);
-    void richiamaMaiAvvisato() { richiama(QStringLiteral("41"), QStringLiteral("10112026")); }
-    void richiamaAvvisato() { richiama(QStringLiteral("39"), QStringLiteral("05112026")); }
-    void richiamaChiuso() { richiama(QStringLiteral("40"), QStringLiteral("13112026")); }
+    void richiamaMaiAvvisato() { richiama(u"41"_s, u"10112026"_s); }
+    void richiamaAvvisato() { richiama(u"39"_s, u"05112026"_s); }
+    void richiamaChiuso() { richiama(u"40"_s, u"13112026"_s); }
 
     /// Does something in the dialog that the next action opens, once it is open.
     void nelDialogo(std::function<void(QDialog& dialogo)> azione);

@@ -1,11 +1,13 @@
 #include "management/gestionediprova.h"
 
-#include "component/impostazioni.h"
-#include "component/orologio.h"
+#include "base/impostazioni.h"
+#include "base/orologio.h"
 #include "support/stampa.h"
 
 #include <QCoreApplication>
 #include <QPlainTextEdit>
+
+using namespace Qt::StringLiterals;
 
 using namespace giacenza;
 using namespace giacenza::prove;
@@ -19,12 +21,12 @@ class Avviso : public GestioneDiProva
 protected:
     QStringList stampata(int tipo, const QString& chiave) const
     {
-        return {QStringLiteral("database ") + mBase.stringa(),
-                QStringLiteral("logo /logo"),
-                QStringLiteral("didascalie uno|due|tre|quattro"),
-                QStringLiteral("stampa 1"),
-                QStringLiteral("tipo %1").arg(tipo),
-                QStringLiteral("documento ") + chiave};
+        return {u"database "_s + mBase.stringa(),
+                u"logo /logo"_s,
+                u"didascalie uno|due|tre|quattro"_s,
+                u"stampa 1"_s,
+                u"tipo %1"_s.arg(tipo),
+                u"documento "_s + chiave};
     }
     void descrivi(const QString& testo)
     {
@@ -33,8 +35,7 @@ protected:
     /// The notices of case 39 as the database has them.
     void avvisi(const QString& numero, const QString& data)
     {
-        mBase.esegui(
-            QStringLiteral("update giace00f set GINRAV=%1, GIDTAV=%2 where GINRGI='39';").arg(numero, data));
+        mBase.esegui(u"update giace00f set GINRAV=%1, GIDTAV=%2 where GINRGI='39';"_s.arg(numero, data));
     }
 };
 
@@ -44,145 +45,137 @@ INSTANTIATE_TEST_SUITE_P(Basi, Avviso, testing::Values("sqlite", "mariadb"),
 TEST_P(Avviso, IlPrimoSiContaENonScriveLaDescrizione)
 {
     richiamaMaiAvvisato();
-    const QStringList inviate = istruzioni([&] { avvisa(QStringLiteral("Non paga")); });
-    EXPECT_THAT(
-        inviate,
-        ElementsAre(QStringLiteral("select GINRAV, GIDTAV, GIDES1 from giace00f where ginrgi='41' and "
-                                   "giangi=2026;"),
-                    QStringLiteral("UPDATE giace00f SET GINRAV='1', GIDTAV='2026-11-21' WHERE "
-                                   "GINRGI='41' AND GIANGI=2026;")));
-    EXPECT_EQ(mostrato("lblDataAvviso"), QStringLiteral("2026-11-21"));
-    EXPECT_EQ(mostrato("lblStatoCaso"), QStringLiteral("APERTA · 1 AVVISO"));
-    EXPECT_EQ(mostrato("txtDescGia"), QStringLiteral("10/11/2026 - Assente\n21/11/2026 - Non paga"));
-    EXPECT_EQ(caso(QStringLiteral("GINRAV,GIDTAV,GIDES1"), QStringLiteral("41")),
-              QStringLiteral("1|2026-11-21|10/11/2026 - Assente"));
-    EXPECT_EQ(mStampe, stampata(5, QStringLiteral("41_2026")));
-    EXPECT_EQ(mostrato("lblStato"), QStringLiteral("Avviso di giacenza 41_2026 prodotto."));
+    const QStringList inviate = istruzioni([&] { avvisa(u"Non paga"_s); });
+    EXPECT_THAT(inviate, ElementsAre(u"select GINRAV, GIDTAV, GIDES1 from giace00f where ginrgi='41' and "
+                                     "giangi=2026;"_s,
+                                     u"UPDATE giace00f SET GINRAV='1', GIDTAV='2026-11-21' WHERE "
+                                     "GINRGI='41' AND GIANGI=2026;"_s));
+    EXPECT_EQ(mostrato("lblDataAvviso"), u"2026-11-21"_s);
+    EXPECT_EQ(mostrato("lblStatoCaso"), u"APERTA · 1 AVVISO"_s);
+    EXPECT_EQ(mostrato("txtDescGia"), u"10/11/2026 - Assente\n21/11/2026 - Non paga"_s);
+    EXPECT_EQ(caso(u"GINRAV,GIDTAV,GIDES1"_s, u"41"_s), u"1|2026-11-21|10/11/2026 - Assente"_s);
+    EXPECT_EQ(mStampe, stampata(5, u"41_2026"_s));
+    EXPECT_EQ(mostrato("lblStato"), u"Avviso di giacenza 41_2026 prodotto."_s);
 }
 
 TEST_P(Avviso, IlSuccessivoSiContaESostituisceLaDescrizione)
 {
     richiamaAvvisato();
-    EXPECT_EQ(mostrato("lblStatoCaso"), QStringLiteral("APERTA · 3 AVVISI"));
-    const QStringList inviate = istruzioni([&] { avvisa(QStringLiteral("L'ufficio rifiuta")); });
+    EXPECT_EQ(mostrato("lblStatoCaso"), u"APERTA · 3 AVVISI"_s);
+    const QStringList inviate = istruzioni([&] { avvisa(u"L'ufficio rifiuta"_s); });
     ASSERT_EQ(inviate.size(), 2);
-    EXPECT_EQ(inviate.back(),
-              QStringLiteral("UPDATE giace00f SET GINRAV='4', GIDTAV='2026-11-21', GIDES1='Trasloco\r\n"
-                             "21/11/2026 - L''ufficio rifiuta' WHERE GINRGI='39' AND GIANGI=2026;"));
-    EXPECT_EQ(caso(QStringLiteral("GINRAV,GIDTAV,GIDES1"), QStringLiteral("39")),
-              QStringLiteral("4|2026-11-21|Trasloco\r\n21/11/2026 - L'ufficio rifiuta"));
-    EXPECT_EQ(mostrato("lblStatoCaso"), QStringLiteral("APERTA · 4 AVVISI"));
-    EXPECT_EQ(mStampe, stampata(5, QStringLiteral("39_2026")));
+    EXPECT_EQ(inviate.back(), u"UPDATE giace00f SET GINRAV='4', GIDTAV='2026-11-21', GIDES1='Trasloco\r\n"
+                              "21/11/2026 - L''ufficio rifiuta' WHERE GINRGI='39' AND GIANGI=2026;"_s);
+    EXPECT_EQ(caso(u"GINRAV,GIDTAV,GIDES1"_s, u"39"_s),
+              u"4|2026-11-21|Trasloco\r\n21/11/2026 - L'ufficio rifiuta"_s);
+    EXPECT_EQ(mostrato("lblStatoCaso"), u"APERTA · 4 AVVISI"_s);
+    EXPECT_EQ(mStampe, stampata(5, u"39_2026"_s));
 }
 
 TEST_P(Avviso, LoStessoGiornoSiRistampaSenzaContare)
 {
     richiamaAvvisato();
-    avvisa(QStringLiteral("uno"));
-    const QString prima = tutto(QStringLiteral("39"));
+    avvisa(u"uno"_s);
+    const QString prima = tutto(u"39"_s);
     mStampe.clear();
-    avvisa(QStringLiteral("due"));
-    EXPECT_EQ(tutto(QStringLiteral("39")), prima) << "nor is the second reason stored";
-    EXPECT_EQ(mStampe, stampata(5, QStringLiteral("39_2026")));
+    avvisa(u"due"_s);
+    EXPECT_EQ(tutto(u"39"_s), prima) << "nor is the second reason stored";
+    EXPECT_EQ(mStampe, stampata(5, u"39_2026"_s));
     impostaOggi(QDate(2026, 11, 22));
-    avvisa(QStringLiteral("tre"));
-    EXPECT_EQ(caso(QStringLiteral("GINRAV,GIDTAV,GIDES1"), QStringLiteral("39")),
-              QStringLiteral("5|2026-11-22|Trasloco\r\n21/11/2026 - uno\r\n21/11/2026 - due\r\n22/11/2026 - "
-                             "tre"));
+    avvisa(u"tre"_s);
+    EXPECT_EQ(caso(u"GINRAV,GIDTAV,GIDES1"_s, u"39"_s),
+              u"5|2026-11-22|Trasloco\r\n21/11/2026 - uno\r\n21/11/2026 - due\r\n22/11/2026 - "
+              "tre"_s);
 }
 
 TEST_P(Avviso, UnaDataInAvantiContaComeOggi)
 {
-    avvisi(QStringLiteral("'3'"), QStringLiteral("'2026-11-22'"));
+    avvisi(u"'3'"_s, u"'2026-11-22'"_s);
     richiamaAvvisato();
-    const QString prima = tutto(QStringLiteral("39"));
-    avvisa(QStringLiteral("futuro"));
-    EXPECT_EQ(tutto(QStringLiteral("39")), prima);
-    EXPECT_EQ(mStampe, stampata(5, QStringLiteral("39_2026")));
-    EXPECT_EQ(mostrato("lblDataAvviso"), QStringLiteral("22/11/2026"));
+    const QString prima = tutto(u"39"_s);
+    avvisa(u"futuro"_s);
+    EXPECT_EQ(tutto(u"39"_s), prima);
+    EXPECT_EQ(mStampe, stampata(5, u"39_2026"_s));
+    EXPECT_EQ(mostrato("lblDataAvviso"), u"22/11/2026"_s);
 }
 
 TEST_P(Avviso, SenzaContoEIlPrimoQualunqueSiaLaData)
 {
     for (const char16_t* conto : {u"null", u"''"}) {
-        avvisi(QString::fromUtf16(conto), QStringLiteral("'2026-11-30'"));
+        avvisi(QString::fromUtf16(conto), u"'2026-11-30'"_s);
         richiamaAvvisato();
-        avvisa(QStringLiteral("uno"));
-        EXPECT_EQ(caso(QStringLiteral("GINRAV,GIDTAV,GIDES1"), QStringLiteral("39")),
-                  QStringLiteral("1|2026-11-21|Trasloco"));
+        avvisa(u"uno"_s);
+        EXPECT_EQ(caso(u"GINRAV,GIDTAV,GIDES1"_s, u"39"_s), u"1|2026-11-21|Trasloco"_s);
     }
 }
 
 TEST_P(Avviso, ContoODataSbagliatiFermanoSenzaScrivereNeStampare)
 {
-    const QString ieri = QStringLiteral("'2026-11-20'");
+    const QString ieri = u"'2026-11-20'"_s;
     std::vector<std::pair<QString, QString>> sbagliati = {
-        {QStringLiteral("'due'"), ieri},
-        {QStringLiteral("'32767'"), ieri},
-        {QStringLiteral("'99999'"), ieri},
-        {QStringLiteral("'3'"), QStringLiteral("null")},
+        {u"'due'"_s, ieri},
+        {u"'32767'"_s, ieri},
+        {u"'99999'"_s, ieri},
+        {u"'3'"_s, u"null"_s},
     };
     if (GetParam() == "sqlite") // the other takes nothing but a date
-        sbagliati.emplace_back(QStringLiteral("'3'"), QStringLiteral("'ieri'"));
+        sbagliati.emplace_back(u"'3'"_s, u"'ieri'"_s);
     for (const auto& [conto, data] : sbagliati) {
         avvisi(conto, data);
         richiamaAvvisato();
-        const QString prima = tutto(QStringLiteral("39"));
+        const QString prima = tutto(u"39"_s);
         const QString mostrata = mostrato("lblDataAvviso");
-        avvisa(QStringLiteral("motivo"));
+        avvisa(u"motivo"_s);
         const auto messaggi = mMessaggi.prendi();
         ASSERT_EQ(messaggi.size(), 1U) << conto.toStdString();
         EXPECT_EQ(messaggi.front().stile, Stile::critico);
-        EXPECT_EQ(tutto(QStringLiteral("39")), prima);
+        EXPECT_EQ(tutto(u"39"_s), prima);
         EXPECT_EQ(mostrato("lblDataAvviso"), mostrata);
         EXPECT_THAT(mStampe, IsEmpty());
     }
-    avvisi(QStringLiteral("'32766'"), ieri);
+    avvisi(u"'32766'"_s, ieri);
     richiamaAvvisato();
-    avvisa(QStringLiteral("ultimo"));
-    EXPECT_EQ(caso(QStringLiteral("GINRAV"), QStringLiteral("39")), QStringLiteral("32767"));
+    avvisa(u"ultimo"_s);
+    EXPECT_EQ(caso(u"GINRAV"_s, u"39"_s), u"32767"_s);
 }
 
 TEST_P(Avviso, DueApostrofiFermanoPrimaDiScrivereEDiStampare)
 {
     richiamaAvvisato();
-    const QString prima = tutto(QStringLiteral("39"));
-    descrivi(QStringLiteral("L'autista"));
-    const QStringList inviate = istruzioni([&] { avvisa(QStringLiteral("dall'ufficio")); });
+    const QString prima = tutto(u"39"_s);
+    descrivi(u"L'autista"_s);
+    const QStringList inviate = istruzioni([&] { avvisa(u"dall'ufficio"_s); });
     EXPECT_EQ(inviate.size(), 1) << "the state was read, and nothing else was sent";
     EXPECT_THAT(mMessaggi.prendi(),
-                ElementsAre(Messaggio{
-                    QStringLiteral("Operazione non riuscita.\n\nLa descrizione non si può scrivere: "
-                                   "contiene più di un apostrofo. Lasciarne uno e ripetere."),
-                    Stile::critico, QStringLiteral("Gestione Trasporti")}))
+                ElementsAre(Messaggio{u"Operazione non riuscita.\n\nLa descrizione non si può scrivere: "
+                                      "contiene più di un apostrofo. Lasciarne uno e ripetere."_s,
+                                      Stile::critico, u"Gestione Trasporti"_s}))
         << "nothing is said of the database, which has not failed";
-    EXPECT_EQ(tutto(QStringLiteral("39")), prima);
-    EXPECT_EQ(mostrato("lblDataAvviso"), QStringLiteral("20/11/2026"));
+    EXPECT_EQ(tutto(u"39"_s), prima);
+    EXPECT_EQ(mostrato("lblDataAvviso"), u"20/11/2026"_s);
     EXPECT_THAT(mStampe, IsEmpty());
 
-    descrivi(QStringLiteral("L'autista"));
-    avvisa(QStringLiteral("ufficio"));
-    EXPECT_EQ(caso(QStringLiteral("GIDES1"), QStringLiteral("39")),
-              QStringLiteral("L'autista\r\n21/11/2026 - ufficio"));
+    descrivi(u"L'autista"_s);
+    avvisa(u"ufficio"_s);
+    EXPECT_EQ(caso(u"GIDES1"_s, u"39"_s), u"L'autista\r\n21/11/2026 - ufficio"_s);
 }
 
 TEST_P(Avviso, UnaDescrizioneLunghissimaSiScriveTutta)
 {
     richiamaAvvisato();
-    const QString lunga = QString(59'980, QLatin1Char('x'));
+    const QString lunga = QString(59'980, u'x');
     descrivi(lunga);
-    avvisa(QStringLiteral("fine"));
-    EXPECT_EQ(caso(QStringLiteral("GIDES1"), QStringLiteral("39")),
-              lunga + QStringLiteral("\r\n21/11/2026 - fine"));
+    avvisa(u"fine"_s);
+    EXPECT_EQ(caso(u"GIDES1"_s, u"39"_s), lunga + u"\r\n21/11/2026 - fine"_s);
 }
 
 TEST_P(Avviso, LAnnullamentoDelRifiutoNonFaNiente)
 {
     richiamaAvvisato();
-    const QString prima = tutto(QStringLiteral("39"));
+    const QString prima = tutto(u"39"_s);
     EXPECT_THAT(istruzioni([&] { avvisa({}); }), IsEmpty());
-    EXPECT_EQ(tutto(QStringLiteral("39")), prima);
-    EXPECT_EQ(mostrato("txtDescGia"), QStringLiteral("Trasloco"));
+    EXPECT_EQ(tutto(u"39"_s), prima);
+    EXPECT_EQ(mostrato("txtDescGia"), u"Trasloco"_s);
     EXPECT_THAT(mStampe, IsEmpty());
 }
 
@@ -191,39 +184,38 @@ TEST_P(Avviso, UnCasoChiusoRifiutaLAvvisoESiRistampa)
     richiamaChiuso();
     EXPECT_THAT(istruzioni([&] { clicca("cmdAvvisoGia"); }), IsEmpty()) << "and no dialog opens";
     EXPECT_THAT(mMessaggi.prendi(),
-                ElementsAre(Messaggio{QStringLiteral("La giacenza risulta chiusa,in data: 18/11/2026."),
-                                      Stile::informazione, QStringLiteral("Gestione Trasporti")}));
+                ElementsAre(Messaggio{u"La giacenza risulta chiusa,in data: 18/11/2026."_s,
+                                      Stile::informazione, u"Gestione Trasporti"_s}));
     EXPECT_THAT(mStampe, IsEmpty());
-    const QString prima = tutto(QStringLiteral("40"));
+    const QString prima = tutto(u"40"_s);
     clicca("cmdRistampa");
-    EXPECT_EQ(mStampe, stampata(5, QStringLiteral("40_2026")));
-    EXPECT_EQ(tutto(QStringLiteral("40")), prima);
+    EXPECT_EQ(mStampe, stampata(5, u"40_2026"_s));
+    EXPECT_EQ(tutto(u"40"_s), prima);
 }
 
 TEST_P(Avviso, ChiusoMentreIlRifiutoEApertoLaRoutineRifiuta)
 {
     richiamaAvvisato();
-    const QString prima = tutto(QStringLiteral("39"));
+    const QString prima = tutto(u"39"_s);
     nelDialogo([&](QDialog&) {
-        scriviEtichetta("lblDataBuonFine", QStringLiteral("20/11/2026"));
-        confermaRifiuto(QStringLiteral("tardi"));
+        scriviEtichetta("lblDataBuonFine", u"20/11/2026"_s);
+        confermaRifiuto(u"tardi"_s);
     });
     clicca("cmdAvvisoGia");
-    EXPECT_THAT(
-        mMessaggi.prendi(),
-        ElementsAre(Messaggio{QStringLiteral("E' già stato rilasciato il buon fine per questa giacenza."),
-                              Stile::avviso, titoloApplicazione()}));
-    EXPECT_EQ(tutto(QStringLiteral("39")), prima);
+    EXPECT_THAT(mMessaggi.prendi(),
+                ElementsAre(Messaggio{u"E' già stato rilasciato il buon fine per questa giacenza."_s,
+                                      Stile::avviso, titoloApplicazione()}));
+    EXPECT_EQ(tutto(u"39"_s), prima);
     EXPECT_THAT(mStampe, IsEmpty());
 }
 
 TEST_P(Avviso, LaRistampaNonScriveNienteAncheMaiAvvisato)
 {
     richiamaMaiAvvisato();
-    const QString prima = tutto(QStringLiteral("41"));
+    const QString prima = tutto(u"41"_s);
     EXPECT_THAT(istruzioni([&] { clicca("cmdRistampa"); }), IsEmpty());
-    EXPECT_EQ(mStampe, stampata(5, QStringLiteral("41_2026")));
-    EXPECT_EQ(tutto(QStringLiteral("41")), prima);
+    EXPECT_EQ(mStampe, stampata(5, u"41_2026"_s));
+    EXPECT_EQ(tutto(u"41"_s), prima);
     EXPECT_EQ(mostrato("lblDataAvviso"), QString());
 }
 
@@ -233,8 +225,7 @@ TEST_P(Avviso, SenzaUnCasoSiDiceESiSta)
     for (const char* bottone : {"cmdAvvisoGia", "cmdRistampa", "cmdBuonFine"}) {
         scriviEtichetta("lblStato", {});
         EXPECT_THAT(istruzioni([&] { clicca(bottone); }), IsEmpty()) << bottone;
-        EXPECT_EQ(mostrato("lblStato"),
-                  QStringLiteral("Nessuna giacenza sullo schermo: richiamarne una prima."))
+        EXPECT_EQ(mostrato("lblStato"), u"Nessuna giacenza sullo schermo: richiamarne una prima."_s)
             << bottone;
     }
     EXPECT_THAT(mStampe, IsEmpty());
@@ -245,12 +236,12 @@ TEST_P(Avviso, LaStampaCheNonRiesceSiDiceEIlContoResta)
 {
     const std::string inizio = "L'avviso di giacenza non è stato stampato; la giacenza resta registrata.\n\n";
     richiamaAvvisato();
-    mGuastoStampa = QStringLiteral("Il disco è pieno.");
-    avvisa(QStringLiteral("uno"));
+    mGuastoStampa = u"Il disco è pieno."_s;
+    avvisa(u"uno"_s);
     EXPECT_THAT(mMessaggi.prendi(),
                 ElementsAre(Messaggio{QString::fromStdString(inizio + "Il disco è pieno."), Stile::avviso,
                                       titoloApplicazione()}));
-    EXPECT_EQ(caso(QStringLiteral("GINRAV"), QStringLiteral("39")), QStringLiteral("4"));
+    EXPECT_EQ(caso(u"GINRAV"_s, u"39"_s), u"4"_s);
     mGuastoStampa.clear();
     mStampaNonProdotta = true;
     clicca("cmdRistampa");
@@ -259,7 +250,7 @@ TEST_P(Avviso, LaStampaCheNonRiesceSiDiceEIlContoResta)
     mDuranteStampa = [] { throw 42; };
     clicca("cmdRistampa");
     EXPECT_EQ(mMessaggi.prendi().front().testo.toStdString(), inizio + "errore sconosciuto");
-    impostazioni().percorsoFileIni = QStringLiteral("/non/ce.ini");
+    impostazioni().percorsoFileIni = u"/non/ce.ini"_s;
     clicca("cmdRistampa");
     EXPECT_THAT(mMessaggi.prendi().front().testo.toStdString(),
                 testing::StartsWith(inizio + "Manca la voce IdentificativoDll"));
@@ -268,31 +259,30 @@ TEST_P(Avviso, LaStampaCheNonRiesceSiDiceEIlContoResta)
 TEST_P(Avviso, CollegamentoPersoPrimaDiOgniIstruzione)
 {
     richiamaAvvisato();
-    const QString prima = tutto(QStringLiteral("39"));
+    const QString prima = tutto(u"39"_s);
     for (const char16_t* punto : {u"select GINRAV", u"UPDATE giace00f SET GINRAV"}) {
-        fallisce(QString::fromUtf16(punto), QStringLiteral("08S01"));
-        avvisa(QStringLiteral("motivo"));
+        fallisce(QString::fromUtf16(punto), u"08S01"_s);
+        avvisa(u"motivo"_s);
         guarisce();
-        EXPECT_THAT(mMessaggi.prendi(),
-                    ElementsAre(Messaggio{
-                        QStringLiteral("Operazione non riuscita: il database o un suo dato non risponde come "
-                                       "dovrebbe.\n\nguasto di prova"),
-                        Stile::critico, QStringLiteral("Gestione Trasporti")}));
-        EXPECT_EQ(tutto(QStringLiteral("39")), prima);
-        EXPECT_EQ(mostrato("lblDataAvviso"), QStringLiteral("20/11/2026"));
-        EXPECT_EQ(mostrato("lblStatoCaso"), QStringLiteral("APERTA · 3 AVVISI"));
+        EXPECT_THAT(
+            mMessaggi.prendi(),
+            ElementsAre(Messaggio{u"Operazione non riuscita: il database o un suo dato non risponde come "
+                                  "dovrebbe.\n\nguasto di prova"_s,
+                                  Stile::critico, u"Gestione Trasporti"_s}));
+        EXPECT_EQ(tutto(u"39"_s), prima);
+        EXPECT_EQ(mostrato("lblDataAvviso"), u"20/11/2026"_s);
+        EXPECT_EQ(mostrato("lblStatoCaso"), u"APERTA · 3 AVVISI"_s);
         EXPECT_THAT(mStampe, IsEmpty());
     }
-    avvisa(QStringLiteral("motivo"));
-    EXPECT_EQ(caso(QStringLiteral("GINRAV"), QStringLiteral("39")), QStringLiteral("4"))
-        << "and then it works";
+    avvisa(u"motivo"_s);
+    EXPECT_EQ(caso(u"GINRAV"_s, u"39"_s), u"4"_s) << "and then it works";
 }
 
 TEST_P(Avviso, LaSchermataCheSeNeVaSottoIlRifiutoAbbandona)
 {
     for (const bool distrutta : {false, true}) {
         richiamaAvvisato();
-        const QString prima = tutto(QStringLiteral("39"));
+        const QString prima = tutto(u"39"_s);
         nelDialogo([&](QDialog&) {
             if (distrutta)
                 delete mSchermata;
@@ -302,7 +292,7 @@ TEST_P(Avviso, LaSchermataCheSeNeVaSottoIlRifiutoAbbandona)
         clicca("cmdAvvisoGia");
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_TRUE(mSchermata.isNull());
-        EXPECT_EQ(tutto(QStringLiteral("39")), prima);
+        EXPECT_EQ(tutto(u"39"_s), prima);
         EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
         EXPECT_THAT(mStampe, IsEmpty());
     }
@@ -317,8 +307,8 @@ TEST_P(Avviso, LaSchermataPuoSparireSottoLaStampa)
         EXPECT_TRUE(mSchermata.isNull()) << bottone;
         EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
     }
-    EXPECT_EQ(mStampe.filter(QStringLiteral("documento 39_2026")).size(), 2);
-    EXPECT_EQ(caso(QStringLiteral("GIDTBF,GIGGSO"), QStringLiteral("39")), QStringLiteral("2026-11-21|16"));
+    EXPECT_EQ(mStampe.filter(u"documento 39_2026"_s).size(), 2);
+    EXPECT_EQ(caso(u"GIDTBF,GIGGSO"_s, u"39"_s), u"2026-11-21|16"_s);
 }
 
 TEST_P(Avviso, LaSchermataPuoSparireSottoOgniSuoMessaggio)
@@ -329,27 +319,26 @@ TEST_P(Avviso, LaSchermataPuoSparireSottoOgniSuoMessaggio)
              apri();
              clicca("cmdRicGiac");
          },
-         QStringLiteral("Manca il numero della giacenza.")},
-        {[this] { richiama(QStringLiteral("41"), {}); }, QStringLiteral("Manca la data della giacenza.")},
-        {[this] { richiama(QStringLiteral("77"), QStringLiteral("10112026")); },
-         QStringLiteral("Giacenza: 77 del 10/11/2026 non trovata.")},
+         u"Manca il numero della giacenza."_s},
+        {[this] { richiama(u"41"_s, {}); }, u"Manca la data della giacenza."_s},
+        {[this] { richiama(u"77"_s, u"10112026"_s); }, u"Giacenza: 77 del 10/11/2026 non trovata."_s},
         {[this] {
              richiamaChiuso();
              clicca("cmdAvvisoGia");
          },
-         QStringLiteral("La giacenza risulta chiusa,in data: 18/11/2026.")},
+         u"La giacenza risulta chiusa,in data: 18/11/2026."_s},
         {[this] {
              richiamaMaiAvvisato();
              clicca("cmdBuonFine");
          },
-         QStringLiteral("Non è stato ancora emesso un avviso di giacenza.")},
+         u"Non è stato ancora emesso un avviso di giacenza."_s},
         {[this] {
              richiamaChiuso();
-             mGuastoStampa = QStringLiteral("guasto");
+             mGuastoStampa = u"guasto"_s;
              clicca("cmdRistampa");
          },
-         QStringLiteral("L'avviso di giacenza non è stato stampato; la giacenza resta "
-                        "registrata.\n\nguasto")},
+         u"L'avviso di giacenza non è stato stampato; la giacenza resta "
+         "registrata.\n\nguasto"_s},
     };
     for (const auto& [modo, messaggio] : modi) {
         modo();

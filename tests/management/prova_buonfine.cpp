@@ -1,8 +1,8 @@
 #include "management/gestionediprova.h"
 
-#include "component/impostazioni.h"
-#include "component/orologio.h"
-#include "reports/reportcondivisi.h"
+#include "base/impostazioni.h"
+#include "base/orologio.h"
+#include "reports/letters/reportcondivisi.h"
 #include "screens/costibuonfine.h"
 #include "support/stampa.h"
 

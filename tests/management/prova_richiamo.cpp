@@ -12,6 +12,8 @@
 #include <QTableView>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 using namespace giacenza;
 using namespace giacenza::prove;
 using testing::ElementsAre;
@@ -24,15 +26,15 @@ class Richiamo : public GestioneDiProva
 protected:
     static Messaggio deiTrasporti(const QString& testo)
     {
-        return {testo, Stile::avviso, QStringLiteral("Gestione Trasporti")};
+        return {testo, Stile::avviso, u"Gestione Trasporti"_s};
     }
     QString blocco() const
     {
-        return QStringLiteral(
-            "SELECT letve00f.*, giace00f.*, forni.RagioneSociale as Vettore, filiali.Descrizione as filiale, "
-            "codicizona.Descrizione as linea from (((letve00f LEFT JOIN giace00f on lefili=gifili and "
-            "lenrlv=ginrlv and leanlv=gianlv) inner JOIN filiali ON lefili=filiali.codice) INNER JOIN "
-            "codicizona on lelin1=codicizona.Codice) INNER join forni ON forni.Codice=lecdve");
+        return u"SELECT letve00f.*, giace00f.*, forni.RagioneSociale as Vettore, filiali.Descrizione as "
+               u"filiale, "
+               "codicizona.Descrizione as linea from (((letve00f LEFT JOIN giace00f on lefili=gifili and "
+               "lenrlv=ginrlv and leanlv=gianlv) inner JOIN filiali ON lefili=filiali.codice) INNER JOIN "
+               "codicizona on lelin1=codicizona.Codice) INNER join forni ON forni.Codice=lecdve"_s;
     }
     bool attivo(const char* nome) const { return c(nome)->isEnabled(); }
     void riattiva()
@@ -48,9 +50,9 @@ INSTANTIATE_TEST_SUITE_P(Basi, Richiamo, testing::Values("sqlite", "mariadb"),
 TEST_P(Richiamo, SiApreVuotaPerNumero)
 {
     apri();
-    EXPECT_EQ(mSchermata->objectName(), QStringLiteral("frmGestGia"));
-    EXPECT_EQ(mostrato("txtDataGia"), QStringLiteral("21/11/2026"));
-    EXPECT_EQ(mostrato("lblDataLav"), QStringLiteral("21/11/2026"));
+    EXPECT_EQ(mSchermata->objectName(), u"frmGestGia"_s);
+    EXPECT_EQ(mostrato("txtDataGia"), u"21/11/2026"_s);
+    EXPECT_EQ(mostrato("lblDataLav"), u"21/11/2026"_s);
     EXPECT_TRUE(attivo("txtNGiace"));
     EXPECT_FALSE(attivo("txtCodiceCli"));
     EXPECT_FALSE(c("lblStatoCaso")->isVisible());
@@ -63,7 +65,7 @@ TEST_P(Richiamo, PerNumeroMostraIlCasoEPortaIlFuoco)
     apri();
     const QStringList inviate = istruzioni([&] { richiamaChiuso(); });
     ASSERT_FALSE(inviate.isEmpty());
-    EXPECT_EQ(inviate.front(), blocco() + QStringLiteral(" WHERE ginrgi='40' and GIDTGI='2026-11-13';"));
+    EXPECT_EQ(inviate.front(), blocco() + u" WHERE ginrgi='40' and GIDTGI='2026-11-13';"_s);
     const std::pair<const char*, const char16_t*> attesi[] = {
         {"txtLDV", u"4714"},
         {"txtAnnoLdv", u"2026"},
@@ -98,15 +100,14 @@ TEST_P(Richiamo, NumeroEDataMancantiSiDiconoENonSiCerca)
 {
     apri();
     EXPECT_THAT(istruzioni([&] { clicca("cmdRicGiac"); }), IsEmpty());
-    EXPECT_THAT(mMessaggi.prendi(),
-                ElementsAre(deiTrasporti(QStringLiteral("Manca il numero della giacenza."))));
+    EXPECT_THAT(mMessaggi.prendi(), ElementsAre(deiTrasporti(u"Manca il numero della giacenza."_s)));
     EXPECT_TRUE(c("txtNGiace")->hasFocus());
 
-    const auto mancaData = deiTrasporti(QStringLiteral("Manca la data della giacenza."));
-    scrivi("txtNGiace", QStringLiteral("41"));
+    const auto mancaData = deiTrasporti(u"Manca la data della giacenza."_s);
+    scrivi("txtNGiace", u"41"_s);
     EXPECT_THAT(istruzioni([&] { clicca("cmdRicGiac"); }), IsEmpty());
     EXPECT_THAT(mMessaggi.prendi(), ElementsAre(mancaData));
-    EXPECT_EQ(mostrato("txtNGiace"), QStringLiteral("41"));
+    EXPECT_EQ(mostrato("txtNGiace"), u"41"_s);
     for (const char16_t* errata : {u"1011", u"31022026", u"00000000"}) {
         scrivi("txtDataGiace", QString::fromUtf16(errata));
         EXPECT_THAT(istruzioni([&] { tasto("txtDataGiace", Qt::Key_Enter); }), IsEmpty());
@@ -117,12 +118,11 @@ TEST_P(Richiamo, NumeroEDataMancantiSiDiconoENonSiCerca)
 TEST_P(Richiamo, LaDataDellaRicercaSiControllaLasciandola)
 {
     apri();
-    scrivi("txtNGiace", QStringLiteral("41"));
+    scrivi("txtNGiace", u"41"_s);
     lascia("txtNGiace");
-    scrivi("txtDataGiace", QStringLiteral("31022026"));
+    scrivi("txtDataGiace", u"31022026"_s);
     lascia("txtDataGiace");
-    const Messaggio attesa = {QStringLiteral("Inserire una data valida."), Stile::avviso,
-                              titoloApplicazione()};
+    const Messaggio attesa = {u"Inserire una data valida."_s, Stile::avviso, titoloApplicazione()};
     EXPECT_THAT(mMessaggi.prendi(), ElementsAre(attesa));
     EXPECT_TRUE(c("txtDataGiace")->hasFocus());
     clicca("cmdRicGiac");
@@ -134,15 +134,14 @@ TEST_P(Richiamo, LaDataDellaRicercaSiControllaLasciandola)
 TEST_P(Richiamo, CioCheNonCeSiDiceEResteranoSoloLeChiavi)
 {
     richiamaChiuso();
-    scrivi("txtDataGiace", QStringLiteral("14112026"));
+    scrivi("txtDataGiace", u"14112026"_s);
     tasto("txtDataGiace", Qt::Key_Return);
-    EXPECT_THAT(mMessaggi.prendi(),
-                ElementsAre(deiTrasporti(QStringLiteral("Giacenza: 40 del 14/11/2026 non trovata."))));
+    EXPECT_THAT(mMessaggi.prendi(), ElementsAre(deiTrasporti(u"Giacenza: 40 del 14/11/2026 non trovata."_s)));
     for (const char* nome : {"lblNrGia", "lblDataAvviso", "lblDataBuonFine", "lblFattura", "barGiorniSosta",
                              "barFilSped", "barFilialeGia", "txtLDV", "txtDestinatario", "txtDescGia"})
         EXPECT_EQ(mostrato(nome), QString()) << nome;
-    EXPECT_EQ(mostrato("txtNGiace"), QStringLiteral("40"));
-    EXPECT_EQ(mostrato("txtDataGiace"), QStringLiteral("14/11/2026"));
+    EXPECT_EQ(mostrato("txtNGiace"), u"40"_s);
+    EXPECT_EQ(mostrato("txtDataGiace"), u"14/11/2026"_s);
     EXPECT_FALSE(c("lblStatoCaso")->isVisible());
 }
 
@@ -150,13 +149,13 @@ TEST_P(Richiamo, SenzaVettoreLineaOFilialeNonSiRichiama)
 {
     for (const char16_t* colonna : {u"lecdve", u"lelin1"}) {
         for (const char16_t* valore : {u"null", u"'ZZ'"}) {
-            mBase.esegui(QStringLiteral("update letve00f set %1=%2 where lenrlv='4711';")
-                             .arg(QString::fromUtf16(colonna), QString::fromUtf16(valore)));
+            mBase.esegui(u"update letve00f set %1=%2 where lenrlv='4711';"_s.arg(QString::fromUtf16(colonna),
+                                                                                 QString::fromUtf16(valore)));
             richiamaMaiAvvisato();
-            EXPECT_THAT(mMessaggi.prendi(), ElementsAre(deiTrasporti(
-                                                QStringLiteral("Giacenza: 41 del 10/11/2026 non trovata."))));
+            EXPECT_THAT(mMessaggi.prendi(),
+                        ElementsAre(deiTrasporti(u"Giacenza: 41 del 10/11/2026 non trovata."_s)));
         }
-        mBase.esegui(QStringLiteral("update letve00f set lecdve='V01', lelin1='L05' where lenrlv='4711';"));
+        mBase.esegui(u"update letve00f set lecdve='V01', lelin1='L05' where lenrlv='4711';"_s);
     }
 }
 
@@ -165,32 +164,32 @@ TEST_P(Richiamo, LasciandoIlNumeroLaSchermataSiPulisce)
     richiamaChiuso();
     c("txtNGiace")->setFocus();
     lascia("txtNGiace");
-    EXPECT_EQ(mostrato("txtNGiace"), QStringLiteral("40"));
-    EXPECT_EQ(mostrato("txtDataGia"), QStringLiteral("21/11/2026"));
-    EXPECT_EQ(mostrato("lblDataLav"), QStringLiteral("21/11/2026"));
+    EXPECT_EQ(mostrato("txtNGiace"), u"40"_s);
+    EXPECT_EQ(mostrato("txtDataGia"), u"21/11/2026"_s);
+    EXPECT_EQ(mostrato("lblDataLav"), u"21/11/2026"_s);
     for (const char* nome :
          {"txtDataGiace", "txtLDV", "txtAnnoLdv", "txtFiliale", "txtDestinatario", "txtDescGia", "lblNrGia",
           "txtFilialeGia", "barFilialeGia", "lblDataAvviso", "lblDataBuonFine", "lblFattura", "txtDataFatt",
           "txtImponibile", "txtGiaOld", "txtDataGiaOld", "barGiorniSosta", "cmbPorto"})
         EXPECT_EQ(mostrato(nome), QString()) << nome;
     EXPECT_FALSE(qobject_cast<QLineEdit*>(c("txtDataGia"))->isReadOnly());
-    qobject_cast<QComboBox*>(c("cmbNaturaMerce"))->setEditText(QStringLiteral("LIBRI"));
+    qobject_cast<QComboBox*>(c("cmbNaturaMerce"))->setEditText(u"LIBRI"_s);
     c("txtNGiace")->setFocus();
     lascia("txtNGiace");
-    EXPECT_EQ(mostrato("cmbNaturaMerce"), QStringLiteral("LIBRI")) << "the goods type stays";
+    EXPECT_EQ(mostrato("cmbNaturaMerce"), u"LIBRI"_s) << "the goods type stays";
 }
 
 TEST_P(Richiamo, IlCasoDiPrimaNonPrestaNiente)
 {
     richiamaChiuso();
-    scrivi("txtDataGiace", QStringLiteral("10112026"));
-    qobject_cast<QLineEdit*>(c("txtNGiace"))->setText(QStringLiteral("41"));
+    scrivi("txtDataGiace", u"10112026"_s);
+    qobject_cast<QLineEdit*>(c("txtNGiace"))->setText(u"41"_s);
     tasto("txtDataGiace", Qt::Key_Return);
-    EXPECT_EQ(mostrato("lblNrGia"), QStringLiteral("41"));
+    EXPECT_EQ(mostrato("lblNrGia"), u"41"_s);
     EXPECT_EQ(mostrato("lblDataBuonFine"), QString());
     EXPECT_EQ(mostrato("lblDataAvviso"), QString());
-    EXPECT_EQ(mostrato("lblStatoCaso"), QStringLiteral("APERTA · NESSUN AVVISO"));
-    EXPECT_EQ(mostrato("barGiorniSosta"), QStringLiteral("11"));
+    EXPECT_EQ(mostrato("lblStatoCaso"), u"APERTA · NESSUN AVVISO"_s);
+    EXPECT_EQ(mostrato("barGiorniSosta"), u"11"_s);
     for (const char* nome : {"txtDataFatt", "txtImponibile", "txtGiaOld"})
         EXPECT_TRUE(avanzo(nome)) << nome;
 }
@@ -199,10 +198,10 @@ TEST_P(Richiamo, LaCasellaSceglieIlModo)
 {
     apri();
     auto* casella = qobject_cast<QCheckBox*>(c("chkRicerca"));
-    EXPECT_EQ(casella->text(), QStringLiteral("Ric. per n. giacenza"));
+    EXPECT_EQ(casella->text(), u"Ric. per n. giacenza"_s);
     c("chkRicerca")->setFocus();
     QTest::keyClick(casella, Qt::Key_Space);
-    EXPECT_EQ(casella->text(), QStringLiteral("Ric. cod. cliente"));
+    EXPECT_EQ(casella->text(), u"Ric. cod. cliente"_s);
     for (const char* nome : {"lblGiace", "lblDataGiace", "txtNGiace", "txtDataGiace"})
         EXPECT_FALSE(attivo(nome)) << nome;
     for (const char* nome : {"lblCliente", "txtCodiceCli", "barCliente", "cmdCercaCliente"})
@@ -220,15 +219,15 @@ TEST_P(Richiamo, OgniAttivazioneTornaAiCampiDelNumeroELaCasellaResta)
 {
     apri();
     clicca("chkRicerca");
-    scrivi("txtCodiceCli", QStringLiteral("1001"));
+    scrivi("txtCodiceCli", u"1001"_s);
     riattiva();
     EXPECT_TRUE(qobject_cast<QCheckBox*>(c("chkRicerca"))->isChecked());
-    EXPECT_EQ(qobject_cast<QCheckBox*>(c("chkRicerca"))->text(), QStringLiteral("Ric. per n. giacenza"));
+    EXPECT_EQ(qobject_cast<QCheckBox*>(c("chkRicerca"))->text(), u"Ric. per n. giacenza"_s);
     EXPECT_TRUE(attivo("txtNGiace"));
     EXPECT_FALSE(attivo("txtCodiceCli"));
     bool venuta = false;
     nelDialogo([&](QDialog& dialogo) {
-        venuta = dialogo.objectName() == QStringLiteral("frmRicercaGia");
+        venuta = dialogo.objectName() == u"frmRicercaGia"_s;
         QTest::keyClick(&dialogo, Qt::Key_Escape);
     });
     clicca("cmdRicGiac");
@@ -241,14 +240,13 @@ TEST_P(Richiamo, PerClienteSiPrendeLaRigaConITasti)
 {
     apri();
     clicca("chkRicerca");
-    scrivi("txtCodiceCli", QStringLiteral("1001"));
+    scrivi("txtCodiceCli", u"1001"_s);
     lascia("txtCodiceCli");
-    EXPECT_EQ(mostrato("barCliente"), QStringLiteral("Ferramenta Lombarda S.r.l."));
+    EXPECT_EQ(mostrato("barCliente"), u"Ferramenta Lombarda S.r.l."_s);
     QString ldv;
     nelDialogo([&](QDialog& dialogo) {
-        EXPECT_EQ(trova<QLabel>(dialogo, QStringLiteral("lblCliente"))->text(),
-                  QStringLiteral("Ferramenta Lombarda S.r.l."));
-        auto* griglia = trova<QTableView>(dialogo, QStringLiteral("Griglia"));
+        EXPECT_EQ(trova<QLabel>(dialogo, u"lblCliente"_s)->text(), u"Ferramenta Lombarda S.r.l."_s);
+        auto* griglia = trova<QTableView>(dialogo, u"Griglia"_s);
         ASSERT_EQ(griglia->model()->rowCount(), 3);
         griglia->setFocus();
         QTest::keyClick(griglia, Qt::Key_Down);
@@ -256,13 +254,11 @@ TEST_P(Richiamo, PerClienteSiPrendeLaRigaConITasti)
         QTest::keyClick(griglia, Qt::Key_Return);
     });
     const QStringList inviate = istruzioni([&] { clicca("cmdRicGiac"); });
-    EXPECT_THAT(inviate, testing::Contains(blocco() + QStringLiteral(" WHERE lenrlv='%1' and "
-                                                                     "ledtlv='2026-11-12';")
-                                                          .arg(ldv)));
+    EXPECT_THAT(inviate, testing::Contains(blocco() + u" WHERE lenrlv='%1' and "
+                                                      "ledtlv='2026-11-12';"_s.arg(ldv)));
     ASSERT_FALSE(ldv.isEmpty());
     EXPECT_EQ(mostrato("txtLDV"), ldv);
-    EXPECT_EQ(mostrato("lblNrGia"),
-              mBase.leggi(QStringLiteral("select GINRGI from giace00f where GINRLV='%1'").arg(ldv)));
+    EXPECT_EQ(mostrato("lblNrGia"), mBase.leggi(u"select GINRGI from giace00f where GINRLV='%1'"_s.arg(ldv)));
     // The offscreen platform leaves it to us to wake the screen under a dialog that closed.
     mSchermata->activateWindow();
     EXPECT_TRUE(QTest::qWaitFor([&] { return c("txtFilSped")->hasFocus(); }));
@@ -272,20 +268,18 @@ TEST_P(Richiamo, IlCodiceClienteSiControllaComeAllaRegistrazione)
 {
     apri();
     clicca("chkRicerca");
-    scrivi("txtCodiceCli", QStringLiteral("abc"));
-    const auto attesa =
-        Messaggio{QStringLiteral("Codice cliente assente o errato"), Stile::avviso, titoloApplicazione()};
+    scrivi("txtCodiceCli", u"abc"_s);
+    const auto attesa = Messaggio{u"Codice cliente assente o errato"_s, Stile::avviso, titoloApplicazione()};
     EXPECT_THAT(istruzioni([&] { lascia("txtCodiceCli"); }), IsEmpty());
     EXPECT_THAT(mMessaggi.prendi(), ElementsAre(attesa));
     scorciatoia(Qt::Key_H);
     EXPECT_THAT(mMessaggi.prendi(), ElementsAre(attesa)) << "a shortcut moves no focus";
-    scrivi("txtCodiceCli", QStringLiteral("77"));
+    scrivi("txtCodiceCli", u"77"_s);
     EXPECT_THAT(istruzioni([&] { lascia("txtCodiceCli"); }),
-                ElementsAre(QStringLiteral("select RagioneSociale from clien where Codice=77;")));
-    EXPECT_THAT(mMessaggi.prendi(),
-                ElementsAre(Messaggio{QStringLiteral("Codice Cliente Inesistente"), Stile::informazione,
-                                      QStringLiteral("Gestione Trasporti")}));
-    scrivi("txtCodiceCli", QStringLiteral("1001"));
+                ElementsAre(u"select RagioneSociale from clien where Codice=77;"_s));
+    EXPECT_THAT(mMessaggi.prendi(), ElementsAre(Messaggio{u"Codice Cliente Inesistente"_s,
+                                                          Stile::informazione, u"Gestione Trasporti"_s}));
+    scrivi("txtCodiceCli", u"1001"_s);
     lascia("txtCodiceCli");
     EXPECT_TRUE(qobject_cast<QLineEdit*>(c("txtCodiceCli"))->isReadOnly());
     clicca("chkRicerca");
@@ -296,25 +290,24 @@ TEST_P(Richiamo, IlCodiceClienteSiControllaComeAllaRegistrazione)
 TEST_P(Richiamo, LaDataDellaGiacenzaSiControllaSoloSenzaUnCaso)
 {
     apri();
-    scrivi("txtDataGia", QStringLiteral("31022026"));
+    scrivi("txtDataGia", u"31022026"_s);
     lascia("txtDataGia");
-    EXPECT_THAT(mMessaggi.prendi(),
-                ElementsAre(Messaggio{QStringLiteral("Controllare l'immissione della data giacenza."),
-                                      Stile::avviso, titoloApplicazione()}));
-    scrivi("txtDataGia", QStringLiteral("19112026"));
+    EXPECT_THAT(mMessaggi.prendi(), ElementsAre(Messaggio{u"Controllare l'immissione della data giacenza."_s,
+                                                          Stile::avviso, titoloApplicazione()}));
+    scrivi("txtDataGia", u"19112026"_s);
     lascia("txtDataGia");
-    EXPECT_EQ(mostrato("barGiorniSosta"), QStringLiteral("2"));
+    EXPECT_EQ(mostrato("barGiorniSosta"), u"2"_s);
     richiamaMaiAvvisato();
-    scrivi("txtDataGia", QStringLiteral("31022026"));
+    scrivi("txtDataGia", u"31022026"_s);
     lascia("txtDataGia");
-    EXPECT_EQ(mostrato("txtDataGia"), QStringLiteral("10/11/2026")) << "the shown case's key";
+    EXPECT_EQ(mostrato("txtDataGia"), u"10/11/2026"_s) << "the shown case's key";
     EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
 }
 
 TEST_P(Richiamo, UnNumeroConUnApostrofoNonParte)
 {
     apri();
-    EXPECT_THAT(istruzioni([&] { richiama(QStringLiteral("4'1"), QStringLiteral("10112026")); }), IsEmpty());
+    EXPECT_THAT(istruzioni([&] { richiama(u"4'1"_s, u"10112026"_s); }), IsEmpty());
     ASSERT_EQ(mMessaggi.messaggi().size(), 1U);
     EXPECT_EQ(mMessaggi.messaggi().front().stile, Stile::critico);
 }

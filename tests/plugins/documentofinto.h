@@ -6,6 +6,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::prove {
 
 /// A document of as many pages as a test wants, each with its number on it.
@@ -17,7 +19,7 @@ public:
         : mPagine(pagine), mAlDipingere(std::move(alDipingere))
     {}
 
-    QString titolo() const override { return QStringLiteral("Elenco di prova"); }
+    QString titolo() const override { return u"Elenco di prova"_s; }
     QPageLayout impaginazione() const override
     {
         QPageLayout impaginazione(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF());
@@ -28,7 +30,7 @@ public:
     bool dipingi(int pagina, QPainter& pittore) override
     {
         const int dpi = pittore.device()->logicalDpiX();
-        pittore.drawText(QPoint(dpi, dpi), QStringLiteral("foglio %1").arg(pagina + 1));
+        pittore.drawText(QPoint(dpi, dpi), u"foglio %1"_s.arg(pagina + 1));
         return !mAlDipingere || mAlDipingere(pagina);
     }
     void ricomincia() override { ++ricominciato; }
@@ -52,7 +54,7 @@ public:
     QString cartellaDocumenti() const override { return mCartella; }
     QString impostazione(const QString& chiave) const override
     {
-        return chiave == QLatin1String("Modalita") ? modalita : QString();
+        return chiave == "Modalita"_L1 ? modalita : QString();
     }
 
     QString modalita;

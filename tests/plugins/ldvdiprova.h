@@ -1,12 +1,14 @@
 #pragma once
 
 #include "data/istruzioni.h"
-#include "data/recordset.h"
+#include "database/recordset.h"
 
 #include <giacenza/Contesto.h>
 #include <giacenza/EmittenteLdv.h>
 
 #include <map>
+
+using namespace Qt::StringLiterals;
 
 namespace giacenza::prove {
 
@@ -20,7 +22,7 @@ public:
     LdvDiProva(Connessione& connessione, const QString& numero)
     {
         Recordset riga;
-        riga.apri(connessione, istruzioni::spedizioneIntera({QStringLiteral("MI"), numero, 2026}));
+        riga.apri(connessione, istruzioni::spedizioneIntera({u"MI"_s, numero, 2026}));
         for (int i = 0; i < riga.colonne(); ++i)
             mValori[riga.nomeColonna(i).toLower()] = riga.valore(i);
     }
@@ -36,8 +38,8 @@ private:
 /// A re-delivery on 21/11/2026 of the held shipment 40, without check.
 inline Contesto contestoDiProva()
 {
-    return {.lavoro = QStringLiteral("Riconsegna a Destinatario"),
-            .numeroGiacenza = QStringLiteral("40"),
+    return {.lavoro = u"Riconsegna a Destinatario"_s,
+            .numeroGiacenza = u"40"_s,
             .annoGiacenza = 2026,
             .oggi = QDate(2026, 11, 21)};
 }

@@ -1,6 +1,6 @@
 #include "stampa/archivio.h"
 
-#include "component/limitefile.h"
+#include "base/limitefile.h"
 #include "support/stampa.h"
 
 #include <giacenza/Errore.h>

@@ -1,5 +1,5 @@
-#include "component/parti.h"
-#include "data/traccia.h"
+#include "base/parti.h"
+#include "database/traccia.h"
 #include "plugins/ldvdiprova.h"
 #include "support/bancadati.h"
 #include "support/modale.h"

@@ -1,8 +1,8 @@
 #include "plugins/documentofinto.h"
 #include "stampa/stampante.h"
 
-#include "component/cartellaprova.h"
-#include "component/parti.h"
+#include "base/cartellaprova.h"
+#include "base/parti.h"
 #include "support/modale.h"
 #include "support/trova.h"
 

@@ -1,10 +1,10 @@
 #include "stampa/modulodeposito.h"
 
-#include "component/cartellaprova.h"
-#include "component/parti.h"
+#include "base/cartellaprova.h"
+#include "base/parti.h"
 #include "reports/casodiprova.h"
-#include "reports/fontedocumenti.h"
-#include "reports/reportcondivisi.h"
+#include "reports/letters/fontedocumenti.h"
+#include "reports/letters/reportcondivisi.h"
 
 #include <QDir>
 #include <QProcess>

@@ -1,4 +1,4 @@
-#include "data/traccia.h"
+#include "database/traccia.h"
 #include "emissione/emittente.h"
 #include "emissione/nuovaldv.h"
 #include "plugins/ldvdiprova.h"

@@ -1,6 +1,6 @@
 #include <giacenza/RicercaTabella.h>
 
-#include "component/parti.h"
+#include "base/parti.h"
 #include "data/istruzioni.h"
 #include "support/bancadati.h"
 #include "support/modale.h"

@@ -1,5 +1,5 @@
 #include "data/riconsegne.h"
-#include "redelivery/frmPorto.h"
+#include "dialogs/frmPorto.h"
 #include "redelivery/riconsegnadiprova.h"
 #include "support/modale.h"
 #include "support/stampa.h"

@@ -1,5 +1,5 @@
-#include "component/impostazioni.h"
-#include "data/traccia.h"
+#include "base/impostazioni.h"
+#include "database/traccia.h"
 #include "redelivery/riconsegnadiprova.h"
 #include "screens/campi.h"
 #include "search/frmRicercaGia.h"

@@ -1,6 +1,6 @@
 #include "redelivery/riconsegnadiprova.h"
 
-#include "redelivery/frmPorto.h"
+#include "dialogs/frmPorto.h"
 #include "redelivery/frmRiconsegna.h"
 #include "support/modale.h"
 #include "support/trova.h"
@@ -11,6 +11,8 @@
 #include <QRadioButton>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::prove {
 
 namespace {
@@ -19,42 +21,36 @@ const QString classe = QString::fromUtf16(classeEmittenteLdv);
 
 void riempiGiacenza(const BancaDati& base, int numero, int legate, bool chiusa)
 {
-    const QString ldv = QStringLiteral("9%1").arg(numero);
-    base.esegui(QStringLiteral(
-                    "insert into giace00f (GIFILI,GINRLV,GIANLV,GICODI,GIFIGI,GINRGI,GIANGI,GIDTGI,GIDTBF) "
-                    "values ('MI','%1',2026,1001,'BO','%2',2026,'2026-11-13',%3);")
-                    .arg(ldv)
+    const QString ldv = u"9%1"_s.arg(numero);
+    base.esegui(u"insert into giace00f (GIFILI,GINRLV,GIANLV,GICODI,GIFIGI,GINRGI,GIANGI,GIDTGI,GIDTBF) "
+                "values ('MI','%1',2026,1001,'BO','%2',2026,'2026-11-13',%3);"_s.arg(ldv)
                     .arg(numero)
-                    .arg(chiusa ? QStringLiteral("'2026-11-19'") : QStringLiteral("null")));
+                    .arg(chiusa ? u"'2026-11-19'"_s : u"null"_s));
     QStringList righe;
     for (int i = 0; i < std::max(legate, 1); ++i)
-        righe << QStringLiteral(
-                     "('MI','%1',2026,'2026-11-12',1001,'Casalinghi Rossi','V01','L05','ORD-%2',%3)")
-                     .arg(i == 0 ? ldv : QStringLiteral("8%1%2").arg(numero).arg(i, 3, 10, QLatin1Char('0')))
+        righe << u"('MI','%1',2026,'2026-11-12',1001,'Casalinghi Rossi','V01','L05','ORD-%2',%3)"_s
+                     .arg(i == 0 ? ldv : u"8%1%2"_s.arg(numero).arg(i, 3, 10, QChar(u'0')))
                      .arg(numero)
-                     .arg(legate == 0 ? QStringLiteral("null,null")
-                                      : QStringLiteral("'%1',2026").arg(numero));
-    base.esegui(
-        QStringLiteral(
-            "insert into letve00f "
-            "(lefili,lenrlv,leanlv,ledtlv,lecodi,ledest,lecdve,lelin1,lerife,LERFGI,LEANGI) values ") +
-        righe.join(QLatin1Char(',')) + QLatin1Char(';'));
+                     .arg(legate == 0 ? u"null,null"_s : u"'%1',2026"_s.arg(numero));
+    base.esegui(u"insert into letve00f "
+                "(lefili,lenrlv,leanlv,ledtlv,lecodi,ledest,lecdve,lelin1,lerife,LERFGI,LEANGI) values "_s +
+                righe.join(u',') + u';');
 }
 
 void rispondi(frmPorto& finestra, const Porto& porto)
 {
     if (porto.riga >= 0)
-        trova<QComboBox>(finestra, QStringLiteral("cmbPorto"))->setCurrentIndex(porto.riga);
+        trova<QComboBox>(finestra, u"cmbPorto"_s)->setCurrentIndex(porto.riga);
     if (!porto.controllo)
-        trova<QRadioButton>(finestra, QStringLiteral("optGiacenzaNo"))->click();
+        trova<QRadioButton>(finestra, u"optGiacenzaNo"_s)->click();
     if (!porto.stampa)
-        trova<QRadioButton>(finestra, QStringLiteral("optStampaLDVNo"))->click();
+        trova<QRadioButton>(finestra, u"optStampaLDVNo"_s)->click();
     switch (porto.chiude) {
     case Porto::Chiude::conferma:
-        QTest::mouseClick(trova<QPushButton>(finestra, QStringLiteral("cmdEsci")), Qt::LeftButton);
+        QTest::mouseClick(trova<QPushButton>(finestra, u"cmdEsci"_s), Qt::LeftButton);
         break;
     case Porto::Chiude::annulla:
-        QTest::mouseClick(trova<QPushButton>(finestra, QStringLiteral("cmdAnnulla")), Qt::LeftButton);
+        QTest::mouseClick(trova<QPushButton>(finestra, u"cmdAnnulla"_s), Qt::LeftButton);
         break;
     case Porto::Chiude::esc:
         QTest::keyClick(&finestra, Qt::Key_Escape);
@@ -69,46 +65,45 @@ void rispondi(frmPorto& finestra, const Porto& porto)
 
 void EmittenteDiProva::setContesto(const Contesto& contesto)
 {
-    mEmissioni.chiamate << QStringLiteral("contesto");
+    mEmissioni.chiamate << u"contesto"_s;
     mEmissioni.contesti.push_back(contesto);
 }
 
 void EmittenteDiProva::setPercorsoDatabase(const QString& percorso)
 {
-    mEmissioni.chiamate << QStringLiteral("database ") + percorso;
+    mEmissioni.chiamate << u"database "_s + percorso;
     if (mEmissioni.allInizio)
         mEmissioni.allInizio();
 }
 
 void EmittenteDiProva::setCartellaStampa(const QString& cartella)
 {
-    mEmissioni.chiamate << QStringLiteral("cartella ") + cartella;
+    mEmissioni.chiamate << u"cartella "_s + cartella;
 }
 
 void EmittenteDiProva::setPercorsoLogo(const QString& percorso)
 {
-    mEmissioni.chiamate << QStringLiteral("logo ") + percorso;
+    mEmissioni.chiamate << u"logo "_s + percorso;
 }
 
 void EmittenteDiProva::setStampa(bool stampa)
 {
-    mEmissioni.chiamate << QStringLiteral("stampa %1").arg(stampa);
+    mEmissioni.chiamate << u"stampa %1"_s.arg(stampa);
 }
 
 void EmittenteDiProva::setDefinitiva(bool definitiva)
 {
-    mEmissioni.chiamate << QStringLiteral("definitiva %1").arg(definitiva);
+    mEmissioni.chiamate << u"definitiva %1"_s.arg(definitiva);
 }
 
 QString EmittenteDiProva::emetti(const RecordLdv& ldv)
 {
-    const QString numero =
-        ldv.vuoto() ? QStringLiteral("(vuota)") : ldv.valore(QStringLiteral("LENRLV")).value_or(QString());
-    mEmissioni.chiamate << QStringLiteral("emetti ") + numero;
+    const QString numero = ldv.vuoto() ? u"(vuota)"_s : ldv.valore(u"LENRLV"_s).value_or(QString());
+    mEmissioni.chiamate << u"emetti "_s + numero;
     mEmissioni.colonne.push_back(ldv.colonne());
     if (mEmissioni.durante)
         mEmissioni.durante();
-    return QStringLiteral("Emessa da %1").arg(numero);
+    return u"Emessa da %1"_s.arg(numero);
 }
 
 RiconsegnaDiProva::RiconsegnaDiProva()
@@ -137,7 +132,7 @@ void RiconsegnaDiProva::cerca(const QString& ldv, const QString& data)
         apri();
     attiva();
     if (mostrato("txtCodiceCli").isEmpty()) {
-        scrivi("txtCodiceCli", QStringLiteral("1001"));
+        scrivi("txtCodiceCli", u"1001"_s);
         lascia("txtCodiceCli");
     }
     scrivi("txtLDV", ldv);
@@ -166,7 +161,7 @@ bool RiconsegnaDiProva::bottoneAcceso() const
 
 QLabel* RiconsegnaDiProva::stato() const
 {
-    return trova<QLabel>(mSchermata, QStringLiteral("lblStato"));
+    return trova<QLabel>(mSchermata, u"lblStato"_s);
 }
 
 } // namespace giacenza::prove

@@ -7,6 +7,8 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::prove {
 
 /// What an issuer was driven with, and what it is to do.
@@ -69,7 +71,7 @@ protected:
     /// Without a window manager nobody gives the window the focus back when a dialog over it has closed.
     void attiva();
     /// Types number and date and has the waybill shown.
-    void cerca(const QString& ldv, const QString& data = QStringLiteral("12112026"));
+    void cerca(const QString& ldv, const QString& data = u"12112026"_s);
     /// Presses the button, answers the freight terms, and gives back the calls that the issuer got.
     QStringList emetti(const Porto& porto = {});
     bool bottoneAcceso() const;

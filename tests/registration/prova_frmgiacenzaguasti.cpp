@@ -1,7 +1,7 @@
 #include "registration/registrazionediprova.h"
 
-#include "component/impostazioni.h"
-#include "data/traccia.h"
+#include "base/impostazioni.h"
+#include "database/traccia.h"
 #include "support/stampa.h"
 
 #include <giacenza/RicercaTabella.h>
@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
+
+using namespace Qt::StringLiterals;
 
 using namespace giacenza;
 using namespace giacenza::prove;
@@ -27,65 +29,61 @@ INSTANTIATE_TEST_SUITE_P(Basi, RegistrazioneGuasti, testing::Values("sqlite", "m
 
 TEST_P(RegistrazioneGuasti, UnSalvataggioFallitoLoDiceENonLasciaNiente)
 {
-    const Messaggio impossibile = {QStringLiteral("Impossibile aggiungere la nuova giacenza."),
-                                   Stile::critico, titoloApplicazione()};
-    consegna(QStringLiteral("4711"));
+    const Messaggio impossibile = {u"Impossibile aggiungere la nuova giacenza."_s, Stile::critico,
+                                   titoloApplicazione()};
+    consegna(u"4711"_s);
     for (const char16_t* punto : {u"select UltimoNumGiacenza", u"update ekelvorqzt",
                                   u"select * from giace00f", u"insert into giace00f", u"update letve00f"}) {
-        fallisce(QString::fromUtf16(punto), QStringLiteral("08S01"));
+        fallisce(QString::fromUtf16(punto), u"08S01"_s);
         clicca("cmdSalva");
         guarisce();
         EXPECT_THAT(mMessaggi.prendi(), ElementsAre(impossibile));
         EXPECT_EQ(mostrato("lblNrGia"), QString()) << "the label shows what it showed before";
-        EXPECT_EQ(mBase.leggi(QStringLiteral("select count(*) from giace00f where GINRLV='4711'")),
-                  QStringLiteral("0"));
-        EXPECT_EQ(mBase.leggi(QStringLiteral("select LEDTCO from letve00f where lenrlv='4711'")),
-                  QStringLiteral("2026-11-14"));
+        EXPECT_EQ(mBase.leggi(u"select count(*) from giace00f where GINRLV='4711'"_s), u"0"_s);
+        EXPECT_EQ(mBase.leggi(u"select LEDTCO from letve00f where lenrlv='4711'"_s), u"2026-11-14"_s);
     }
     EXPECT_THAT(mStampe, IsEmpty());
     clicca("cmdSalva");
-    EXPECT_THAT(mMessaggi.testi(), ElementsAre(QStringLiteral("Giacenza aggiunta in database.")))
-        << "and then it works";
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(u"Giacenza aggiunta in database."_s)) << "and then it works";
 }
 
 TEST_P(RegistrazioneGuasti, UnGuastoFuoriDallInserimentoFinisceSenzaMessaggio)
 {
-    consegna(QStringLiteral("4711"));
-    fallisce(QStringLiteral("select Lerico"));
+    consegna(u"4711"_s);
+    fallisce(u"select Lerico"_s);
     clicca("cmdSalva");
     guarisce();
-    EXPECT_EQ(mostrato("lblStato"), QStringLiteral("guasto di prova"));
+    EXPECT_EQ(mostrato("lblStato"), u"guasto di prova"_s);
 
-    fallisce(QStringLiteral("select GINRAV"));
+    fallisce(u"select GINRAV"_s);
     clicca("cmdSalva");
     guarisce();
-    EXPECT_THAT(mMessaggi.testi(), ElementsAre(QStringLiteral("Giacenza aggiunta in database.")));
-    EXPECT_EQ(mBase.leggi(QStringLiteral("select GINRAV from giace00f where GINRLV='4711'")), std::nullopt);
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(u"Giacenza aggiunta in database."_s));
+    EXPECT_EQ(mBase.leggi(u"select GINRAV from giace00f where GINRLV='4711'"_s), std::nullopt);
     EXPECT_THAT(mStampe, IsEmpty());
 }
 
 TEST_P(RegistrazioneGuasti, LEtichettaDellAvvisoCambiaSoloDopoLIstruzione)
 {
-    consegna(QStringLiteral("4714"));
-    mBase.esegui(QStringLiteral("update giace00f set GIDTAV='2026-11-20' where GINRGI='40';"));
-    fallisce(QStringLiteral("UPDATE giace00f SET GINRAV"));
+    consegna(u"4714"_s);
+    mBase.esegui(u"update giace00f set GIDTAV='2026-11-20' where GINRGI='40';"_s);
+    fallisce(u"UPDATE giace00f SET GINRAV"_s);
     clicca("cmdAvvisoGia");
     guarisce();
     EXPECT_EQ(mMessaggi.prendi().size(), 1U);
-    EXPECT_EQ(mostrato("lblDataAvviso"), QStringLiteral("15/11/2026"));
+    EXPECT_EQ(mostrato("lblDataAvviso"), u"15/11/2026"_s);
     EXPECT_THAT(mStampe, IsEmpty());
 }
 
 TEST_P(RegistrazioneGuasti, UnContoCheNonEUnNumeroFermaLAvviso)
 {
-    consegna(QStringLiteral("4714"));
+    consegna(u"4714"_s);
     for (const char16_t* conto : {u"due", u"32767"}) {
-        mBase.esegui(QStringLiteral("update giace00f set GIDTAV='2026-11-20', GINRAV='%1' where GINRGI='40';")
-                         .arg(QString::fromUtf16(conto)));
+        mBase.esegui(u"update giace00f set GIDTAV='2026-11-20', GINRAV='%1' where GINRGI='40';"_s.arg(
+            QString::fromUtf16(conto)));
         clicca("cmdAvvisoGia");
         EXPECT_EQ(mMessaggi.prendi().size(), 1U);
-        EXPECT_EQ(mBase.leggi(QStringLiteral("select GINRAV from giace00f where GINRGI='40'")),
-                  QString::fromUtf16(conto));
+        EXPECT_EQ(mBase.leggi(u"select GINRAV from giace00f where GINRGI='40'"_s), QString::fromUtf16(conto));
     }
     EXPECT_THAT(mStampe, IsEmpty());
 }
@@ -98,26 +96,25 @@ TEST_P(RegistrazioneGuasti, UnaStampaCheNonRiesceSiDiceELaGiacenzaResta)
         const auto messaggi = mMessaggi.prendi();
         EXPECT_EQ(messaggi.size(), 2U);
         EXPECT_EQ(
-            mBase.leggi(
-                QStringLiteral("select GINRAV from giace00f where GINRLV='%1'").arg(QString::fromUtf16(ldv))),
-            QStringLiteral("1"));
+            mBase.leggi(u"select GINRAV from giace00f where GINRLV='%1'"_s.arg(QString::fromUtf16(ldv))),
+            u"1"_s);
         return messaggi.back().testo.toStdString();
     };
     const std::string inizio = "L'avviso di giacenza non è stato stampato; la giacenza resta registrata.\n\n";
-    mGuastoStampa = QStringLiteral("Il disco è pieno.");
+    mGuastoStampa = u"Il disco è pieno."_s;
     EXPECT_EQ(salva(u"4711"), inizio + "Il disco è pieno.");
     mGuastoStampa.clear();
     mStampaNonProdotta = true;
     EXPECT_EQ(salva(u"4712"), inizio + "Il modulo di stampa non ha prodotto il documento.");
-    impostazioni().percorsoFileIni = QStringLiteral("/non/ce.ini");
-    mBase.esegui(QStringLiteral("insert into letve00f (lefili,lenrlv,leanlv,ledtlv,lecodi,lerife) values "
-                                "('MI','4716',2026,'2026-11-12',1001,'X');"));
+    impostazioni().percorsoFileIni = u"/non/ce.ini"_s;
+    mBase.esegui(u"insert into letve00f (lefili,lenrlv,leanlv,ledtlv,lecodi,lerife) values "
+                 "('MI','4716',2026,'2026-11-12',1001,'X');"_s);
     EXPECT_THAT(salva(u"4716"), StartsWith(inizio + "Manca la voce IdentificativoDll"));
 }
 
 TEST_P(RegistrazioneGuasti, SenzaDatabaseLaSchermataNonSiApre)
 {
-    impostazioni().percorsoDatabase = QStringLiteral("DRIVER={Non esiste};SERVER=127.0.0.1");
+    impostazioni().percorsoDatabase = u"DRIVER={Non esiste};SERVER=127.0.0.1"_s;
     frmGiacenza schermata;
     EXPECT_THROW(schermata.carica(), ErroreDatabase);
     EXPECT_FALSE(schermata.isVisible());
@@ -126,22 +123,21 @@ TEST_P(RegistrazioneGuasti, SenzaDatabaseLaSchermataNonSiApre)
 TEST_P(RegistrazioneGuasti, TestiCheRomperebberoUnIstruzione)
 {
     apri();
-    scrivi("txtCodiceCli", QStringLiteral("1001"));
-    scrivi("txtFiliale", QStringLiteral("MI"));
-    scrivi("txtDataLdv", QStringLiteral("12112026"));
+    scrivi("txtCodiceCli", u"1001"_s);
+    scrivi("txtFiliale", u"MI"_s);
+    scrivi("txtDataLdv", u"12112026"_s);
     lascia("txtDataLdv");
-    const QString lungo(10'000, QLatin1Char('9'));
+    const QString lungo(10'000, u'9');
     for (const QString& numero :
-         {QStringLiteral("%"), QStringLiteral("47\t11"), QStringLiteral("47\x01\x7f"),
-          QStringLiteral("47;11"), QStringLiteral("4711 -- "), QStringLiteral("4711/*"),
-          QStringLiteral("47\\11"), QStringLiteral("O''Neil"), QString::fromUtf8("47🚚11"), lungo}) {
+         {u"%"_s, u"47\t11"_s, u"47\x01\x7f"_s, u"47;11"_s, u"4711 -- "_s, u"4711/*"_s, u"47\\11"_s,
+          u"O''Neil"_s, QString::fromUtf8("47🚚11"), lungo}) {
         qobject_cast<QLineEdit*>(c("txtLDV"))->setText(numero);
         EXPECT_EQ(istruzioni([&] { tasto("txtLDV", Qt::Key_F12); }).size(), 1)
             << numero.left(20).toStdString();
         EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
         EXPECT_THAT(mostrato("lblStato").toStdString(), testing::EndsWith("non trovata."));
     }
-    for (const QString& rotto : {QStringLiteral("4711' or '1'='1"), QString(QChar(u'\0'))}) {
+    for (const QString& rotto : {u"4711' or '1'='1"_s, QString(QChar(u'\0'))}) {
         qobject_cast<QLineEdit*>(c("txtLDV"))->setText(rotto);
         EXPECT_THAT(istruzioni([&] { tasto("txtLDV", Qt::Key_F12); }), IsEmpty()) << "it is not sent";
         EXPECT_EQ(mMessaggi.prendi().size(), 1U);
@@ -153,21 +149,19 @@ TEST_P(RegistrazioneGuasti, TestiCheRomperebberoUnIstruzione)
 TEST_P(RegistrazioneGuasti, RiferimentiCheRomperebberoUnIstruzione)
 {
     apri();
-    scrivi("txtCodiceCli", QStringLiteral("1001"));
+    scrivi("txtCodiceCli", u"1001"_s);
     lascia("txtCodiceCli");
-    scrivi("txtFiliale", QStringLiteral("MI"));
-    scrivi("txtDataRif", QStringLiteral("10112026"));
+    scrivi("txtFiliale", u"MI"_s);
+    scrivi("txtDataRif", u"10112026"_s);
     lascia("txtDataRif");
-    for (const QString& riferimento :
-         {QStringLiteral("100%"), QStringLiteral("A;B"), QStringLiteral("A -- B"), QStringLiteral("A/*B*/"),
-          QStringLiteral("A\\"), QStringLiteral("d''Oro"), QStringLiteral("A\tB\x01"),
-          QString(10'000, QLatin1Char('R'))}) {
+    for (const QString& riferimento : {u"100%"_s, u"A;B"_s, u"A -- B"_s, u"A/*B*/"_s, u"A\\"_s, u"d''Oro"_s,
+                                       u"A\tB\x01"_s, QString(10'000, u'R')}) {
         qobject_cast<QLineEdit*>(c("txtRiferimento"))->setText(riferimento);
         EXPECT_EQ(istruzioni([&] { tasto("txtRiferimento", Qt::Key_F12); }).size(), 1)
             << riferimento.left(20).toStdString();
         EXPECT_THAT(mostrato("lblStato").toStdString(), testing::EndsWith("non trovato."));
     }
-    qobject_cast<QLineEdit*>(c("txtRiferimento"))->setText(QStringLiteral("dell'Orto"));
+    qobject_cast<QLineEdit*>(c("txtRiferimento"))->setText(u"dell'Orto"_s);
     EXPECT_THAT(istruzioni([&] { tasto("txtRiferimento", Qt::Key_F12); }), IsEmpty()) << "it is not sent";
     EXPECT_EQ(mMessaggi.prendi().size(), 1U);
 }
@@ -175,12 +169,12 @@ TEST_P(RegistrazioneGuasti, RiferimentiCheRomperebberoUnIstruzione)
 TEST_P(RegistrazioneGuasti, UnaRicercaFallitaSiDiceEIlClicCheLHaAvviataNonSalva)
 {
     apri();
-    scrivi("txtCodiceCli", QStringLiteral("1001"));
+    scrivi("txtCodiceCli", u"1001"_s);
     lascia("txtCodiceCli");
-    scrivi("txtFiliale", QStringLiteral("MI"));
-    scrivi("txtLDV", QStringLiteral("4711"));
-    scrivi("txtDataLdv", QStringLiteral("12112026"));
-    fallisce(QStringLiteral("SELECT letve00f"));
+    scrivi("txtFiliale", u"MI"_s);
+    scrivi("txtLDV", u"4711"_s);
+    scrivi("txtDataLdv", u"12112026"_s);
+    fallisce(u"SELECT letve00f"_s);
     int salvataggi = 0;
     QObject::connect(qobject_cast<QPushButton*>(c("cmdSalva")), &QPushButton::clicked, c("cmdSalva"),
                      [&] { ++salvataggi; });
@@ -194,24 +188,23 @@ TEST_P(RegistrazioneGuasti, LaSchermataPuoSparireSottoOgniSuoMessaggio)
 {
     mMessaggi.mentreAperto([this](QWidget*, const Messaggio&) { delete mSchermata; });
     // A customer refused during a hand-over.
-    consegna(QStringLiteral("4711"), QStringLiteral("12/11/2026"), QStringLiteral("MI"),
-             QStringLiteral("77"));
+    consegna(u"4711"_s, u"12/11/2026"_s, u"MI"_s, u"77"_s);
     EXPECT_TRUE(mSchermata.isNull());
     // A refusal of a field that is left.
     apri();
-    scrivi("txtCodiceCli", QStringLiteral("abc"));
+    scrivi("txtCodiceCli", u"abc"_s);
     QTest::keyClick(c("txtCodiceCli"), Qt::Key_Tab);
     QCoreApplication::processEvents();
     EXPECT_TRUE(mSchermata.isNull());
     // A lookup that fails when its date is left.
     apri();
     mMessaggi.prendi();
-    scrivi("txtCodiceCli", QStringLiteral("1001"));
+    scrivi("txtCodiceCli", u"1001"_s);
     lascia("txtCodiceCli");
-    scrivi("txtFiliale", QStringLiteral("MI"));
-    scrivi("txtLDV", QStringLiteral("4711"));
-    scrivi("txtDataLdv", QStringLiteral("12112026"));
-    fallisce(QStringLiteral("SELECT letve00f"));
+    scrivi("txtFiliale", u"MI"_s);
+    scrivi("txtLDV", u"4711"_s);
+    scrivi("txtDataLdv", u"12112026"_s);
+    fallisce(u"SELECT letve00f"_s);
     QTest::keyClick(c("txtDataLdv"), Qt::Key_Tab);
     QCoreApplication::processEvents();
     guarisce();
@@ -223,13 +216,13 @@ TEST_P(RegistrazioneGuasti, LaSchermataPuoSparireSottoOgniSuoMessaggio)
     EXPECT_TRUE(mSchermata.isNull());
     EXPECT_EQ(mMessaggi.prendi().size(), 1U);
     // The notice that would have followed a save is abandoned, the held shipment stays.
-    consegna(QStringLiteral("4711"));
+    consegna(u"4711"_s);
     QTest::keyClick(c("cmdSalva"), Qt::Key_Space);
     EXPECT_TRUE(mSchermata.isNull());
-    EXPECT_THAT(mMessaggi.testi(), ElementsAre(QStringLiteral("Giacenza aggiunta in database.")));
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(u"Giacenza aggiunta in database."_s));
     EXPECT_THAT(mStampe, IsEmpty());
-    EXPECT_EQ(mBase.righe(QStringLiteral("select GINRGI,GINRAV from giace00f where GINRLV='4711'")),
-              (QList<QStringList>{{QStringLiteral("42"), QStringLiteral("NULL")}}));
+    EXPECT_EQ(mBase.righe(u"select GINRGI,GINRAV from giace00f where GINRLV='4711'"_s),
+              (QList<QStringList>{{u"42"_s, u"NULL"_s}}));
 }
 
 TEST_P(RegistrazioneGuasti, CioCheUnaParteEsternaLanciaSiDice)
@@ -249,13 +242,13 @@ TEST_P(RegistrazioneGuasti, CioCheUnaParteEsternaLanciaSiDice)
     tasto("txtFilialeGia", Qt::Key_F12);
     registraParte(QString::fromUtf16(classeRicercaTabella), {});
     EXPECT_EQ(mMessaggi.prendi().size(), 1U);
-    EXPECT_EQ(mostrato("lblStato"), QStringLiteral("parte rotta"));
+    EXPECT_EQ(mostrato("lblStato"), u"parte rotta"_s);
 }
 
 TEST_P(RegistrazioneGuasti, UnaTabellaCheMancaSiDice)
 {
-    consegna(QStringLiteral("4711"));
-    mBase.esegui(QStringLiteral("drop table codicizona;"));
+    consegna(u"4711"_s);
+    mBase.esegui(u"drop table codicizona;"_s);
     tasto("txtLDV", Qt::Key_F12);
     ASSERT_EQ(mMessaggi.messaggi().size(), 1U);
     EXPECT_EQ(mMessaggi.messaggi().front().stile, Stile::critico);
@@ -267,13 +260,13 @@ class RegistrazioneInterrotta : public RegistrazioneGuasti
 protected:
     void interrompi()
     {
-        static const QRegularExpression utente(QStringLiteral("UID=([^;]+)"));
+        static const QRegularExpression utente(u"UID=([^;]+)"_s);
         const auto aperte =
-            mBase.righe(QStringLiteral("select id from information_schema.processlist where user='%1'")
-                            .arg(utente.match(mBase.stringa()).captured(1)));
+            mBase.righe(u"select id from information_schema.processlist where user='%1'"_s.arg(
+                utente.match(mBase.stringa()).captured(1)));
         EXPECT_THAT(aperte, testing::Not(IsEmpty()));
         for (const QStringList& collegamento : aperte)
-            mBase.esegui(QStringLiteral("kill %1;").arg(collegamento.first()));
+            mBase.esegui(u"kill %1;"_s.arg(collegamento.first()));
     }
 };
 
@@ -282,11 +275,10 @@ INSTANTIATE_TEST_SUITE_P(Basi, RegistrazioneInterrotta, testing::Values("mariadb
 
 TEST_P(RegistrazioneInterrotta, AMetaDiUnSalvataggioNonLasciaNienteEPoiSiSalva)
 {
-    consegna(QStringLiteral("4711"));
+    consegna(u"4711"_s);
     bool interrotta = false;
     impostaTraccia([&](EventoDati evento, const QString& istruzione) {
-        if (evento != EventoDati::istruzione || interrotta ||
-            !istruzione.startsWith(QLatin1String("update letve00f")))
+        if (evento != EventoDati::istruzione || interrotta || !istruzione.startsWith("update letve00f"_L1))
             return;
         interrotta = true;
         interrompi();
@@ -294,22 +286,20 @@ TEST_P(RegistrazioneInterrotta, AMetaDiUnSalvataggioNonLasciaNienteEPoiSiSalva)
     clicca("cmdSalva");
     guarisce();
     EXPECT_TRUE(interrotta);
-    EXPECT_THAT(mMessaggi.testi(), ElementsAre(QStringLiteral("Impossibile aggiungere la nuova giacenza.")));
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(u"Impossibile aggiungere la nuova giacenza."_s));
     mMessaggi.prendi();
-    EXPECT_EQ(mBase.leggi(QStringLiteral("select count(*) from giace00f where GINRLV='4711'")),
-              QStringLiteral("0"));
-    EXPECT_EQ(mBase.righe(QStringLiteral("select LERFGI,LEDTCO from letve00f where lenrlv='4711'")),
-              (QList<QStringList>{{QStringLiteral("NULL"), QStringLiteral("2026-11-14")}}));
-    EXPECT_EQ(mBase.leggi(QStringLiteral("select UltimoNumGiacenza from ekelvorqzt_tabge00f")),
-              QStringLiteral("42"))
+    EXPECT_EQ(mBase.leggi(u"select count(*) from giace00f where GINRLV='4711'"_s), u"0"_s);
+    EXPECT_EQ(mBase.righe(u"select LERFGI,LEDTCO from letve00f where lenrlv='4711'"_s),
+              (QList<QStringList>{{u"NULL"_s, u"2026-11-14"_s}}));
+    EXPECT_EQ(mBase.leggi(u"select UltimoNumGiacenza from ekelvorqzt_tabge00f"_s), u"42"_s)
         << "the number that was taken is a gap";
     EXPECT_THAT(mStampe, IsEmpty());
 
     // The screen's own connection was ended too: its first statement finds that out, the next opens it again.
     clicca("cmdSalva");
     clicca("cmdSalva");
-    EXPECT_THAT(mMessaggi.testi(), ElementsAre(QStringLiteral("Giacenza aggiunta in database.")));
-    EXPECT_EQ(mostrato("lblNrGia"), QStringLiteral("43"));
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(u"Giacenza aggiunta in database."_s));
+    EXPECT_EQ(mostrato("lblNrGia"), u"43"_s);
 }
 
 } // namespace

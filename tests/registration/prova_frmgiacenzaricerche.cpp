@@ -1,4 +1,4 @@
-#include "redelivery/frmCalendario.h"
+#include "dialogs/frmCalendario.h"
 #include "registration/registrazionediprova.h"
 #include "screens/campi.h"
 #include "search/frmRicerca.h"
@@ -16,6 +16,8 @@
 #include <QTableView>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 using namespace giacenza;
 using namespace giacenza::prove;
 using testing::ElementsAre;
@@ -29,7 +31,7 @@ protected:
     void cliente()
     {
         apri();
-        scrivi("txtCodiceCli", QStringLiteral("1001"));
+        scrivi("txtCodiceCli", u"1001"_s);
         lascia("txtCodiceCli");
     }
 
@@ -42,7 +44,7 @@ protected:
                     QString::number(dialogo.TipoRicerca()), dialogo.windowTitle(),   dialogo.CaptionLabel(),
                     dialogo.RagioneSocialeCliente(),        dialogo.CodiceCliente(), dialogo.Filiale(),
                     dialogo.RiferimentoCliente(),           dialogo.NumLetVett(),    dialogo.AnnoOdata()};
-            auto* griglia = trova<QTableView>(dialogo, QStringLiteral("Griglia"));
+            auto* griglia = trova<QTableView>(dialogo, u"Griglia"_s);
             griglia->setFocus();
             QTest::keyClick(griglia, Qt::Key_Return);
         };
@@ -54,59 +56,54 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Basi, Ricerche, testing::Values("sqlite", "mariadb"),
                          nomeBase<testing::TestParamInfo<std::string>>);
 
-const QString daLdv = QStringLiteral(" WHERE lenrlv='4711' and ledtlv='2026-11-12';");
+const QString daLdv = u" WHERE lenrlv='4711' and ledtlv='2026-11-12';"_s;
 
 TEST_P(Ricerche, LElencoDelleLdvRidaNumeroEData)
 {
     cliente();
-    scrivi("txtFiliale", QStringLiteral("MI"));
-    scrivi("txtLDV", QStringLiteral("4711"));
-    scrivi("txtDataLdv", QStringLiteral("12112026"));
+    scrivi("txtFiliale", u"MI"_s);
+    scrivi("txtLDV", u"4711"_s);
+    scrivi("txtDataLdv", u"12112026"_s);
     QStringList aperta;
     const QStringList inviate = istruzioni([&] {
         const QuandoAperta<frmRicercaGia> intanto(prende(&aperta));
         tasto("txtDataLdv", Qt::Key_F9);
     });
-    EXPECT_THAT(aperta, ElementsAre(QStringLiteral("7"), QStringLiteral("Ricerca per lettera di vettura"),
-                                    QStringLiteral("Num. LDV"), QStringLiteral("Ferramenta Lombarda S.r.l."),
-                                    QStringLiteral("1001"), QStringLiteral("MI"), QString(),
-                                    QStringLiteral("4711"), QStringLiteral("12/11/2026")));
+    EXPECT_THAT(aperta, ElementsAre(u"7"_s, u"Ricerca per lettera di vettura"_s, u"Num. LDV"_s,
+                                    u"Ferramenta Lombarda S.r.l."_s, u"1001"_s, u"MI"_s, QString(), u"4711"_s,
+                                    u"12/11/2026"_s));
     ASSERT_FALSE(inviate.isEmpty());
     EXPECT_TRUE(inviate.filter(daLdv).size() == 1) << "the lookup is by number and date";
-    EXPECT_TRUE(
-        inviate.filter(daLdv).first().contains(QLatin1String(" left JOIN filiali "), Qt::CaseSensitive));
-    EXPECT_EQ(trovata(), QStringLiteral("4711"));
-    EXPECT_EQ(mostrato("txtDestinatario"), QStringLiteral("Utensileria del Lago"));
+    EXPECT_TRUE(inviate.filter(daLdv).first().contains(" left JOIN filiali "_L1, Qt::CaseSensitive));
+    EXPECT_EQ(trovata(), u"4711"_s);
+    EXPECT_EQ(mostrato("txtDestinatario"), u"Utensileria del Lago"_s);
 }
 
 TEST_P(Ricerche, LElencoDeiRiferimentiRidaNumeroEData)
 {
     cliente();
-    scrivi("txtFiliale", QStringLiteral("MI"));
-    scrivi("txtRiferimento", QStringLiteral("ORD-881"));
-    scrivi("txtDataRif", QStringLiteral("10112026"));
+    scrivi("txtFiliale", u"MI"_s);
+    scrivi("txtRiferimento", u"ORD-881"_s);
+    scrivi("txtDataRif", u"10112026"_s);
     QStringList aperta;
     const QStringList inviate = istruzioni([&] {
         const QuandoAperta<frmRicercaGia> intanto(prende(&aperta));
         clicca("cmdCercaRif");
     });
-    EXPECT_THAT(aperta,
-                ElementsAre(QStringLiteral("1"), QStringLiteral("Ricerca per riferimento"),
-                            QStringLiteral("Riferimento"), QStringLiteral("Ferramenta Lombarda S.r.l."),
-                            QStringLiteral("1001"), QStringLiteral("MI"), QStringLiteral("ORD-881"),
-                            QString(), QStringLiteral("10/11/2026")));
+    EXPECT_THAT(aperta, ElementsAre(u"1"_s, u"Ricerca per riferimento"_s, u"Riferimento"_s,
+                                    u"Ferramenta Lombarda S.r.l."_s, u"1001"_s, u"MI"_s, u"ORD-881"_s,
+                                    QString(), u"10/11/2026"_s));
     ASSERT_EQ(inviate.filter(daLdv).size(), 1);
-    EXPECT_TRUE(
-        inviate.filter(daLdv).first().contains(QLatin1String(" LEFT JOIN filiali "), Qt::CaseSensitive));
-    EXPECT_EQ(trovata(), QStringLiteral("4711"));
+    EXPECT_TRUE(inviate.filter(daLdv).first().contains(" LEFT JOIN filiali "_L1, Qt::CaseSensitive));
+    EXPECT_EQ(trovata(), u"4711"_s);
 }
 
 TEST_P(Ricerche, SenzaFilialeSiApreLElencoESenzaSceltaNienteCorre)
 {
-    consegna(QStringLiteral("4711"));
+    consegna(u"4711"_s);
     scrivi("txtFiliale", {});
-    scrivi("txtLDV", QStringLiteral("4712"));
-    scrivi("txtDataLdv", QStringLiteral("12112026"));
+    scrivi("txtLDV", u"4712"_s);
+    scrivi("txtDataLdv", u"12112026"_s);
     const QStringList inviate = istruzioni([&] {
         const QuandoAperta<frmRicercaGia> intanto(
             [](frmRicercaGia& dialogo) { QTest::keyClick(&dialogo, Qt::Key_Escape); });
@@ -114,28 +111,26 @@ TEST_P(Ricerche, SenzaFilialeSiApreLElencoESenzaSceltaNienteCorre)
         QTest::qWait(1);
     });
     mMessaggi.prendi();
-    EXPECT_THAT(inviate.filter(QStringLiteral("giace00f.*")), IsEmpty()) << "no lookup";
-    EXPECT_EQ(mostrato("txtDestinatario"), QStringLiteral("Utensileria del Lago"))
-        << "the screen is as it was";
-    EXPECT_EQ(
-        mostrato("lblStato"),
-        QStringLiteral("L'elenco mostra solo le spedizioni della filiale scritta: scrivere la filiale."));
+    EXPECT_THAT(inviate.filter(u"giace00f.*"_s), IsEmpty()) << "no lookup";
+    EXPECT_EQ(mostrato("txtDestinatario"), u"Utensileria del Lago"_s) << "the screen is as it was";
+    EXPECT_EQ(mostrato("lblStato"),
+              u"L'elenco mostra solo le spedizioni della filiale scritta: scrivere la filiale."_s);
 }
 
 TEST_P(Ricerche, SenzaFilialeLaSceltaSiCercaPerNumeroEData)
 {
-    mBase.esegui(QStringLiteral("update letve00f set lefili='' where lenrlv='4711' and leanlv=2026;"));
+    mBase.esegui(u"update letve00f set lefili='' where lenrlv='4711' and leanlv=2026;"_s);
     cliente();
-    scrivi("txtLDV", QStringLiteral("4711"));
-    scrivi("txtDataLdv", QStringLiteral("12112026"));
+    scrivi("txtLDV", u"4711"_s);
+    scrivi("txtDataLdv", u"12112026"_s);
     const QStringList inviate = istruzioni([&] {
         const QuandoAperta<frmRicercaGia> intanto(prende());
         lascia("txtDataLdv");
         QTest::qWait(1);
     });
     ASSERT_EQ(inviate.filter(daLdv).size(), 1);
-    EXPECT_EQ(trovata(), QStringLiteral("4711"));
-    EXPECT_EQ(mostrato("txtDestinatario"), QStringLiteral("Utensileria del Lago"));
+    EXPECT_EQ(trovata(), u"4711"_s);
+    EXPECT_EQ(mostrato("txtDestinatario"), u"Utensileria del Lago"_s);
 }
 
 TEST_P(Ricerche, LImmissioneSiControllaPrimaDellElenco)
@@ -144,21 +139,21 @@ TEST_P(Ricerche, LImmissioneSiControllaPrimaDellElenco)
     const auto avviso = [](const QString& testo) {
         return Messaggio{testo, Stile::avviso, titoloApplicazione()};
     };
-    const auto ldv = avviso(QStringLiteral("Controllare l'immissione del num. Ldv e/o data Ldv"));
+    const auto ldv = avviso(u"Controllare l'immissione del num. Ldv e/o data Ldv"_s);
     const auto riferimento =
-        avviso(QStringLiteral("Controllare l'immissione del riferimento cliente e/o data rifer. cliente"));
+        avviso(u"Controllare l'immissione del riferimento cliente e/o data rifer. cliente"_s);
     EXPECT_THAT(istruzioni([&] {
                     clicca("cmdCercaLdv");
                     EXPECT_THAT(mMessaggi.prendi(), ElementsAre(ldv));
                     clicca("cmdCercaRif");
                     EXPECT_THAT(mMessaggi.prendi(), ElementsAre(riferimento));
-                    scrivi("txtLDV", QStringLiteral("4711"));
+                    scrivi("txtLDV", u"4711"_s);
                     tasto("txtLDV", Qt::Key_F9);
                     EXPECT_THAT(mMessaggi.prendi(), ElementsAre(ldv)) << "a number without a date";
-                    scrivi("txtDataRif", QStringLiteral("10112026"));
+                    scrivi("txtDataRif", u"10112026"_s);
                     tasto("txtDataRif", Qt::Key_F9);
                     EXPECT_THAT(mMessaggi.prendi(), ElementsAre(riferimento)) << "a date without a reference";
-                    scrivi("txtDataLdv", QStringLiteral("1211"));
+                    scrivi("txtDataLdv", u"1211"_s);
                     lascia("txtDataLdv");
                 }),
                 IsEmpty());
@@ -167,9 +162,9 @@ TEST_P(Ricerche, LImmissioneSiControllaPrimaDellElenco)
 TEST_P(Ricerche, SenzaClienteNemmenoLElenco)
 {
     apri();
-    scrivi("txtLDV", QStringLiteral("4711"));
+    scrivi("txtLDV", u"4711"_s);
     tasto("txtLDV", Qt::Key_F9);
-    EXPECT_THAT(mMessaggi.testi(), ElementsAre(QStringLiteral("Selezionare il codice cliente.")));
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(u"Selezionare il codice cliente."_s));
     EXPECT_TRUE(c("txtCodiceCli")->hasFocus());
 }
 
@@ -177,24 +172,24 @@ TEST_P(Ricerche, IlClienteSiCercaPerNome)
 {
     apri();
     const QuandoAperta<frmRicerca> intanto([](frmRicerca& dialogo) {
-        EXPECT_EQ(dialogo.windowTitle(), QStringLiteral("Ricerca Cliente"));
-        EXPECT_EQ(dialogo.NomeTabella(), QStringLiteral("Clien"));
-        auto* testo = trova<QLineEdit>(dialogo, QStringLiteral("txtCerca"));
-        QTest::mouseClick(trova<QWidget>(dialogo, QStringLiteral("optRagSoc")), Qt::LeftButton);
+        EXPECT_EQ(dialogo.windowTitle(), u"Ricerca Cliente"_s);
+        EXPECT_EQ(dialogo.NomeTabella(), u"Clien"_s);
+        auto* testo = trova<QLineEdit>(dialogo, u"txtCerca"_s);
+        QTest::mouseClick(trova<QWidget>(dialogo, u"optRagSoc"_s), Qt::LeftButton);
         testo->setFocus();
-        QTest::keyClicks(testo, QStringLiteral("Oleif"));
+        QTest::keyClicks(testo, u"Oleif"_s);
         QTest::keyClick(testo, Qt::Key_Return);
-        auto* elenco = trova<QWidget>(dialogo, QStringLiteral("lstCerca"));
+        auto* elenco = trova<QWidget>(dialogo, u"lstCerca"_s);
         elenco->setFocus();
         QTest::keyClick(elenco, Qt::Key_Down);
         QTest::keyClick(elenco, Qt::Key_Return);
     });
     clicca("cmdCercaCliente");
-    EXPECT_EQ(mostrato("txtCodiceCli"), QStringLiteral("1002"));
-    EXPECT_EQ(mostrato("barCliente"), QStringLiteral("Oleificio del Garda"));
+    EXPECT_EQ(mostrato("txtCodiceCli"), u"1002"_s);
+    EXPECT_EQ(mostrato("barCliente"), u"Oleificio del Garda"_s);
     EXPECT_FALSE(c("cmdData")->isEnabled());
     tasto("txtDataGia", Qt::Key_F12); // a calendar that opened would keep the test here
-    EXPECT_EQ(mostrato("txtDataGia"), QStringLiteral("21/11/2026"));
+    EXPECT_EQ(mostrato("txtDataGia"), u"21/11/2026"_s);
 }
 
 TEST_P(Ricerche, LaRicercaDelClienteAnnullataNonTocca)
@@ -203,23 +198,23 @@ TEST_P(Ricerche, LaRicercaDelClienteAnnullataNonTocca)
     const QuandoAperta<frmRicerca> intanto(
         [](frmRicerca& dialogo) { QTest::keyClick(&dialogo, Qt::Key_Escape); });
     tasto("txtCodiceCli", Qt::Key_F12);
-    EXPECT_EQ(mostrato("txtCodiceCli"), QStringLiteral("1001"));
-    EXPECT_EQ(mostrato("barCliente"), QStringLiteral("Ferramenta Lombarda S.r.l."));
+    EXPECT_EQ(mostrato("txtCodiceCli"), u"1001"_s);
+    EXPECT_EQ(mostrato("barCliente"), u"Ferramenta Lombarda S.r.l."_s);
     EXPECT_TRUE(c("cmdData")->isEnabled());
 }
 
 TEST_P(Ricerche, IlGiornoSiSceglieDalCalendario)
 {
-    consegna(QStringLiteral("4711"));
+    consegna(u"4711"_s);
     const QuandoAperta<frmCalendario> intanto([](frmCalendario& dialogo) {
         EXPECT_EQ(dialogo.DataAttuale(), QDate(2026, 11, 12)) << "from the working date";
-        QTest::mouseClick(trova<QWidget>(dialogo, QStringLiteral("cmdReset")), Qt::LeftButton);
+        QTest::mouseClick(trova<QWidget>(dialogo, u"cmdReset"_s), Qt::LeftButton);
     });
-    scrivi("txtDataGia", QStringLiteral("01112026"));
+    scrivi("txtDataGia", u"01112026"_s);
     clicca("cmdData");
-    EXPECT_EQ(mostrato("txtDataGia"), QStringLiteral("21/11/2026"));
-    EXPECT_EQ(mostrato("lblDataLav"), QStringLiteral("21/11/2026"));
-    EXPECT_EQ(mostrato("barGiorniSosta"), QStringLiteral("0"));
+    EXPECT_EQ(mostrato("txtDataGia"), u"21/11/2026"_s);
+    EXPECT_EQ(mostrato("lblDataLav"), u"21/11/2026"_s);
+    EXPECT_EQ(mostrato("barGiorniSosta"), u"0"_s);
 }
 
 TEST_P(Ricerche, LaFilialeSiSceglieDallaTabella)
@@ -232,10 +227,10 @@ TEST_P(Ricerche, LaFilialeSiSceglieDallaTabella)
         void setScelta(Scelta scelta) override { mScelta = std::move(scelta); }
         void mostra(const QString& istruzione, const QString& titolo, QWidget*) override
         {
-            EXPECT_EQ(istruzione, QStringLiteral("select codice, descrizione from filiali;"));
-            EXPECT_EQ(titolo, QStringLiteral("Ricerca Filiale"));
+            EXPECT_EQ(istruzione, u"select codice, descrizione from filiali;"_s);
+            EXPECT_EQ(titolo, u"Ricerca Filiale"_s);
             EXPECT_FALSE(mPercorso.isEmpty());
-            mScelta({QStringLiteral("BO"), QStringLiteral("Bologna")});
+            mScelta({u"BO"_s, u"Bologna"_s});
         }
 
     private:
@@ -246,28 +241,28 @@ TEST_P(Ricerche, LaFilialeSiSceglieDallaTabella)
     apri();
     tasto("txtFilialeGia", Qt::Key_F12);
     registraParte(QString::fromUtf16(classeRicercaTabella), {});
-    EXPECT_EQ(mostrato("txtFilialeGia"), QStringLiteral("BO"));
-    EXPECT_EQ(mostrato("barFilialeGia"), QStringLiteral("Bologna"));
+    EXPECT_EQ(mostrato("txtFilialeGia"), u"BO"_s);
+    EXPECT_EQ(mostrato("barFilialeGia"), u"Bologna"_s);
 }
 
 TEST_P(Ricerche, F11TieneLaNaturaDellaMerce)
 {
     apri();
     auto* natura = qobject_cast<QComboBox*>(c("cmbNaturaMerce"));
-    natura->setEditText(QStringLiteral("vino sfuso"));
+    natura->setEditText(u"vino sfuso"_s);
     tasto("cmbNaturaMerce", Qt::Key_F11);
     EXPECT_EQ(natura->count(), 2);
-    EXPECT_EQ(natura->itemText(0), QStringLiteral("VEDI DDT"));
-    EXPECT_EQ(natura->itemText(1), QStringLiteral("VINO SFUSO"));
-    EXPECT_EQ(natura->currentText(), QStringLiteral("vino sfuso"));
-    QFile file(mCartella.filePath(QStringLiteral("listbox.dat")));
+    EXPECT_EQ(natura->itemText(0), u"VEDI DDT"_s);
+    EXPECT_EQ(natura->itemText(1), u"VINO SFUSO"_s);
+    EXPECT_EQ(natura->currentText(), u"vino sfuso"_s);
+    QFile file(mCartella.filePath(u"listbox.dat"_s));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll().simplified(), QByteArray("VEDI DDT VINO SFUSO"));
     tasto("cmbNaturaMerce", Qt::Key_F11);
-    EXPECT_THAT(mMessaggi.prendi(),
-                ElementsAre(Messaggio{
-                    QStringLiteral("Impossibile aggiungere il valore nella lista del controllo Natura merce"),
-                    Stile::informazione, QStringLiteral("Gestione Trasporti")}));
+    EXPECT_THAT(
+        mMessaggi.prendi(),
+        ElementsAre(Messaggio{u"Impossibile aggiungere il valore nella lista del controllo Natura merce"_s,
+                              Stile::informazione, u"Gestione Trasporti"_s}));
 }
 
 } // namespace

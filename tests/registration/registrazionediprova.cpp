@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::prove {
 
 void RegistrazioneDiProva::consegna(const QString& ldv, const QString& data, const QString& filiale,
@@ -18,7 +20,7 @@ void RegistrazioneDiProva::consegna(const QString& ldv, const QString& data, con
 
 void RegistrazioneDiProva::consegna(const QString& ldv)
 {
-    consegna(ldv, QStringLiteral("12/11/2026"), QStringLiteral("MI"), QStringLiteral("1001"));
+    consegna(ldv, u"12/11/2026"_s, u"MI"_s, u"1001"_s);
 }
 
 } // namespace giacenza::prove

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "reports/documentoreport.h"
+#include "reports/engine/documentoreport.h"
 #include "support/stampa.h"
 
 #include <gtest/gtest.h>
@@ -26,7 +26,7 @@ inline QString testo(const PaginaReport& pagina, const QString& controllo)
     QStringList righe;
     for (const TestoPagina& riga : diGenere<TestoPagina>(pagina, controllo))
         righe << riga.testo;
-    return righe.join(QLatin1Char(' '));
+    return righe.join(u' ');
 }
 
 inline QString nomeDi(const Primitiva& primitiva)

@@ -1,4 +1,4 @@
-#include "reports/banda.h"
+#include "reports/engine/banda.h"
 
 #include "support/stampa.h"
 

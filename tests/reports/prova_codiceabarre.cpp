@@ -1,4 +1,4 @@
-#include "reports/codiceabarre.h"
+#include "reports/engine/codiceabarre.h"
 
 #include <gmock/gmock.h>
 

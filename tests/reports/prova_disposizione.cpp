@@ -1,4 +1,4 @@
-#include "reports/disposizione.h"
+#include "reports/engine/disposizione.h"
 
 #include <gmock/gmock.h>
 

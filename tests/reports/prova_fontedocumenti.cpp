@@ -1,9 +1,9 @@
-#include "reports/fontedocumenti.h"
+#include "reports/letters/fontedocumenti.h"
 
-#include "component/cartellaprova.h"
+#include "base/cartellaprova.h"
 #include "reports/casodiprova.h"
+#include "reports/letters/reportcondivisi.h"
 #include "reports/pagineprova.h"
-#include "reports/reportcondivisi.h"
 
 #include <QDir>
 #include <QWidget>

@@ -1,6 +1,6 @@
-#include "reports/formati.h"
+#include "reports/engine/formati.h"
 
-#include "data/connessione.h"
+#include "database/connessione.h"
 #include "support/stampa.h"
 
 #include <QLocale>

@@ -1,4 +1,4 @@
-#include "reports/impaginatore.h"
+#include "reports/engine/impaginatore.h"
 
 #include <gmock/gmock.h>
 

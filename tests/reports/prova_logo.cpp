@@ -1,4 +1,4 @@
-#include "reports/logo.h"
+#include "reports/engine/logo.h"
 
 #include <QFile>
 #include <QTemporaryDir>

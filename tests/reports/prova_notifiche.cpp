@@ -1,5 +1,5 @@
-#include "reports/rptavviso.h"
-#include "reports/rptbuonfine.h"
+#include "reports/letters/rptavviso.h"
+#include "reports/letters/rptbuonfine.h"
 
 #include "support/registromessaggi.h"
 #include "support/stampa.h"

@@ -1,6 +1,6 @@
-#include "reports/caratteri.h"
-#include "reports/documentoreport.h"
-#include "reports/pittore.h"
+#include "reports/engine/caratteri.h"
+#include "reports/engine/documentoreport.h"
+#include "reports/engine/pittore.h"
 
 #include <QPainter>
 

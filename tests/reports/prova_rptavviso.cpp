@@ -1,6 +1,6 @@
-#include "reports/rptavviso.h"
+#include "reports/letters/rptavviso.h"
 
-#include "component/orologio.h"
+#include "base/orologio.h"
 #include "reports/casodiprova.h"
 #include "reports/pagineprova.h"
 #include "support/registromessaggi.h"

@@ -1,4 +1,4 @@
-#include "reports/rptbuonfine.h"
+#include "reports/letters/rptbuonfine.h"
 
 #include "reports/casodiprova.h"
 #include "reports/pagineprova.h"

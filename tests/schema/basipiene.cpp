@@ -4,6 +4,8 @@
 
 #include <map>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::prove {
 
 namespace {
@@ -35,7 +37,7 @@ const BancaDati& basePiena(const std::string& tipo)
     Connessione connessione = nuova->amministratore();
     dimostrazione::riempi(connessione, {.spedizioni = spedizioniDimostrative, .oggi = oggiDimostrativo()});
     if (senzaStatistiche)
-        connessione.esegui(QStringLiteral("delete from sqlite_stat1"));
+        connessione.esegui(u"delete from sqlite_stat1"_s);
     base = std::move(nuova);
     return *base;
 }

@@ -5,6 +5,8 @@
 #include <QJsonObject>
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::prove {
 
 namespace {
@@ -13,17 +15,16 @@ namespace {
 /// letve00f", or a step without a table. An automatic index is made by reading the whole table first.
 void leggiSqlite(Piano& piano, const QString& riga)
 {
-    static const QRegularExpression passo(QStringLiteral("^(SCAN|SEARCH) (\\w+)(.*)$"));
-    static const QRegularExpression uguaglianza(QStringLiteral("(\\w+)=\\?"));
+    static const QRegularExpression passo(u"^(SCAN|SEARCH) (\\w+)(.*)$"_s);
+    static const QRegularExpression uguaglianza(u"(\\w+)=\\?"_s);
     piano.testo += riga + u'\n';
-    piano.ordina = piano.ordina || riga.contains(QLatin1String("TEMP B-TREE"));
+    piano.ordina = piano.ordina || riga.contains("TEMP B-TREE"_L1);
     const auto trovato = passo.match(riga);
     if (!trovato.hasMatch())
         return;
     const QString come = trovato.captured(3);
-    Accesso accesso{trovato.captured(2).toLower(),
-                    trovato.captured(1) == QLatin1String("SCAN") || come.contains(QLatin1String("AUTOMATIC")),
-                    {}};
+    Accesso accesso{
+        trovato.captured(2).toLower(), trovato.captured(1) == "SCAN"_L1 || come.contains("AUTOMATIC"_L1), {}};
     for (auto colonne = uguaglianza.globalMatch(come); colonne.hasNext();)
         accesso.colonne << colonne.next().captured(1).toLower();
     piano.accessi << accesso;
@@ -37,19 +38,18 @@ void leggiMariadb(Piano& piano, const QJsonValue& valore)
     for (const QJsonValue& elemento : elementi)
         leggiMariadb(piano, elemento);
     const QJsonObject oggetto = valore.toObject();
-    if (oggetto.contains(QLatin1String("table_name"))) {
-        QString tipo = oggetto.value(QLatin1String("access_type")).toString();
-        tipo.remove(QLatin1String("hash_"));
-        Accesso accesso{oggetto.value(QLatin1String("table_name")).toString().toLower(),
-                        tipo == QLatin1String("ALL") || tipo == QLatin1String("index"),
-                        {}};
-        const QJsonArray colonne = oggetto.value(QLatin1String("used_key_parts")).toArray();
+    if (oggetto.contains("table_name"_L1)) {
+        QString tipo = oggetto.value("access_type"_L1).toString();
+        tipo.remove("hash_"_L1);
+        Accesso accesso{
+            oggetto.value("table_name"_L1).toString().toLower(), tipo == "ALL"_L1 || tipo == "index"_L1, {}};
+        const QJsonArray colonne = oggetto.value("used_key_parts"_L1).toArray();
         for (const QJsonValue& colonna : colonne)
             accesso.colonne << colonna.toString().toLower();
         piano.accessi << accesso;
     }
     for (auto membro = oggetto.begin(); membro != oggetto.end(); ++membro) {
-        piano.ordina = piano.ordina || membro.key() == QLatin1String("filesort");
+        piano.ordina = piano.ordina || membro.key() == "filesort"_L1;
         leggiMariadb(piano, membro.value());
     }
 }
@@ -79,14 +79,12 @@ Piano leggiPiano(Connessione& connessione, const QString& istruzione, std::span<
     Piano piano;
     Recordset righe;
     if (connessione.dialetto() == Dialetto::sqlite) {
-        righe.apri(connessione, QStringLiteral("explain query plan ") + istruzione,
-                   Recordset::Cursore::chiave, parametri);
+        righe.apri(connessione, u"explain query plan "_s + istruzione, Recordset::Cursore::chiave, parametri);
         for (; !righe.eof(); righe.successivo())
-            leggiSqlite(piano, righe.valore(QStringLiteral("detail")).value_or(QString()));
+            leggiSqlite(piano, righe.valore(u"detail"_s).value_or(QString()));
         return piano;
     }
-    righe.apri(connessione, QStringLiteral("explain format=json ") + istruzione, Recordset::Cursore::chiave,
-               parametri);
+    righe.apri(connessione, u"explain format=json "_s + istruzione, Recordset::Cursore::chiave, parametri);
     piano.testo = righe.valore(0).value_or(QString());
     leggiMariadb(piano, QJsonDocument::fromJson(piano.testo.toUtf8()).object());
     return piano;

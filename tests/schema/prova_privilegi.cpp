@@ -2,7 +2,7 @@
 #include "catalogo.h"
 
 #include "data/numerazione.h"
-#include "data/transazione.h"
+#include "database/transazione.h"
 #include "support/stampa.h"
 
 #include <gmock/gmock.h>

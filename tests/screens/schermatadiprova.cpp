@@ -1,8 +1,8 @@
 #include "screens/schermatadiprova.h"
 
-#include "component/impostazioni.h"
-#include "component/orologio.h"
-#include "data/traccia.h"
+#include "base/impostazioni.h"
+#include "base/orologio.h"
+#include "database/traccia.h"
 #include "screens/campi.h"
 #include "support/stampa.h"
 #include "support/trova.h"
@@ -12,43 +12,44 @@
 #include <QPushButton>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::prove {
 
 namespace {
 
-const QString classeStampa = QStringLiteral("ReportDocProva.cModuliStampa");
+const QString classeStampa = u"ReportDocProva.cModuliStampa"_s;
 
 } // namespace
 
 void ModuloDiProva::setPercorsoDatabase(const QString& percorso)
 {
-    mChiamate << QStringLiteral("database ") + percorso;
+    mChiamate << u"database "_s + percorso;
 }
 
 void ModuloDiProva::setPercorsoLogo(const QString& percorso)
 {
-    mChiamate << QStringLiteral("logo ") + percorso;
+    mChiamate << u"logo "_s + percorso;
 }
 
 void ModuloDiProva::setDidascalie(const std::array<QString, 4>& didascalie)
 {
-    mChiamate << QStringLiteral("didascalie ") +
-                     QStringList(didascalie.begin(), didascalie.end()).join(QLatin1Char('|'));
+    mChiamate << u"didascalie "_s + QStringList(didascalie.begin(), didascalie.end()).join(u'|');
 }
 
 void ModuloDiProva::setStampa(bool stampa)
 {
-    mChiamate << QStringLiteral("stampa %1").arg(stampa);
+    mChiamate << u"stampa %1"_s.arg(stampa);
 }
 
 void ModuloDiProva::setTipoDocumento(TipoDocumento tipo)
 {
-    mChiamate << QStringLiteral("tipo %1").arg(static_cast<int>(tipo));
+    mChiamate << u"tipo %1"_s.arg(static_cast<int>(tipo));
 }
 
 void ModuloDiProva::stampaDocumento(const QString& chiave, bool& nonProdotto)
 {
-    mChiamate << QStringLiteral("documento ") + chiave;
+    mChiamate << u"documento "_s + chiave;
     if (mDurante)
         mDurante();
     nonProdotto = mNonProdotto;
@@ -58,12 +59,12 @@ SchermataDiProva::SchermataDiProva()
 {
     riempiDeposito(mBase);
     impostaOggi(QDate(2026, 11, 21));
-    QFile ini(mCartella.filePath(QStringLiteral("giacenza.ini")));
+    QFile ini(mCartella.filePath(u"giacenza.ini"_s));
     if (!ini.open(QIODevice::WriteOnly) || ini.write("[DLLStampe]\nIdentificativoDll=Prova\n[Bord]"
                                                      "\nCaptionLbl1=uno\nCaptionLbl2=due\nCaptionLbl3=tre\n"
                                                      "CaptionLbl4=quattro\n") < 0)
         throw std::runtime_error("the settings file of the test cannot be written");
-    impostazioni() = {mBase.stringa(), ini.fileName(), QStringLiteral("/logo"), {}};
+    impostazioni() = {mBase.stringa(), ini.fileName(), u"/logo"_s, {}};
     registraParte(classeStampa, [this] {
         const auto durante = [azione = mDuranteStampa, guasto = mGuastoStampa] {
             if (azione)
@@ -150,7 +151,7 @@ void SchermataDiProva::fallisce(const QString& inizio, const QString& sqlstate)
 {
     impostaTraccia([=](EventoDati evento, const QString& testo) {
         if (evento == EventoDati::istruzione && testo.startsWith(inizio, Qt::CaseInsensitive))
-            throw ErroreDatabase(sqlstate, 1, QStringLiteral("guasto di prova"), testo);
+            throw ErroreDatabase(sqlstate, 1, u"guasto di prova"_s, testo);
     });
 }
 
@@ -163,8 +164,8 @@ QStringList SchermataDiProva::istruzioni(const std::function<void()>& azione) co
 {
     QStringList inviate;
     const Traccia prima = impostaTraccia([&](EventoDati evento, const QString& testo) {
-        if (evento == EventoDati::istruzione && !testo.contains(QLatin1String("@@")) &&
-            !testo.startsWith(QLatin1String("pragma"), Qt::CaseInsensitive))
+        if (evento == EventoDati::istruzione && !testo.contains("@@"_L1) &&
+            !testo.startsWith("pragma"_L1, Qt::CaseInsensitive))
             inviate << testo;
     });
     azione();

@@ -12,6 +12,8 @@
 
 #include <gmock/gmock.h>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::prove {
 
 /// A print module that keeps what it is driven with, in order: "database …", "logo …", "didascalie a|b|c|d",
@@ -60,7 +62,7 @@ protected:
     void scorciatoia(Qt::Key lettera);
 
     /// Until guarisce(), every statement that begins so fails; with 08S01 the connection is lost too.
-    void fallisce(const QString& inizio, const QString& sqlstate = QStringLiteral("HY000"));
+    void fallisce(const QString& inizio, const QString& sqlstate = u"HY000"_s);
     void guarisce();
 
     /// The statements that data access sends while this lives, but for the session's own.

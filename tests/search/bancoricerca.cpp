@@ -1,7 +1,7 @@
 #include "search/bancoricerca.h"
 
-#include "component/impostazioni.h"
-#include "component/orologio.h"
+#include "base/impostazioni.h"
+#include "base/orologio.h"
 
 #include <QApplication>
 #include <QHeaderView>

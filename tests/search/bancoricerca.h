@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/traccia.h"
+#include "database/traccia.h"
 #include "search/frmRicercaGia.h"
 #include "support/bancadati.h"
 #include "support/registromessaggi.h"
@@ -16,6 +16,8 @@
 #include <QTest>
 
 #include <map>
+
+using namespace Qt::StringLiterals;
 
 namespace giacenza {
 class CampoData;
@@ -72,6 +74,6 @@ private:
 };
 
 /// What the tests call for.
-inline const QString messaggioVuoto = QStringLiteral("Non ci sono spedizioni per il cliente selezionato.");
+inline const QString messaggioVuoto = u"Non ci sono spedizioni per il cliente selezionato."_s;
 
 } // namespace giacenza::prove

@@ -16,6 +16,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::prove {
 
 /// The dialog, shown, and its controls.
@@ -74,8 +76,8 @@ protected:
 
     RegistroMessaggi mMessaggi;
     frmRicerca mFinestra;
-    QLineEdit* mTesto = c<QLineEdit>(QStringLiteral("txtCerca"));
-    ListaScelta* mLista = c<ListaScelta>(QStringLiteral("lstCerca"));
+    QLineEdit* mTesto = c<QLineEdit>(u"txtCerca"_s);
+    ListaScelta* mLista = c<ListaScelta>(u"lstCerca"_s);
 };
 
 /// The same on a database with some parties.
@@ -84,12 +86,11 @@ class FinestraRicercaPiena : public FinestraRicerca, public testing::WithParamIn
 protected:
     FinestraRicercaPiena()
     {
-        mBase.esegui(QStringLiteral(
-            "insert into clien (Codice, RagioneSociale, Localita, Provincia, PartitaIva) values "
-            "(1, 'Alfa Srl', ' Bergamo ', 'BG', '01234567890'), "
-            "(2, 'Fratelli Alfa ', 'Treviglio', 'BG', '11234567890'), "
-            "(30, 'Beta', 'Berbenno', null, null);"));
-        mFinestra.setNomeTabella(QStringLiteral("Clien"));
+        mBase.esegui(u"insert into clien (Codice, RagioneSociale, Localita, Provincia, PartitaIva) values "
+                     "(1, 'Alfa Srl', ' Bergamo ', 'BG', '01234567890'), "
+                     "(2, 'Fratelli Alfa ', 'Treviglio', 'BG', '11234567890'), "
+                     "(30, 'Beta', 'Berbenno', null, null);"_s);
+        mFinestra.setNomeTabella(u"Clien"_s);
         mFinestra.setStringaConnessione(mBase.stringa());
     }
 
@@ -97,9 +98,8 @@ protected:
     {
         QStringList righe;
         for (int i = 0; i < quanti; ++i)
-            righe += QStringLiteral("(%1, 'Zeta %2')").arg(1000 + i).arg(i, 6, 10, QChar(u'0'));
-        mBase.esegui(QStringLiteral("insert into clien (Codice, RagioneSociale) values ") + righe.join(u',') +
-                     u';');
+            righe += u"(%1, 'Zeta %2')"_s.arg(1000 + i).arg(i, 6, 10, QChar(u'0'));
+        mBase.esegui(u"insert into clien (Codice, RagioneSociale) values "_s + righe.join(u',') + u';');
     }
 
     BancaDati mBase{GetParam()};

@@ -1,8 +1,8 @@
 #include "search/apriricerca.h"
 
-#include "component/forme.h"
-#include "component/impostazioni.h"
-#include "data/valori.h"
+#include "base/forme.h"
+#include "base/impostazioni.h"
+#include "database/valori.h"
 #include "search/frmRicerca.h"
 #include "search/listascelta.h"
 #include "support/bancadati.h"

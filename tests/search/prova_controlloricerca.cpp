@@ -1,6 +1,6 @@
 #include "search/controlloricerca.h"
 
-#include "component/errorenumerato.h"
+#include "base/errorenumerato.h"
 #include "support/registromessaggi.h"
 #include "support/stampa.h"
 

@@ -1,6 +1,6 @@
 #include "search/finestraricerca.h"
 
-#include "data/traccia.h"
+#include "database/traccia.h"
 
 #include <QPushButton>
 

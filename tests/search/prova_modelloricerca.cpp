@@ -1,6 +1,6 @@
 #include "search/modelloricerca.h"
 
-#include "data/traccia.h"
+#include "database/traccia.h"
 #include "support/bancadati.h"
 #include "support/stampa.h"
 

@@ -2,7 +2,7 @@
 
 #include "search/bancoricerca.h"
 
-#include "component/orologio.h"
+#include "base/orologio.h"
 #include "support/stampa.h"
 #include "widgets/campodata.h"
 

@@ -2,7 +2,7 @@
 
 #include "search/bancoricerca.h"
 
-#include "component/impostazioni.h"
+#include "base/impostazioni.h"
 #include "support/stampa.h"
 
 #include <QLineEdit>

@@ -2,7 +2,7 @@
 
 #include "search/bancoricerca.h"
 
-#include "component/forme.h"
+#include "base/forme.h"
 #include "support/stampa.h"
 
 #include <QAccessible>

@@ -10,6 +10,8 @@
 
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::prove {
 
 namespace {
@@ -58,17 +60,17 @@ public:
         if (!mCartella.isValid())
             throw std::runtime_error("Non si crea una cartella: " + mCartella.errorString().toStdString());
         Connessione connessione = aperta(MotoreSqlite::stringa());
-        connessione.esegui(QStringLiteral("pragma journal_mode=wal"));
+        connessione.esegui(u"pragma journal_mode=wal"_s);
         // Nobody needs the tables of a test after a power cut.
-        connessione.esegui(QStringLiteral("pragma synchronous=off"));
+        connessione.esegui(u"pragma synchronous=off"_s);
         if (contenuto == Contenuto::schema)
-            eseguiTutte(connessione, fileSchema(QStringLiteral("sqlite.sql")));
+            eseguiTutte(connessione, fileSchema(u"sqlite.sql"_s));
     }
 
     QString stringa() const override
     {
-        return QStringLiteral("DRIVER={SQLite3};Database=%1;StepAPI=1;Timeout=5000;FKSupport=1;LoadExt=%2")
-            .arg(mCartella.filePath(QStringLiteral("prova.db")), QStringLiteral(GIACENZA_ESTENSIONE_SQLITE));
+        return u"DRIVER={SQLite3};Database=%1;StepAPI=1;Timeout=5000;FKSupport=1;LoadExt=%2"_s.arg(
+            mCartella.filePath(u"prova.db"_s), QStringLiteral(GIACENZA_ESTENSIONE_SQLITE));
     }
 
     QString stringaAmministratore() const override { return stringa(); }
@@ -83,18 +85,17 @@ public:
     explicit MotoreMariadb(Contenuto contenuto)
     {
         Connessione server = aperta(mServer);
-        server.esegui(QStringLiteral("create database %1 character set utf8mb4").arg(mNome));
-        server.esegui(QStringLiteral("create user %1 identified by '%2'").arg(utente(), mNome));
-        server.esegui(QStringLiteral("use %1").arg(mNome));
+        server.esegui(u"create database %1 character set utf8mb4"_s.arg(mNome));
+        server.esegui(u"create user %1 identified by '%2'"_s.arg(utente(), mNome));
+        server.esegui(u"use %1"_s.arg(mNome));
         if (contenuto == Contenuto::vuoto) {
-            server.esegui(
-                QStringLiteral("grant select, insert, update, delete on %1.* to %2").arg(mNome, utente()));
+            server.esegui(u"grant select, insert, update, delete on %1.* to %2"_s.arg(mNome, utente()));
             return;
         }
-        eseguiTutte(server, fileSchema(QStringLiteral("mariadb.sql")));
-        QString permessi = fileSchema(QStringLiteral("grants.sql"));
-        permessi.replace(QStringLiteral(":base"), QStringLiteral("`%1`").arg(mNome));
-        permessi.replace(QStringLiteral(":utente"), utente());
+        eseguiTutte(server, fileSchema(u"mariadb.sql"_s));
+        QString permessi = fileSchema(u"grants.sql"_s);
+        permessi.replace(u":base"_s, u"`%1`"_s.arg(mNome));
+        permessi.replace(u":utente"_s, utente());
         eseguiTutte(server, permessi);
     }
 
@@ -102,39 +103,32 @@ public:
     {
         try {
             Connessione server = aperta(mServer);
-            server.esegui(QStringLiteral("drop database %1").arg(mNome));
-            server.esegui(QStringLiteral("drop user %1").arg(utente()));
+            server.esegui(u"drop database %1"_s.arg(mNome));
+            server.esegui(u"drop user %1"_s.arg(utente()));
         } catch (const Errore& errore) {
             ADD_FAILURE() << "Il database " << mNome.toStdString()
                           << " non si è potuto eliminare: " << errore.what();
         }
     }
 
-    QString stringa() const override
-    {
-        return QStringLiteral("%1;UID=%2;PWD=%2;DATABASE=%2").arg(senzaUtente(), mNome);
-    }
+    QString stringa() const override { return u"%1;UID=%2;PWD=%2;DATABASE=%2"_s.arg(senzaUtente(), mNome); }
 
-    QString stringaAmministratore() const override
-    {
-        return QStringLiteral("%1;DATABASE=%2").arg(mServer, mNome);
-    }
+    QString stringaAmministratore() const override { return u"%1;DATABASE=%2"_s.arg(mServer, mNome); }
 
 private:
-    QString utente() const { return QStringLiteral("'%1'@'127.0.0.1'").arg(mNome); }
+    QString utente() const { return u"'%1'@'127.0.0.1'"_s.arg(mNome); }
 
     QString senzaUtente() const
     {
         QStringList pezzi = mServer.split(u';');
-        pezzi.removeIf([](const QString& pezzo) {
-            return pezzo.startsWith(QStringLiteral("UID=")) || pezzo.startsWith(QStringLiteral("PWD="));
-        });
+        pezzi.removeIf(
+            [](const QString& pezzo) { return pezzo.startsWith(u"UID="_s) || pezzo.startsWith(u"PWD="_s); });
         return pezzi.join(u';');
     }
 
     QString mServer = stringaServer();
     // Database, user and password: one name of this test alone.
-    QString mNome = QStringLiteral("prova_") + QUuid::createUuid().toString(QUuid::Id128).left(16);
+    QString mNome = u"prova_"_s + QUuid::createUuid().toString(QUuid::Id128).left(16);
 };
 
 std::unique_ptr<BancaDati::Motore> creaMotore(const std::string& tipo, Contenuto contenuto)
@@ -203,7 +197,7 @@ QList<QStringList> BancaDati::righe(const QString& istruzione) const
     for (recordset.apri(connessione, istruzione); !recordset.eof(); recordset.successivo()) {
         QStringList riga;
         for (int colonna = 0; colonna < recordset.colonne(); ++colonna)
-            riga += recordset.valore(colonna).value_or(QStringLiteral("NULL"));
+            riga += recordset.valore(colonna).value_or(u"NULL"_s);
         tutte += riga;
     }
     return tutte;

@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 int main(int argc, char** argv)
 {
     testing::InitGoogleMock(&argc, argv);
@@ -18,7 +20,7 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "La locale %s non c'è.\n", locale);
         return 1;
     }
-    QApplication::setApplicationDisplayName(QStringLiteral("Deposito di prova"));
+    QApplication::setApplicationDisplayName(u"Deposito di prova"_s);
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
 }

@@ -9,6 +9,8 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 using namespace giacenza;
 using namespace giacenza::prove;
 
@@ -20,28 +22,27 @@ TEST_P(Base, haLoSchemaVuotoELUtenteLoUsa)
     const BancaDati base(GetParam());
     Connessione connessione = base.connessione();
     Recordset recordset;
-    recordset.apri(connessione, QStringLiteral("select count(*) from Giace00f;"));
-    EXPECT_EQ(recordset.valore(0), QStringLiteral("0"));
+    recordset.apri(connessione, u"select count(*) from Giace00f;"_s);
+    EXPECT_EQ(recordset.valore(0), u"0"_s);
 }
 
 TEST_P(Base, eDiUnaProvaSola)
 {
     const BancaDati una(GetParam());
     const BancaDati altra(GetParam());
-    una.esegui(QStringLiteral("insert into porto (idPorto, Descrizione) values (1, 'Franco');"));
-    EXPECT_EQ(una.leggi(QStringLiteral("select count(*) from porto")), QStringLiteral("1"));
-    EXPECT_EQ(altra.leggi(QStringLiteral("select count(*) from porto")), QStringLiteral("0"));
+    una.esegui(u"insert into porto (idPorto, Descrizione) values (1, 'Franco');"_s);
+    EXPECT_EQ(una.leggi(u"select count(*) from porto"_s), u"1"_s);
+    EXPECT_EQ(altra.leggi(u"select count(*) from porto"_s), u"0"_s);
 }
 
 TEST_P(Base, eseguePiuIstruzioniELeggeRighe)
 {
     const BancaDati base(GetParam(), Contenuto::vuoto);
-    base.esegui(QStringLiteral("create table t (a integer,\n b varchar(10));\n"
-                               "-- insert into t values (9, 'no');\n"
-                               "insert into t values (1, 'x;y');\ninsert into t values (2, null);\n"));
-    const QList<QStringList> attese{{QStringLiteral("1"), QStringLiteral("x;y")},
-                                    {QStringLiteral("2"), QStringLiteral("NULL")}};
-    EXPECT_EQ(base.righe(QStringLiteral("select * from t order by a")), attese);
+    base.esegui(u"create table t (a integer,\n b varchar(10));\n"
+                "-- insert into t values (9, 'no');\n"
+                "insert into t values (1, 'x;y');\ninsert into t values (2, null);\n"_s);
+    const QList<QStringList> attese{{u"1"_s, u"x;y"_s}, {u"2"_s, u"NULL"_s}};
+    EXPECT_EQ(base.righe(u"select * from t order by a"_s), attese);
 }
 
 INSTANTIATE_TEST_SUITE_P(Basi, Base, testing::Values("sqlite", "mariadb"),
@@ -51,8 +52,8 @@ TEST(BancaDatiDiProva, suMariadbLUtenteNonHaAltriPermessi)
 {
     const BancaDati base("mariadb");
     Connessione connessione = base.connessione();
-    EXPECT_THROW(connessione.esegui(QStringLiteral("delete from giace00f")), ErroreDatabase);
-    EXPECT_THROW(connessione.esegui(QStringLiteral("create table t (a integer)")), ErroreDatabase);
+    EXPECT_THROW(connessione.esegui(u"delete from giace00f"_s), ErroreDatabase);
+    EXPECT_THROW(connessione.esegui(u"create table t (a integer)"_s), ErroreDatabase);
 }
 
 TEST(BancaDatiDiProva, diUnTipoIgnotoSiLamenta)
@@ -64,8 +65,8 @@ TEST(Registro, tieneIMessaggiEDaLeRisposte)
 {
     RegistroMessaggi registro;
     registro.rispondi(Risposta::si);
-    const Messaggio domanda{QStringLiteral("Vuoi?"), Stile::domandaAvviso, titoloGestione()};
-    const Messaggio notizia{QStringLiteral("Fatto."), Stile::informazione, titoloGestione()};
+    const Messaggio domanda{u"Vuoi?"_s, Stile::domandaAvviso, titoloGestione()};
+    const Messaggio notizia{u"Fatto."_s, Stile::informazione, titoloGestione()};
     EXPECT_EQ(mostraMessaggio(nullptr, domanda), Risposta::si);
     EXPECT_EQ(mostraMessaggio(nullptr, notizia), Risposta::ok);
     EXPECT_THAT(registro.prendi(), testing::ElementsAre(domanda, notizia));
@@ -74,7 +75,7 @@ TEST(Registro, tieneIMessaggiEDaLeRisposte)
 
 TEST(Registro, fallisceSuCioCheNonEraAtteso)
 {
-    const Messaggio domanda{QStringLiteral("Vuoi?"), Stile::domandaAvviso, titoloGestione()};
+    const Messaggio domanda{u"Vuoi?"_s, Stile::domandaAvviso, titoloGestione()};
     EXPECT_NONFATAL_FAILURE(
         {
             RegistroMessaggi registro;
@@ -91,7 +92,7 @@ TEST(Registro, fallisceSuCioCheNonEraAtteso)
     EXPECT_NONFATAL_FAILURE(
         {
             RegistroMessaggi registro;
-            mostraMessaggio(nullptr, {QStringLiteral("Errore."), Stile::critico, titoloGestione()});
+            mostraMessaggio(nullptr, {u"Errore."_s, Stile::critico, titoloGestione()});
         },
         "Messaggio che nessuno aspettava: \"Errore.\" (16");
 }
@@ -99,14 +100,14 @@ TEST(Registro, fallisceSuCioCheNonEraAtteso)
 TEST(Trova, daIlFiglioOElencaQuelliCheCiSono)
 {
     QWidget finestra;
-    finestra.setObjectName(QStringLiteral("frmProva"));
+    finestra.setObjectName(u"frmProva"_s);
     auto* disposizione = new QVBoxLayout(&finestra);
     auto* campo = new QLineEdit(&finestra);
-    campo->setObjectName(QStringLiteral("txtLDV"));
+    campo->setObjectName(u"txtLDV"_s);
     disposizione->addWidget(campo);
-    EXPECT_EQ(trova<QLineEdit>(finestra, QStringLiteral("txtLDV")), campo);
+    EXPECT_EQ(trova<QLineEdit>(finestra, u"txtLDV"_s), campo);
     try {
-        trova<QLineEdit>(&finestra, QStringLiteral("txtData"));
+        trova<QLineEdit>(&finestra, u"txtData"_s);
         FAIL() << "non ha lanciato";
     } catch (const std::runtime_error& errore) {
         EXPECT_STREQ(errore.what(), "QLineEdit \"txtData\" non c'è in frmProva. Ci sono:\n"

@@ -1,5 +1,7 @@
 #include "support/trova.h"
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::prove {
 
 namespace {
@@ -10,13 +12,12 @@ QString elenco(const QObject& radice, int rientro)
     for (const QObject* figlio : radice.children()) {
         const QString sotto = elenco(*figlio, rientro + 2);
         // Qt gives names of its own, "qt_...", to the insides of its controls.
-        const bool senzaNome =
-            figlio->objectName().isEmpty() || figlio->objectName().startsWith(QStringLiteral("qt_"));
+        const bool senzaNome = figlio->objectName().isEmpty() || figlio->objectName().startsWith(u"qt_"_s);
         if (senzaNome && sotto.isEmpty())
             continue;
-        testo += QStringLiteral("%1%2 \"%3\"\n")
-                     .arg(QString(rientro, u' '), QString::fromLatin1(figlio->metaObject()->className()),
-                          figlio->objectName());
+        testo += u"%1%2 \"%3\"\n"_s.arg(QString(rientro, u' '),
+                                        QString::fromLatin1(figlio->metaObject()->className()),
+                                        figlio->objectName());
         testo += sotto;
     }
     return testo;

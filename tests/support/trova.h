@@ -5,6 +5,8 @@
 
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::prove {
 
 /// The children of an object, one to a line: class and name, indented by depth; those without a name only
@@ -18,9 +20,9 @@ Classe* trova(const QObject& radice, const QString& nome)
 {
     if (auto* figlio = radice.findChild<Classe*>(nome))
         return figlio;
-    const QString testo = QStringLiteral("%1 \"%2\" non c'è in %3. Ci sono:\n%4")
-                              .arg(QString::fromLatin1(Classe::staticMetaObject.className()), nome,
-                                   radice.objectName(), elencoFigli(radice));
+    const QString testo = u"%1 \"%2\" non c'è in %3. Ci sono:\n%4"_s.arg(
+        QString::fromLatin1(Classe::staticMetaObject.className()), nome, radice.objectName(),
+        elencoFigli(radice));
     throw std::runtime_error(testo.toStdString());
 }
 

@@ -7,6 +7,8 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int guasti = 0;
@@ -30,13 +32,13 @@ void provaLaClasse()
     giacenza::cGiacenza classe;
     QObject::connect(&classe, &giacenza::cGiacenza::fine, &classe,
                      [] { verifica(false, "fine senza schermate"); });
-    classe.setPercorsoDatabase(QStringLiteral("DRIVER={Nessuno};"));
-    classe.setPercorsoFileIni(QStringLiteral("gest.ini"));
-    classe.setPercorsoLogoIntestazione(QStringLiteral("logo.gif"));
+    classe.setPercorsoDatabase(u"DRIVER={Nessuno};"_s);
+    classe.setPercorsoFileIni(u"gest.ini"_s);
+    classe.setPercorsoLogoIntestazione(u"logo.gif"_s);
     classe.setTipoReso(giacenza::cGiacenza::ResoMittente);
-    verifica(classe.PercorsoDatabase() == QStringLiteral("DRIVER={Nessuno};"), "PercorsoDatabase");
-    verifica(giacenza::cGiacenza().PercorsoFileIni() == QStringLiteral("gest.ini"), "PercorsoFileIni");
-    verifica(!classe.Esegui(QStringLiteral("nulla")).isValid(), "Esegui");
+    verifica(classe.PercorsoDatabase() == u"DRIVER={Nessuno};"_s, "PercorsoDatabase");
+    verifica(giacenza::cGiacenza().PercorsoFileIni() == u"gest.ini"_s, "PercorsoFileIni");
+    verifica(!classe.Esegui(u"nulla"_s).isValid(), "Esegui");
     verifica(giacenza::cGiacenza::IdEsegui == 0x6003000C, "IdEsegui");
 }
 
@@ -55,8 +57,8 @@ void provaIlModulo(const QString& percorso)
         return;
     QStringList scelti;
     ricerca->setScelta([&](const QStringList& valori) { scelti = valori; });
-    ricerca->mostra(QStringLiteral("select 1"), {}, nullptr);
-    verifica(scelti == QStringList(QStringLiteral("select 1")), "la scelta torna");
+    ricerca->mostra(u"select 1"_s, {}, nullptr);
+    verifica(scelti == QStringList(u"select 1"_s), "la scelta torna");
 }
 
 } // namespace

@@ -1,0 +1,11 @@
+#include "base/impostazioni.h"
+
+namespace giacenza {
+
+Impostazioni& impostazioni()
+{
+    static thread_local Impostazioni delThread;
+    return delThread;
+}
+
+} // namespace giacenza

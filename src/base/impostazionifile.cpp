@@ -1,0 +1,44 @@
+#include "base/impostazioni.h"
+#include "base/lettoreini.h"
+#include "base/servizi.h"
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza {
+
+namespace {
+
+// A reader that the host registers, or a plug-in file brings, goes before the component's own.
+std::unique_ptr<LettoreIni> lettore()
+{
+    ParteDi<LettoreIni> esterno = creaParteDi<LettoreIni>(QStringView(classeLettoreIni).toString());
+    if (esterno.parte)
+        return std::move(esterno.parte);
+    return std::make_unique<LettoreIniProprio>();
+}
+
+} // namespace
+
+QString LeggiIni(const QString& sezione, const QString& chiave)
+{
+    return lettore()->leggi(impostazioni().percorsoFileIni, sezione, chiave);
+}
+
+ParteDi<ModuloStampa> CaricaModuloStampa()
+{
+    try {
+        const QString identificativo = LeggiIni(u"DLLStampe"_s, u"IdentificativoDll"_s);
+        ParteDi<ModuloStampa> modulo =
+            creaParteDi<ModuloStampa>(u"ReportDoc%1.cModuliStampa"_s.arg(identificativo));
+        if (!modulo.parte && identificativo.isEmpty()) {
+            modulo.motivo = u"Manca la voce IdentificativoDll della sezione DLLStampe nel file "
+                            "delle impostazioni \"%1\".\n"_s.arg(impostazioni().percorsoFileIni) +
+                            modulo.motivo;
+        }
+        return modulo;
+    } catch (const std::exception& errore) {
+        return {nullptr, QString::fromUtf8(errore.what())};
+    }
+}
+
+} // namespace giacenza

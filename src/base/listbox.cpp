@@ -1,0 +1,105 @@
+#include "base/listbox.h"
+
+#include "base/errorenumerato.h"
+#include "base/percorsi.h"
+#include "base/testofile.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza {
+
+namespace {
+
+// A folder or a device under that name is a failure, not a list without lines.
+QByteArray leggi(QFile& file)
+{
+    if (!QFileInfo(file).isFile())
+        throw Errore(u"%1 non è un file"_s.arg(file.fileName()));
+    if (!file.open(QIODevice::ReadOnly))
+        throw Errore(file.errorString());
+    const QByteArray byte = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        throw Errore(file.errorString());
+    file.close();
+    return byte;
+}
+
+QStringList righe(const QString& testo)
+{
+    QStringList tutte = testo.split(u'\n');
+    if (tutte.last().isEmpty())
+        tutte.removeLast();
+    for (QString& riga : tutte) {
+        if (riga.endsWith(u'\r'))
+            riga.chop(1);
+    }
+    return tutte;
+}
+
+QString fineRiga(const QByteArray& byte)
+{
+    const qsizetype prima = byte.indexOf('\n');
+    return prima > 0 && byte.at(prima - 1) == '\r' ? u"\r\n"_s : u"\n"_s;
+}
+
+// One write, so that two workstations that add at once do not mix their lines; unbuffered, so that its
+// failure is known here.
+void scriviInCoda(QFile& file, const QByteArray& byte)
+{
+    const bool nuovo = !file.exists();
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
+        throw Errore(file.errorString());
+    const qint64 prima = file.size();
+    if (file.write(byte) == byte.size())
+        return;
+    const QString causa = file.errorString();
+    file.resize(prima);
+    file.close();
+    if (nuovo)
+        file.remove();
+    throw Errore(causa);
+}
+
+void rifiutaSeNonEUnaVoce(const QString& riga)
+{
+    if (riga.trimmed().isEmpty())
+        throw ErroreNumerato(erroreNaturaMerce, u"Nessun valore da aggiungere"_s);
+    if (riga.contains(u'\n') || riga.contains(u'\r'))
+        throw ErroreNumerato(erroreNaturaMerce, u"Il valore è di più righe"_s);
+}
+
+} // namespace
+
+std::optional<QStringList> leggiElenco(const QString& percorso)
+{
+    QFile file(percorsoNativo(percorso));
+    if (!file.exists())
+        return {};
+    return righe(decodifica(leggi(file)).testo);
+}
+
+void aggiungiAllElenco(const QString& percorso, const QString& riga)
+{
+    rifiutaSeNonEUnaVoce(riga);
+    QFile file(percorsoNativo(percorso));
+    if (!file.exists()) {
+        scriviInCoda(file, (u"VEDI DDT\n"_s + riga + u'\n').toUtf8());
+        return;
+    }
+    const QByteArray byte = leggi(file);
+    const TestoLetto letto = decodifica(byte);
+    if (righe(letto.testo).contains(riga))
+        throw ErroreNumerato(erroreNaturaMerce, u"Il valore è già nella lista"_s);
+    const QString fine = fineRiga(byte);
+    const bool ultimaAperta = !byte.isEmpty() && !byte.endsWith('\n');
+    const std::optional<QByteArray> nuova =
+        codifica((ultimaAperta ? fine : QString()) + riga + fine, letto.codifica);
+    if (!nuova)
+        throw Errore(u"La codifica della lista non ha tutti i caratteri del valore"_s);
+    scriviInCoda(file, *nuova);
+}
+
+} // namespace giacenza

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "base/parti.h"
+
+#include <giacenza/ModuloStampa.h>
+
+namespace giacenza {
+
+/// One value of the settings file, read anew at each call, empty when absent. Throws what a reader from
+/// outside throws; the component's own throws nothing.
+QString LeggiIni(const QString& sezione, const QString& chiave);
+
+/// The print module that the settings file names (section "DLLStampe", key "IdentificativoDll"); an empty
+/// reference with the reason when it cannot be made.
+ParteDi<ModuloStampa> CaricaModuloStampa();
+
+} // namespace giacenza

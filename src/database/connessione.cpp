@@ -1,0 +1,66 @@
+#include "database/connessione.h"
+
+#include "database/odbc.h"
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza {
+
+Connessione::Connessione() = default;
+Connessione::Connessione(Connessione&&) noexcept = default;
+
+Connessione& Connessione::operator=(Connessione&& altra) noexcept
+{
+    if (this != &altra) {
+        chiudi();
+        mCollegamento = std::move(altra.mCollegamento);
+    }
+    return *this;
+}
+
+Connessione::~Connessione()
+{
+    chiudi();
+}
+
+void Connessione::apri(const QString& stringa, const Limiti& limiti)
+{
+    if (aperta())
+        return;
+    chiudi();
+    mCollegamento = std::make_shared<odbc::Collegamento>(stringa, limiti);
+}
+
+bool Connessione::aperta() const noexcept
+{
+    return mCollegamento && mCollegamento->aperto();
+}
+
+void Connessione::chiudi() noexcept
+{
+    if (!mCollegamento)
+        return;
+    mCollegamento->chiudi();
+    mCollegamento.reset();
+}
+
+qint64 Connessione::esegui(const QString& istruzione)
+{
+    odbc::Istruzione comando(collegamento());
+    comando.esegui(istruzione);
+    return comando.finisci();
+}
+
+Dialetto Connessione::dialetto() const noexcept
+{
+    return mCollegamento ? mCollegamento->dialetto() : Dialetto::altro;
+}
+
+const std::shared_ptr<odbc::Collegamento>& Connessione::collegamento() const
+{
+    if (!aperta())
+        throw ErroreDatabase(u"08003"_s, 0, u"La connessione è chiusa."_s);
+    return mCollegamento;
+}
+
+} // namespace giacenza

@@ -1,0 +1,283 @@
+#include "database/recordset.h"
+
+#include "database/righe.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza {
+
+class Recordset::Interno
+{
+public:
+    std::shared_ptr<odbc::Collegamento> collegamento;
+    QString istruzione;
+    std::vector<QString> nomi;
+    std::unique_ptr<Righe> righe; // none for a table
+
+    QString tabella; // empty for the rows of a statement
+    bool nuova = false;
+    std::vector<std::pair<qsizetype, Valore>> impostati;
+
+    void apri(const QString& testo, Cursore cursore, std::span<const Valore> parametri);
+    void apriTabella();
+    void aggiorna();
+    const odbc::Riga& corrente() const;
+    qsizetype indice(const QString& nome) const;
+    qsizetype indiceCerto(const QString& nome) const;
+    [[noreturn]] void fallisci(const char* stato, const QString& testo) const;
+};
+
+void Recordset::Interno::fallisci(const char* stato, const QString& testo) const
+{
+    throw ErroreDatabase(QString::fromLatin1(stato), 0, testo, istruzione);
+}
+
+void Recordset::Interno::apri(const QString& testo, Cursore cursore, std::span<const Valore> parametri)
+{
+    istruzione = testo;
+    auto lettura = std::make_unique<odbc::Istruzione>(collegamento);
+    if (parametri.empty()) {
+        lettura->esegui(testo);
+    } else {
+        lettura->prepara(testo);
+        lettura->eseguiPreparata(parametri);
+    }
+    nomi = lettura->nomiColonne();
+    if (nomi.empty())
+        fallisci("07005", u"L'istruzione non dà righe."_s);
+    righe = std::make_unique<Righe>(std::move(lettura), static_cast<int>(nomi.size()), cursore);
+}
+
+/// Only prepared and described: running the select would read the whole table on one database, and on the
+/// other take a snapshot that a write of the same transaction could no longer leave.
+void Recordset::Interno::apriTabella()
+{
+    istruzione = u"select * from "_s + tabella;
+    odbc::Istruzione descrizione(collegamento);
+    collegamento->esegui(EventoDati::istruzione, istruzione, [&] {
+        descrizione.prepara(istruzione);
+        nomi = descrizione.nomiColonne();
+    });
+}
+
+const odbc::Riga& Recordset::Interno::corrente() const
+{
+    if (!righe || righe->finite())
+        fallisci("02000", u"Non c'è un record corrente."_s);
+    return righe->corrente();
+}
+
+qsizetype Recordset::Interno::indice(const QString& nome) const
+{
+    const auto trovato = std::find_if(nomi.begin(), nomi.end(), [&](const QString& altro) {
+        return altro.compare(nome, Qt::CaseInsensitive) == 0;
+    });
+    return trovato == nomi.end() ? -1 : trovato - nomi.begin();
+}
+
+qsizetype Recordset::Interno::indiceCerto(const QString& nome) const
+{
+    const qsizetype trovato = indice(nome);
+    if (trovato < 0)
+        fallisci("42S22", u"La colonna \"%1\" non esiste."_s.arg(nome));
+    return trovato;
+}
+
+void Recordset::Interno::aggiorna()
+{
+    if (!nuova || impostati.empty())
+        fallisci("HY010", u"Non c'è una nuova riga da scrivere."_s);
+    QStringList colonne;
+    QStringList segni;
+    std::vector<Valore> valori;
+    for (const auto& [colonna, valore] : impostati) {
+        colonne += nomi[static_cast<std::size_t>(colonna)];
+        segni += u"?"_s;
+        valori.push_back(valore);
+    }
+    odbc::Istruzione inserimento(collegamento);
+    inserimento.prepara(
+        u"insert into %1 (%2) values (%3)"_s.arg(tabella, colonne.join(u", "_s), segni.join(u", "_s)));
+    inserimento.eseguiPreparata(valori);
+    nuova = false;
+    impostati.clear();
+}
+
+Recordset::Recordset() = default;
+Recordset::Recordset(Recordset&&) noexcept = default;
+Recordset& Recordset::operator=(Recordset&&) noexcept = default;
+Recordset::~Recordset() = default;
+
+void Recordset::apri(Connessione& connessione, const QString& istruzione, Cursore cursore,
+                     std::span<const Valore> parametri)
+{
+    chiudi();
+    auto nuovo = std::make_unique<Interno>();
+    nuovo->collegamento = connessione.collegamento();
+    nuovo->apri(istruzione, cursore, parametri);
+    mInterno = std::move(nuovo);
+}
+
+void Recordset::apriTabella(Connessione& connessione, const QString& tabella)
+{
+    chiudi();
+    auto nuovo = std::make_unique<Interno>();
+    nuovo->collegamento = connessione.collegamento();
+    nuovo->tabella = tabella;
+    nuovo->apriTabella();
+    mInterno = std::move(nuovo);
+}
+
+bool Recordset::aperto() const noexcept
+{
+    return mInterno && mInterno->collegamento->aperto();
+}
+
+void Recordset::chiudi() noexcept
+{
+    mInterno.reset();
+}
+
+Recordset::Interno& Recordset::interno() const
+{
+    if (!aperto())
+        throw ErroreDatabase(u"24000"_s, 0, u"Il recordset è chiuso."_s);
+    return *mInterno;
+}
+
+bool Recordset::bof() const noexcept
+{
+    return !aperto() || !mInterno->righe || mInterno->righe->vuote();
+}
+
+bool Recordset::eof() const noexcept
+{
+    return !aperto() || !mInterno->righe || mInterno->righe->finite();
+}
+
+void Recordset::primo()
+{
+    Interno& i = interno();
+    if (i.righe && !i.righe->primo())
+        i.fallisci("24000", u"Il recordset legge solo in avanti."_s);
+}
+
+void Recordset::successivo()
+{
+    Interno& i = interno();
+    if (i.righe)
+        i.righe->avanti();
+}
+
+void Recordset::ultimo()
+{
+    Interno& i = interno();
+    if (i.righe && !i.righe->ultimo())
+        i.fallisci("24000", u"Il recordset legge solo in avanti."_s);
+}
+
+int Recordset::colonne() const noexcept
+{
+    return aperto() ? static_cast<int>(mInterno->nomi.size()) : 0;
+}
+
+QString Recordset::nomeColonna(int colonna) const
+{
+    const Interno& i = interno();
+    if (colonna < 0 || colonna >= colonne())
+        i.fallisci("42S22", u"La colonna %1 non esiste."_s.arg(colonna));
+    return i.nomi[static_cast<std::size_t>(colonna)];
+}
+
+int Recordset::indice(const QString& nome) const
+{
+    return static_cast<int>(interno().indice(nome));
+}
+
+std::optional<QByteArrayView> Recordset::utf8(int colonna) const
+{
+    const Interno& i = interno();
+    if (colonna < 0 || colonna >= colonne())
+        i.fallisci("42S22", u"La colonna %1 non esiste."_s.arg(colonna));
+    const odbc::Riga& riga = i.corrente();
+    const auto& cella = riga.celle[static_cast<std::size_t>(colonna)];
+    if (cella.lunghezza < 0)
+        return std::nullopt;
+    return QByteArrayView(riga.dati.constData() + cella.inizio, cella.lunghezza);
+}
+
+Valore Recordset::valore(int colonna) const
+{
+    const auto byte = utf8(colonna);
+    return byte ? Valore(QString::fromUtf8(*byte)) : std::nullopt;
+}
+
+Valore Recordset::valore(const QString& nome) const
+{
+    return valore(static_cast<int>(interno().indiceCerto(nome)));
+}
+
+void Recordset::aggiungi()
+{
+    Interno& i = interno();
+    if (i.tabella.isEmpty())
+        i.fallisci("HY010", u"Il recordset non è aperto su una tabella."_s);
+    i.nuova = true;
+    i.impostati.clear();
+}
+
+void Recordset::imposta(const QString& colonna, const Valore& valore)
+{
+    Interno& i = interno();
+    if (!i.nuova)
+        i.fallisci("HY010", u"Non c'è una nuova riga da scrivere."_s);
+    const qsizetype quale = i.indiceCerto(colonna);
+    const auto gia = std::find_if(i.impostati.begin(), i.impostati.end(),
+                                  [quale](const auto& coppia) { return coppia.first == quale; });
+    if (gia == i.impostati.end())
+        i.impostati.emplace_back(quale, valore);
+    else
+        gia->second = valore;
+}
+
+void Recordset::aggiorna()
+{
+    interno().aggiorna();
+}
+
+class Comando::Interno
+{
+public:
+    explicit Interno(Connessione& connessione) : istruzione(connessione.collegamento()) {}
+    odbc::Istruzione istruzione;
+};
+
+Comando::Comando(Connessione& connessione, const QString& istruzione)
+    : mInterno(std::make_unique<Interno>(connessione))
+{
+    mInterno->istruzione.prepara(istruzione);
+}
+
+Comando::Comando(Comando&&) noexcept = default;
+Comando& Comando::operator=(Comando&&) noexcept = default;
+Comando::~Comando() = default;
+
+qint64 Comando::esegui(std::span<const Valore> parametri)
+{
+    mInterno->istruzione.eseguiPreparata(parametri);
+    return mInterno->istruzione.finisci();
+}
+
+void ChiudiOggettiDB(Recordset* recordset, Connessione* connessione, bool rilascia,
+                     bool mantieniConnessione) noexcept
+{
+    if (recordset)
+        recordset->chiudi();
+    if (connessione && (rilascia || !mantieniConnessione))
+        connessione->chiudi();
+}
+
+} // namespace giacenza

@@ -1,0 +1,72 @@
+#include "database/sql.h"
+
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza::sql {
+
+namespace {
+
+/// As much of a refused value as fits an error's text.
+constexpr qsizetype lunghezzaMostrata = 80;
+
+[[noreturn]] void rifiuta(const QString& motivo)
+{
+    throw ErroreDatabase(u"42000"_s, 0, u"Errore di sintassi nell'istruzione SQL: %1."_s.arg(motivo));
+}
+
+[[noreturn]] void rifiuta(const QString& motivo, const QString& valore)
+{
+    rifiuta(u"%1 in \"%2\""_s.arg(motivo, valore.left(lunghezzaMostrata)));
+}
+
+bool apiciRaddoppiati(const QString& valore)
+{
+    for (qsizetype posto = valore.indexOf(u'\''); posto >= 0; posto = valore.indexOf(u'\'', posto + 2)) {
+        if (posto + 1 == valore.size() || valore.at(posto + 1) != u'\'') {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+QString testo(const QString& valore)
+{
+    if (valore.contains(QChar(u'\0'))) {
+        rifiuta(u"carattere nullo"_s, valore);
+    }
+    if (!apiciRaddoppiati(valore)) {
+        rifiuta(u"apostrofo non raddoppiato"_s, valore);
+    }
+    return valore;
+}
+
+QString cifre(const QString& valore)
+{
+    if (!soloCifre(valore)) {
+        rifiuta(u"attese solo cifre"_s, valore);
+    }
+    return valore;
+}
+
+QString numero(const QString& valore)
+{
+    static const QRegularExpression modello(u"\\A-?(?:[0-9]+\\.?[0-9]*|\\.[0-9]+)\\z"_s);
+    if (!modello.match(valore).hasMatch()) {
+        rifiuta(u"atteso un numero"_s, valore);
+    }
+    return valore;
+}
+
+QString data(QDate valore)
+{
+    if (!valore.isValid()) {
+        rifiuta(u"attesa una data"_s);
+    }
+    return dataSql(valore);
+}
+
+} // namespace giacenza::sql

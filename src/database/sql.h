@@ -1,0 +1,24 @@
+#pragma once
+
+#include "database/valori.h"
+
+namespace giacenza::sql {
+
+/// The one place where values are pasted into statements. A value that would leave its place is not sent: the
+/// error that the broken statement would have raised is raised instead (ErroreDatabase, SQLSTATE 42000).
+
+/// A text for a place between apostrophes, unchanged. Throws when an apostrophe in it is not doubled, or when
+/// it holds a NUL character.
+QString testo(const QString& valore);
+
+/// A code or a year for a bare place: digits only, unchanged. Throws otherwise, the empty text included.
+QString cifre(const QString& valore);
+
+/// An amount or a whole number for a bare place: an optional minus, digits, at most one point, unchanged.
+/// Throws otherwise.
+QString numero(const QString& valore);
+
+/// A day for a place between apostrophes: "yyyy-mm-dd". Throws for an invalid date.
+QString data(QDate valore);
+
+} // namespace giacenza::sql

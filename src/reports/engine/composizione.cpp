@@ -1,0 +1,102 @@
+#include "reports/engine/composizione.h"
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza::report {
+
+namespace {
+
+/// What of a primitive lies between two heights of its band; frames are cut there, the rest is whole or
+/// absent.
+std::optional<Primitiva> entro(const Primitiva& primitiva, double da, double a)
+{
+    constexpr double tolleranza = 0.001;
+    const QRectF area = areaDi(primitiva);
+    const double meta = area.center().y();
+    if (!std::holds_alternative<CornicePagina>(primitiva) || area.height() <= 0) {
+        const bool dentro = meta >= da - tolleranza && meta < a + tolleranza;
+        return dentro ? std::optional(primitiva) : std::nullopt;
+    }
+    const double alto = std::max(area.top(), da);
+    const double basso = std::min(area.bottom(), a);
+    if (basso - alto <= tolleranza)
+        return std::nullopt;
+    CornicePagina cornice = std::get<CornicePagina>(primitiva);
+    cornice.area.setTop(alto);
+    cornice.area.setBottom(basso);
+    return cornice;
+}
+
+} // namespace
+
+Composizione::Composizione(Definizione definizione, const QString& titolo, const QImage& logo)
+    : mDefinizione(std::move(definizione)), mTitolo(titolo), mLogo(logo)
+{
+    const auto testi = testiDi(mDefinizione.intestazione, [](const Controllo& c) { return c.testo; });
+    mIntestazione = componiBanda(mDefinizione.intestazione, testi, mLogo, mMisuratore);
+}
+
+double Composizione::inizioPie() const
+{
+    return mDefinizione.cartaMm().height() - mDefinizione.margineBasso - mDefinizione.pie.altezza;
+}
+
+void Composizione::aggiungi(const RigaReport& riga, Connessione& connessione)
+{
+    const TestiSezione testi = testiDi(mDefinizione.dettaglio, [&](const Controllo& controllo) {
+        if (controllo.genere == Genere::etichetta)
+            return controllo.testo;
+        const Contesto contesto{riga.valore(controllo.colonna), riga, connessione};
+        return controllo.formato ? controllo.formato(contesto) : contesto.valore.value_or(QString());
+    });
+    const auto banda = [&](double riduzione) {
+        return componiBanda(mDefinizione.dettaglio, testi, mLogo, mMisuratore, riduzione);
+    };
+    const double spazio = inizioPie() - inizioCorpo();
+    Banda naturale = banda(1);
+    for (const double riduzione : {0.9, 0.8}) {
+        if (naturale.altezza <= spazio)
+            break;
+        if (Banda ridotta = banda(riduzione); ridotta.altezza <= spazio)
+            naturale = std::move(ridotta);
+    }
+    mBande.push_back(std::move(naturale));
+}
+
+void Composizione::aggiungiPezzo(PaginaReport& pagina, const Pezzo& pezzo) const
+{
+    for (const Primitiva& primitiva : mBande[pezzo.blocco].primitive) {
+        if (const auto parte = entro(primitiva, pezzo.da, pezzo.a))
+            pagina.push_back(spostata(*parte, inizioCorpo() + pezzo.y - pezzo.da));
+    }
+}
+
+std::vector<PaginaReport> Composizione::pagine()
+{
+    std::vector<Blocco> blocchi;
+    for (const Banda& banda : mBande) {
+        blocchi.push_back(banda.blocco());
+        blocchi.back().iniziaPagina = true;
+    }
+    const auto divise = impagina(blocchi, inizioPie() - inizioCorpo());
+
+    std::vector<PaginaReport> pagine;
+    for (std::size_t n = 0; n < divise.size(); ++n) {
+        PaginaReport& pagina = pagine.emplace_back();
+        for (const Primitiva& primitiva : mIntestazione.primitive)
+            pagina.push_back(spostata(primitiva, mDefinizione.margineAlto));
+        for (const Pezzo& pezzo : divise[n])
+            aggiungiPezzo(pagina, pezzo);
+        const TestiSezione testi = testiDi(mDefinizione.pie, [&](const Controllo& controllo) {
+            return QString(controllo.testo)
+                .replace(u"{n}"_s, QString::number(n + 1))
+                .replace(u"{m}"_s, QString::number(divise.size()))
+                .replace(u"{t}"_s, mTitolo);
+        });
+        for (const Primitiva& primitiva : componiBanda(mDefinizione.pie, testi, mLogo, mMisuratore).primitive)
+            pagina.push_back(spostata(primitiva, inizioPie()));
+    }
+    return pagine;
+}
+
+} // namespace giacenza::report

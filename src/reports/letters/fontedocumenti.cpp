@@ -1,0 +1,56 @@
+#include "reports/letters/fontedocumenti.h"
+
+#include "base/impostazioni.h"
+#include "base/percorsi.h"
+#include "base/servizi.h"
+#include "reports/letters/reportcondivisi.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QPointer>
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza {
+
+namespace {
+
+class FonteReport : public FonteDocumenti
+{
+public:
+    void setPadre(QWidget* padre) { mPadre = padre; }
+
+    std::unique_ptr<Documento> documento(const RichiestaDocumento& richiesta) override
+    {
+        report::Report& report = richiesta.tipo == TipoDocumento::buonFine
+                                     ? static_cast<report::Report&>(rptBuonFine())
+                                     : rptAvviso();
+        return report.componi(richiesta, mPadre);
+    }
+
+    QString cartellaDocumenti() const override
+    {
+        const QString scelta = LeggiIni(u"DLLStampe"_s, u"CartellaDocumenti"_s);
+        const QFileInfo impostate(percorsoNativo(impostazioni().percorsoFileIni));
+        const QString relativa = scelta.isEmpty() ? u"documenti"_s : percorsoNativo(scelta);
+        return QDir::cleanPath(impostate.absoluteDir().absoluteFilePath(relativa));
+    }
+
+    QString impostazione(const QString& chiave) const override { return LeggiIni(u"DLLStampe"_s, chiave); }
+
+private:
+    QPointer<QWidget> mPadre;
+};
+
+} // namespace
+
+void collegaFonte(ModuloStampa& modulo, QWidget* padre)
+{
+    thread_local FonteReport fonte;
+    fonte.setPadre(padre);
+    if (auto* conFonte = dynamic_cast<ModuloStampaConFonte*>(&modulo))
+        conFonte->setFonte(&fonte, padre);
+}
+
+} // namespace giacenza

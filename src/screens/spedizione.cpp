@@ -1,0 +1,189 @@
+#include "screens/spedizione.h"
+
+#include <algorithm>
+#include <string_view>
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza {
+
+namespace {
+
+using enum Conversione;
+
+constexpr auto nessuna = u"";
+
+bool stessaColonna(const char16_t* a, std::u16string_view b)
+{
+    return QStringView(a).compare(QStringView(b), Qt::CaseInsensitive) == 0;
+}
+
+Conversione conNullVuoto(Conversione conversione)
+{
+    switch (conversione) {
+    case testo:
+        return testoOVuoto;
+    case numero:
+        return numeroOVuoto;
+    case data:
+        return dataOVuota;
+    default:
+        return conversione;
+    }
+}
+
+/// The management screen has its own first controls: the waybill is shown, not searched.
+MappaSpedizione creaMappaGestione()
+{
+    MappaSpedizione mappa = mappaRegistrazione();
+    const auto inizio = std::next(mappa.begin());
+    const auto fine = std::find_if(
+        inizio, mappa.end(), [](const PassoSpedizione& p) { return stessaColonna(p.colonna, u"lefili"); });
+    const auto dove = mappa.erase(inizio, fine);
+    mappa.insert(
+        dove,
+        {{u"lenrlv", "txtLDV", testo}, {u"leanlv", "txtAnnoLdv", testo}, {u"lerifd", "txtAnnoRif", anno}});
+    std::erase_if(mappa,
+                  [](const PassoSpedizione& p) { return std::string_view(p.controllo) == "txtDataRif"; });
+    return mappa;
+}
+
+/// The re-delivery screen empties what a waybill without a held shipment has nothing for.
+MappaSpedizione creaMappaRiconsegna()
+{
+    static constexpr std::u16string_view vuoteSeNull[] = {u"ledest", u"lerico", u"GIDES1", u"GIDTAV",
+                                                          u"GIDTBF", u"GINRFA", u"GIDTFA", u"GIIMGI",
+                                                          u"GICOFA", u"GIVNRG", u"GIVDTG"};
+    MappaSpedizione mappa = mappaRegistrazione();
+    for (PassoSpedizione& passo : mappa)
+        if (std::ranges::any_of(vuoteSeNull, [&](auto c) { return stessaColonna(passo.colonna, c); }))
+            passo.conversione = conNullVuoto(passo.conversione);
+    return mappa;
+}
+
+QString comeNumero(QString valore)
+{
+    return valore.replace(u'.', u',');
+}
+
+QDate comeData(const QString& valore)
+{
+    const auto giorno = leggiData(valore.left(10));
+    if (!giorno)
+        throw ErroreConversione(u"Non è una data: %1"_s.arg(valore));
+    return *giorno;
+}
+
+void esegui(const PassoSpedizione& passo, const Valore& valore, DestinazioneSpedizione& schermo)
+{
+    const QLatin1String controllo(passo.controllo);
+    switch (passo.conversione) {
+    case marca:
+        return schermo.giaInGiacenza(valore && eNumero(*valore));
+    case svuota:
+        return schermo.scrivi(controllo, {});
+    case testoOVuoto:
+        return schermo.scrivi(controllo, valore.value_or(QString()));
+    case numeroOVuoto:
+        return schermo.scrivi(controllo, comeNumero(valore.value_or(QString())));
+    case dataOVuota:
+        return schermo.scrivi(controllo, valore ? dataBreve(comeData(*valore)) : QString());
+    default:
+        break;
+    }
+    if (!valore)
+        return schermo.lascia(controllo);
+    switch (passo.conversione) {
+    case tag:
+        return schermo.scriviTag(controllo, *valore);
+    case numero:
+        return schermo.scrivi(controllo, comeNumero(*valore));
+    case data:
+        return schermo.scrivi(controllo, dataBreve(comeData(*valore)));
+    case anno:
+        return schermo.scrivi(controllo, QString::number(comeData(*valore).year()));
+    case posizione:
+        return schermo.seleziona(controllo, intero16(*valore) - 1);
+    default:
+        return schermo.scrivi(controllo, *valore);
+    }
+}
+
+} // namespace
+
+const MappaSpedizione& mappaRegistrazione()
+{
+    static const MappaSpedizione mappa = {
+        {u"GINRLV", "", marca},
+        {u"ledtlv", "lblDataLav", data},
+        {nessuna, "txtLDV", svuota},
+        {u"lenrlv", "txtLDV", tag},
+        {u"ledtlv", "txtDataLdv", dataOVuota},
+        {u"lefili", "txtFilSped", testo},
+        {u"lefili", "txtFiliale", testo},
+        {u"filiale", "barFilSped", testo},
+        {u"ledest", "txtDestinatario", testo},
+        {u"leindd", "txtIndDestinatario", testoOVuoto},
+        {u"lecapd", "txtCapDestinatario", testoOVuoto},
+        {u"lelocd", "txtLocalitaDest", testoOVuoto},
+        {u"leprod", "txtProvDest", testo},
+        {u"lerico", "txtRiconsegna", testo},
+        {u"lecdve", "txtVettore", testo},
+        {u"vettore", "barVettore", testo},
+        {u"lelin1", "txtLinea", testo},
+        {u"linea", "barLineaCli", testo},
+        {u"lenatu", "cmbNaturaMerce", testo},
+        {u"lerife", "txtRifMitt", testo},
+        {u"lerife", "txtRiferimento", testo},
+        {u"lerifd", "txtDataRifMitt", data},
+        {u"lerifd", "txtDataRif", dataOVuota},
+        {u"leport", "cmbPorto", posizione},
+        {u"lecoll", "txtColli", numero},
+        {u"lepeso", "txtPesoKg", numero},
+        {u"levolu", "txtVolume", numero},
+        {u"lecnss", "txtContrassegno", numero},
+        {u"leanpc", "txtAnticipo", numero},
+        {u"lenote", "txtNoteLdv", testo},
+        {u"levame", "txtValMerce", numero},
+        {u"GIDES1", "txtDescGia", testo},
+        {u"GIFIGI", "txtFilialeGia", testo},
+        {u"GIDTAV", "lblDataAvviso", data},
+        {u"GIDTBF", "lblDataBuonFine", data},
+        {u"GINRGI", "lblNrGia", testo},
+        {u"GIDTGI", "txtDataGia", data},
+        {u"GINRFA", "lblFattura", testo},
+        {u"GIDTFA", "txtDataFatt", data},
+        {u"GIIMGI", "txtImponibile", numero},
+        {u"GICOFA", "txtCodFatt", testo},
+        {u"GIVNRG", "txtGiaOld", testo},
+        {u"GIVDTG", "txtDataGiaOld", data},
+    };
+    return mappa;
+}
+
+const MappaSpedizione& mappaGestione()
+{
+    static const MappaSpedizione mappa = creaMappaGestione();
+    return mappa;
+}
+
+const MappaSpedizione& mappaRiconsegna()
+{
+    static const MappaSpedizione mappa = creaMappaRiconsegna();
+    return mappa;
+}
+
+void CaricaDatiSpedizione(const Recordset& riga, const MappaSpedizione& mappa,
+                          DestinazioneSpedizione& schermo)
+{
+    for (const PassoSpedizione& passo : mappa) {
+        try {
+            const bool senzaColonna = *passo.colonna == 0;
+            esegui(passo, senzaColonna ? Valore() : riga.valore(QString::fromUtf16(passo.colonna)), schermo);
+        } catch (const Errore&) {
+            schermo.lascia(QLatin1String(passo.controllo));
+        }
+    }
+}
+
+} // namespace giacenza
