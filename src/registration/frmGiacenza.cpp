@@ -4,9 +4,9 @@
 #include "base/orologio.h"
 #include "data/salvataggio.h"
 #include "dialogs/frmCalendario.h"
-#include "registration/ui_frmGiacenza.h"
 #include "screens/campi.h"
 #include "screens/ricercaspedizione.h"
+#include "ui_frmGiacenza.h"
 #include "widgets/tasti.h"
 
 #include <QApplication>
