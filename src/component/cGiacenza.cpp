@@ -143,8 +143,7 @@ void cGiacenza::MostraRiconsegna()
 
 void cGiacenza::setTipoReso(Reso tipo)
 {
-    impostazioni().etichettaReso =
-        tipo == ResoMittente ? u"Reso a Mittente"_s : u"Riconsegna a Destinatario"_s;
+    impostazioni().movimento = tipo == ResoMittente ? Movimento::reso : Movimento::riconsegna;
 }
 
 void cGiacenza::ConsultaGiacenza()

@@ -23,14 +23,14 @@ QString opposto(const QString& numero)
 
 } // namespace
 
-QString LeggiDataBuonFine(const QString& stringa, const ChiaveCaso& chiave)
+std::optional<QDate> LeggiDataBuonFine(const QString& stringa, const ChiaveCaso& chiave)
 {
     const QString istruzione = std::visit([](const auto& c) { return istruzioni::dataBuonFine(c); }, chiave);
     Connessione connessione;
     connessione.apri(stringa);
     Recordset caso;
     caso.apri(connessione, istruzione);
-    return caso.eof() ? QString() : caso.valore(0).value_or(QString());
+    return caso.eof() ? std::nullopt : leggiData(caso.valore(0).value_or(QString()));
 }
 
 std::optional<CondizioniSosta> leggiCondizioni(Connessione& connessione, const QString& numeroLdv,
@@ -47,17 +47,16 @@ std::optional<CondizioniSosta> leggiCondizioni(Connessione& connessione, const Q
 
 ImportiGiacenza calcolaImporti(const CondizioniSosta& condizioni, const QString& giorni)
 {
-    ImportiGiacenza importi = {dovuto(condizioni.fisso, u"FADFGI"_s), u"0"_s};
-    const QString sosta = QString::number(intero16(giorni));
-    const qint16 daPagare = intero16(somma(sosta, opposto(dovuto(condizioni.giorniFranchi, u"FAFRGI"_s))));
+    const Decimale fisso(dovuto(condizioni.fisso, u"FADFGI"_s));
+    const QString giorniFranchi = dovuto(condizioni.giorniFranchi, u"FAFRGI"_s);
+    const qint16 daPagare = intero16(somma(QString::number(intero16(giorni)), opposto(giorniFranchi)));
     if (daPagare <= 0)
-        return importi;
-    importi.sosta = arrotonda(prodotto(dovuto(condizioni.alGiorno, u"FATGIG"_s), QString::number(daPagare)),
-                              2, Arrotondamento::alPari);
+        return {fisso, Decimale(u"0"_s)};
+    const QString sosta =
+        arrotonda(prodotto(dovuto(condizioni.alGiorno, u"FATGIG"_s), QString::number(daPagare)), 2,
+                  Arrotondamento::alPari);
     const QString minimo = dovuto(condizioni.minimo, u"FAMIGI"_s);
-    if (confronta(importi.sosta, minimo) < 0)
-        importi.sosta = minimo;
-    return importi;
+    return {fisso, Decimale(confronta(sosta, minimo) < 0 ? minimo : sosta)};
 }
 
 } // namespace giacenza

@@ -9,9 +9,9 @@
 
 namespace giacenza {
 
-/// The closure date of a held shipment, read on a connection of its own: empty when there is no such held
+/// The closure date of a held shipment, read on a connection of its own: nothing when there is no such held
 /// shipment or it is open. stringa: the connection string. Throws ErroreDatabase.
-QString LeggiDataBuonFine(const QString& stringa, const ChiaveCaso& chiave);
+std::optional<QDate> LeggiDataBuonFine(const QString& stringa, const ChiaveCaso& chiave);
 
 /// A customer's billing terms of storage, as the database has them; amounts in euro.
 struct CondizioniSosta
@@ -22,11 +22,11 @@ struct CondizioniSosta
     Valore minimo;        ///< FAMIGI, the least that is charged when a day is
 };
 
-/// The charges of a held shipment in euro, exact decimals.
+/// The charges of a held shipment in euro.
 struct ImportiGiacenza
 {
-    QString fisso;
-    QString sosta;
+    Decimale fisso;
+    Decimale sosta;
 };
 
 /// What a waybill's terms are found by beside its number: the management screen has its year, the

@@ -205,10 +205,10 @@ QString condizioniFatturazione(const QString& numero, QDate data)
                                                                                     sql::data(data));
 }
 
-QString salvaCosti(const ChiaveSpedizione& chiave, const QString& fisso, const QString& importo)
+QString salvaCosti(const ChiaveSpedizione& chiave, const Decimale& fisso, const Decimale& importo)
 {
-    QString primo = fisso;
-    QString secondo = importo;
+    QString primo = fisso.testo();
+    QString secondo = importo.testo();
     return u"update Giace00f set  FissoGiacenza=%1, GIIMGI=%2 where GIFILI='%3' and GINRLV='%4' and "
            "gianlv=%5;"_s.arg(sql::numero(FormattaNumero(primo)), sql::numero(FormattaNumero(secondo)),
                               sql::testo(chiave.filiale), sql::testo(chiave.numero), anno(chiave.anno));

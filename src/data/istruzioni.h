@@ -1,5 +1,7 @@
 #pragma once
 
+#include "database/decimali.h"
+
 #include <QDate>
 #include <QString>
 
@@ -99,7 +101,7 @@ QString condizioniFatturazione(const QString& numero, int anno);
 QString condizioniFatturazione(const QString& numero, QDate data);
 /// Writes fixed fee and storage amount, with two decimals whatever they come with (FormattaNumero); throws
 /// ErroreConversione when one is no number.
-QString salvaCosti(const ChiaveSpedizione& chiave, const QString& fisso, const QString& importo);
+QString salvaCosti(const ChiaveSpedizione& chiave, const Decimale& fisso, const Decimale& importo);
 
 /// The waybills linked to a held shipment, with it.
 QString riconsegne(const ChiaveGiacenza& chiave);

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "database/connessione.h"
+#include "database/decimali.h"
 
 #include <QDate>
+
+#include <optional>
 
 namespace giacenza {
 
@@ -18,21 +21,22 @@ enum class Ammissione : int
 /// Reads the waybill's marks; only the first row counts. Throws ErroreDatabase.
 Ammissione ControlloInserimento(Connessione& connessione, const QString& numeroLdv, QDate dataLdv);
 
-/// What the screen holds when a held shipment is saved, as texts of its controls.
+/// What a new held shipment is made of. Codes, numbers and captions are the texts that they are on the
+/// screen.
 struct DatiGiacenza
 {
     QString filiale = {};   ///< of the waybill
     QString numeroLdv = {}; ///< as it was found
-    QString dataLdv = {};   ///< its year is the key's
+    QDate dataLdv = {};     ///< its year is the key's
     QString cliente = {};
     QString filialeGiacenza = {}; ///< that holds the goods
     QString giorniSosta = {};
-    QString dataAvviso = {}; ///< this and the next four: not written when empty
-    QString dataBuonFine = {};
-    QString imponibile = {};
+    std::optional<QDate> dataAvviso = {}; ///< this and the next four: not written when there is none
+    std::optional<QDate> dataBuonFine = {};
+    std::optional<Decimale> imponibile = {};
     QString giacenzaPrecedente = {};
-    QString dataPrecedente = {};
-    QString dataGiacenza = {};
+    std::optional<QDate> dataPrecedente = {};
+    QDate dataGiacenza = {};
     QString motivo = {};
 };
 
@@ -41,7 +45,7 @@ struct DatiGiacenza
 ///
 /// schermo: the screen's connection, on which the number is taken, outside the transaction: a failed save
 /// leaves a gap in the series. stringa: the connection string. Returns the number given. Throws
-/// ErroreDatabase, and ErroreConversione for a date or an amount that is none; no number is taken then.
+/// ErroreDatabase.
 QString InserisciGiacenza(Connessione& schermo, const QString& stringa, const DatiGiacenza& dati);
 
 } // namespace giacenza

@@ -1,12 +1,10 @@
 #include "data/sosta.h"
 
-#include "database/valori.h"
-
 namespace giacenza {
 
-int giorniSosta(QDate dataGiacenza, const QString& dataBuonFine, QDate oggi)
+int giorniSosta(QDate dataGiacenza, std::optional<QDate> dataBuonFine, QDate oggi)
 {
-    return static_cast<int>(dataGiacenza.daysTo(leggiData(dataBuonFine).value_or(oggi)));
+    return static_cast<int>(dataGiacenza.daysTo(dataBuonFine.value_or(oggi)));
 }
 
 } // namespace giacenza

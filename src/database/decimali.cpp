@@ -15,7 +15,7 @@ namespace giacenza {
 namespace {
 
 /// unita / 10^decimali, exactly.
-struct Decimale
+struct Cifre
 {
     cpp_int unita;
     int decimali = 0;
@@ -26,7 +26,7 @@ cpp_int potenzaDiDieci(int esponente)
     return boost::multiprecision::pow(cpp_int(10), static_cast<unsigned>(esponente));
 }
 
-Decimale leggi(const QString& testo)
+Cifre leggi(const QString& testo)
 {
     if (!eNumero(testo)) {
         throw ErroreConversione(u"\"%1\" non è un numero."_s.arg(testo));
@@ -44,7 +44,7 @@ Decimale leggi(const QString& testo)
     return {negativo ? cpp_int(-unita) : unita, decimali};
 }
 
-QString scrivi(const Decimale& numero)
+QString scrivi(const Cifre& numero)
 {
     QString cifre = QString::fromStdString(cpp_int(abs(numero.unita)).str());
     if (numero.decimali > 0) {
@@ -55,7 +55,7 @@ QString scrivi(const Decimale& numero)
 }
 
 /// The same value with more decimals.
-cpp_int unitaCon(const Decimale& numero, int decimali)
+cpp_int unitaCon(const Cifre& numero, int decimali)
 {
     return numero.unita * potenzaDiDieci(decimali - numero.decimali);
 }
@@ -68,9 +68,11 @@ bool eNumero(const QString& testo)
     return modello.match(testo.trimmed()).hasMatch();
 }
 
+Decimale::Decimale(const QString& testo) : mTesto(somma(testo, u"0"_s)) {}
+
 QString arrotonda(const QString& valore, int cifre, Arrotondamento modo)
 {
-    const Decimale numero = leggi(valore);
+    const Cifre numero = leggi(valore);
     if (numero.decimali <= cifre) {
         return scrivi({unitaCon(numero, cifre), cifre});
     }
@@ -87,23 +89,23 @@ QString arrotonda(const QString& valore, int cifre, Arrotondamento modo)
 
 QString somma(const QString& primo, const QString& secondo)
 {
-    const Decimale a = leggi(primo);
-    const Decimale b = leggi(secondo);
+    const Cifre a = leggi(primo);
+    const Cifre b = leggi(secondo);
     const int decimali = std::max(a.decimali, b.decimali);
     return scrivi({unitaCon(a, decimali) + unitaCon(b, decimali), decimali});
 }
 
 QString prodotto(const QString& primo, const QString& secondo)
 {
-    const Decimale a = leggi(primo);
-    const Decimale b = leggi(secondo);
+    const Cifre a = leggi(primo);
+    const Cifre b = leggi(secondo);
     return scrivi({a.unita * b.unita, a.decimali + b.decimali});
 }
 
 std::strong_ordering confronta(const QString& primo, const QString& secondo)
 {
-    const Decimale a = leggi(primo);
-    const Decimale b = leggi(secondo);
+    const Cifre a = leggi(primo);
+    const Cifre b = leggi(secondo);
     const int decimali = std::max(a.decimali, b.decimali);
     return unitaCon(a, decimali).compare(unitaCon(b, decimali)) <=> 0;
 }

@@ -19,6 +19,20 @@ public:
 /// point. No grouping, no exponent; the empty text is no number.
 bool eNumero(const QString& testo);
 
+/// An exact decimal: an amount on its way between what was typed or read and what is written.
+class Decimale
+{
+public:
+    /// testo: comma or point, no grouping. Throws ErroreConversione when it is no number.
+    explicit Decimale(const QString& testo);
+
+    /// With a point; as many decimals as it was made with.
+    const QString& testo() const noexcept { return mTesto; }
+
+private:
+    QString mTesto;
+};
+
 /// An exact decimal text rounded to a number of places. valore: comma or point, no grouping; cifre: places;
 /// the result has a point. Throws ErroreConversione when valore is no number.
 enum class Arrotondamento

@@ -55,7 +55,7 @@ void frmPorto::showEvent(QShowEvent* evento)
         mUi->optStampaLDV->setChecked(true);
         mUi->cmbPorto->setFocus();
         caricaElenco();
-        const bool reso = impostazioni().etichettaReso == u"Reso a Mittente"_s;
+        const bool reso = impostazioni().movimento == Movimento::reso;
         if (reso && mUi->cmbPorto->count() > rigaReso)
             mUi->cmbPorto->setCurrentIndex(rigaReso);
         else if (mUi->cmbPorto->count() > 0)

@@ -1,116 +1,73 @@
-// What the management screen does with the case that it shows: the notice and the closure.
+#include "management/chiusuracaso.h"
 
 #include "base/impostazioni.h"
 #include "base/orologio.h"
-#include "data/chiusura.h"
-#include "dialogs/frmRifiuto.h"
-#include "management/frmGestGia.h"
-#include "screens/campi.h"
-#include "screens/costibuonfine.h"
+#include "reports/letters/costibuonfine.h"
 #include "screens/stampa.h"
+#include "screens/stampacaso.h"
 #include "ui_frmGestGia.h"
 
 using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
-void frmGestGia::emettiAvviso()
-{
-    if (!casoMostrato())
-        return;
-    const QString chiusura = testo(lblDataBuonFine);
-    if (eData(chiusura)) {
-        messaggio(u"La giacenza risulta chiusa,in data: %1."_s.arg(chiusura), Stile::informazione,
-                  titoloGestione());
-        return;
-    }
-    const QPointer<const Schermata> io(this);
-    // The screen, and the dialog with it, may be destroyed while the dialog is open.
-    const QPointer<frmRifiuto> rifiuto = new frmRifiuto(this);
-    rifiuto->exec();
-    restaAperta(io);
-    const bool confermato = rifiuto->Confermato();
-    const QString riga = u"\n%1 - %2"_s.arg(dataBreve(rifiuto->DataRifiuto()), rifiuto->MotivazioneRifiuto());
-    delete rifiuto;
-    if (!confermato)
-        return;
-    scrivi(mUi->txtDescGia, testo(mUi->txtDescGia) + riga);
-    EmettiAvvisoGiacenza(false, testo(mUi->txtDescGia));
-}
+ChiusuraCaso::ChiusuraCaso(Schermata& schermata, const Ui::frmGestGia& forma, PartiComuni& parti,
+                           std::function<void()> scritta)
+    : mSchermata(schermata), mUi(forma), mParti(parti), mScritta(std::move(scritta))
+{}
 
-void frmGestGia::ristampa()
-{
-    EmettiAvvisoGiacenza(true);
-}
-
-bool frmGestGia::avvisoAmmesso()
-{
-    if (!eData(testo(lblDataBuonFine)))
-        return true;
-    messaggio(u"E' già stato rilasciato il buon fine per questa giacenza."_s, Stile::avviso);
-    return false;
-}
-
-void frmGestGia::avvisoContato(int numero)
-{
-    mAvvisi = QString::number(numero);
-    mostraStatoCaso();
-}
-
-void frmGestGia::ChiudiGiacenza()
+void ChiusuraCaso::ChiudiGiacenza()
 {
     MostraCostiBuonFine();
-    const auto caso = casoMostrato();
+    const auto caso = mParti.caso.chiave();
     if (!caso)
         return;
-    if (!eData(testo(lblDataAvviso))) {
-        messaggio(u"Non è stato ancora emesso un avviso di giacenza."_s, Stile::avviso);
+    if (!eData(testo(mUi.lblDataAvviso))) {
+        mSchermata.messaggio(u"Non è stato ancora emesso un avviso di giacenza."_s, Stile::avviso);
         return;
     }
-    scriviChiusura(*caso);
+    scrivi(*caso);
     CalcolaCostiGiacenza();
-    if (mUi->optCostiNo->isChecked())
-        NascondiCostiBuonFine(CostiNascosti::tutti);
-    stampaCaso(TipoDocumento::buonFine, *caso, leggiDidascalie(),
+    if (mUi.optCostiNo->isChecked())
+        NascondiCostiBuonFine();
+    stampaCaso(mSchermata, TipoDocumento::buonFine, *caso, leggiDidascalie(),
                {u"Giacenza %1 chiusa, documento di buon fine prodotto."_s,
                 u"Il documento di buon fine non è stato stampato; la giacenza resta chiusa."_s});
 }
 
-void frmGestGia::scriviChiusura(const ChiaveGiacenza& caso)
+void ChiusuraCaso::scrivi(const ChiaveGiacenza& caso)
 {
-    const QString giorni = testo(barGiorniSosta);
+    const QString giorni = testo(mUi.barGiorniSosta);
     // The first date stays, also one that another workstation wrote since the case was brought up.
-    const auto prima = leggiData(LeggiDataBuonFine(impostazioni().percorsoDatabase, caso));
+    const auto prima = LeggiDataBuonFine(impostazioni().percorsoDatabase, caso);
     const QDate giorno = prima.value_or(oggi());
-    connessione().esegui(prima ? istruzioni::chiusuraRipetuta(caso, giorni)
-                               : istruzioni::chiusura(caso, giorno, giorni));
-    scrivi(lblDataBuonFine, dataBreve(giorno));
-    mostraStatoCaso();
+    mSchermata.connessione().esegui(prima ? istruzioni::chiusuraRipetuta(caso, giorni)
+                                          : istruzioni::chiusura(caso, giorno, giorni));
+    giacenza::scrivi(mUi.lblDataBuonFine, dataBreve(giorno));
+    mScritta();
 }
 
-void frmGestGia::CalcolaCostiGiacenza()
+void ChiusuraCaso::CalcolaCostiGiacenza()
 {
     bool intero = false;
-    const ChiaveSpedizione ldv = {testo(mUi->txtFiliale), testo(mUi->txtLDV),
-                                  testo(mUi->txtAnnoLdv).toInt(&intero)};
+    const ChiaveSpedizione ldv = {testo(mUi.txtFiliale), testo(mUi.txtLDV),
+                                  testo(mUi.txtAnnoLdv).toInt(&intero)};
     if (!intero)
         throw ErroreConversione(u"Manca l'anno della lettera di vettura."_s);
-    const auto condizioni = leggiCondizioni(connessione(), ldv.numero, ldv.anno);
-    if (!condizioni)
-        return;
-    const ImportiGiacenza importi = calcolaImporti(*condizioni, testo(barGiorniSosta));
-    SalvaCostiGiacenza(ldv, importi.fisso, importi.sosta);
+    const auto condizioni = leggiCondizioni(mSchermata.connessione(), ldv.numero, ldv.anno);
+    if (condizioni)
+        SalvaCostiGiacenza(ldv, calcolaImporti(*condizioni, testo(mUi.barGiorniSosta)));
 }
 
-void frmGestGia::SalvaCostiGiacenza(const ChiaveSpedizione& ldv, const QString& fisso, const QString& importo)
+void ChiusuraCaso::SalvaCostiGiacenza(const ChiaveSpedizione& ldv, const ImportiGiacenza& importi)
 {
-    Connessione& schermo = connessione();
-    schermo.esegui(istruzioni::salvaCosti(ldv, fisso, importo));
-    QString mostrato = importo;
+    Connessione& schermo = mSchermata.connessione();
+    schermo.esegui(istruzioni::salvaCosti(ldv, importi.fisso, importi.sosta));
+    QString mostrato = importi.sosta.testo();
     FormattaNumero(mostrato);
-    scrivi(mUi->txtImponibile, mostrato);
+    giacenza::scrivi(mUi.txtImponibile, mostrato);
     schermo.chiudi();
-    for (QWidget* campo : {mUi->txtRiferimento, mUi->txtAnnoRif, mUi->txtFiliale, mUi->txtLDV})
+    for (QWidget* campo : {mUi.txtRiferimento, mUi.txtAnnoRif, mUi.txtFiliale, mUi.txtLDV})
         campo->setEnabled(false);
 }
 

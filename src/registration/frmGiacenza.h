@@ -1,19 +1,17 @@
 #pragma once
 
-#include "screens/schermatacaso.h"
+#include "registration/ricercaldv.h"
+#include "registration/salvagiacenza.h"
+#include "screens/emittenteavviso.h"
+#include "screens/particomuni.h"
 
-#include <array>
 #include <memory>
-
-namespace Ui {
-class frmGiacenza;
-}
 
 namespace giacenza {
 
 /// The registration screen: finds a waybill of a customer, takes date, holding branch and reason, saves the
 /// held shipment and has its first notice printed.
-class frmGiacenza : public SchermataCaso
+class frmGiacenza : public Schermata
 {
     Q_OBJECT
     /// A waybill handed over by the host: looked up once all four are set and the screen is shown.
@@ -31,49 +29,32 @@ public:
     frmGiacenza();
     ~frmGiacenza() override;
 
+    void carica() override;
+
     QString codiceCliente() const { return mCodiceCliente; }
     /// The last of the four that a host sets: the hand-over waits from here on.
     void setCodiceCliente(const QString& codice);
 
 protected:
     void attivata() override;
-    void clienteCercato() override;
-    ChiaveCaso chiaveAvviso(const ChiaveGiacenza& caso) const override;
 
 private:
-    enum class Chiave
-    {
-        numero,
-        riferimento
-    };
-
     void collega();
+    void accodaConsegna();
     void eseguiConsegna();
-    void PulisciCampi();
-
-    Seguito lascia(Chiave chiave);
-    void ricerca(Chiave chiave);
-    void ricercaDiretta(Chiave chiave, QDate giorno);
-    bool ControllaImmissione(Chiave chiave);
-    void RicercaSpedizione(Chiave chiave);
     void scegliData();
-    QLineEdit* campo(Chiave chiave) const;
-    CampoData* campoData(Chiave chiave) const;
-    QString cercato(Chiave chiave) const;
-    void mostra(const QString& istruzione, const QString& nonTrovata);
-    void segnaGiacenza(bool giacente);
-
-    void salva();
-    void inserisci();
+    ChiaveCaso chiaveAvviso() const;
 
     std::unique_ptr<Ui::frmGiacenza> mUi;
+    PartiComuni mParti;
+    RicercaLdv mRicerca;
+    EmittenteAvviso mAvviso;
+    SalvaGiacenza mSalvataggio;
     QString mNLettVett;
     QString mDataLdv;
     QString mFiliale;
     QString mCodiceCliente;
     bool mConsegnaPendente = false;
-    /// Of each key: whether it was typed in since the last lookup, of whichever.
-    std::array<bool, 2> mModificata{};
     bool mAggiungiGiacenza = false;
     bool mControlloGiacenza = false;
     bool mStampaLDV = false;

@@ -1,37 +1,60 @@
 #pragma once
 
 #include "base/messaggi.h"
+#include "base/modale.h"
 #include "database/connessione.h"
 #include "screens/convalida.h"
-#include "screens/spedizione.h"
 
-#include <QDate>
-#include <QPointer>
 #include <QWidget>
 
-class QComboBox;
 class QLabel;
-class QLineEdit;
-class QPushButton;
 
 namespace giacenza {
 
-class CampiSchermata;
-class CampoData;
-
-/// What the three working screens share: the connection, the status line, staying on top, leaving, and the
-/// handlers of the customer code, the holding branch, the held-shipment date and the goods type. A screen's
-/// form holds the controls under these names; what differs between screens is an override.
+/// A working screen as a window: its connection, its status line, staying on top, leaving. What it shows and
+/// does are parts that it is composed of; they hold on to it for these.
 class Schermata : public QWidget
 {
     Q_OBJECT
 
 public:
-    ~Schermata() override;
-
     /// Opens the screen's connection and fills what does not depend on a shipment. Called once, before the
     /// screen is shown; throws ErroreDatabase unchanged.
-    virtual void carica();
+    virtual void carica() { connessione(); }
+
+    /// The screen's connection, opened when it is closed. Throws ErroreDatabase.
+    Connessione& connessione();
+    /// Closes and releases it; the next use opens it again.
+    void rilasciaConnessione();
+
+    /// What the screen says where no message box is due; empty clears it.
+    void stato(const QString& testo);
+
+    /// Makes a handler of what a control starts: whatever is thrown is told, a database failure as such, and
+    /// a screen that was left under its own message or dialog ends the handler without a word.
+    std::function<void()> gestore(std::function<void()> azione);
+
+    /// For handlers: does what lets the host work meanwhile (a message, a dialog, a part of the host's); ends
+    /// the handler when the screen was left or destroyed under it.
+    void durante(const std::function<void()>& azione);
+
+    /// The same for a dialog. leggi: what is to be read of it once it has closed.
+    template<class Dialogo, class Leggi>
+    auto modale(std::unique_ptr<Dialogo> dialogo, Leggi leggi)
+    {
+        std::invoke_result_t<Leggi, Dialogo&> letto{};
+        durante([&] { letto = eseguiModale(std::move(dialogo), leggi); });
+        return letto;
+    }
+
+    /// A message over the screen.
+    Risposta messaggio(const QString& testo, Stile stile, const QString& titolo = titoloApplicazione());
+
+    /// The checks of the screen's fields.
+    Convalida& convalida() { return *mConvalida; }
+
+    /// For the screen's parts: where stato() writes.
+    void setRigaStato(QLabel* riga) { mStato = riga; }
 
 Q_SIGNALS:
     /// The operator has left: the connection is closed, and the screen goes by itself.
@@ -40,100 +63,18 @@ Q_SIGNALS:
 protected:
     explicit Schermata(const QString& nome);
 
-    /// Finds the shared controls and connects their handlers; for the constructors, once the form is set up.
-    void preparaComuni(const MappaSpedizione& mappa);
-
-    /// The screen's connection, opened when it is closed. Throws ErroreDatabase.
-    Connessione& connessione();
-
-    /// Closes and releases it; the next use opens it again.
-    void rilasciaConnessione();
-
-    /// What the screen says where no message box is due; empty clears it.
-    void stato(const QString& testo);
-
-    /// Makes a handler of what a control starts: whatever is thrown is told, a database failure as such, and
-    /// a screen that was closed under its own message or dialog ends the handler without a word.
-    std::function<void()> gestore(std::function<void()> azione);
-
-    /// For handlers: to be called after every dialog; ends the handler when the screen was closed meanwhile.
-    void restaAperta(const QPointer<const Schermata>& io) const;
-
-    /// A message over the screen.
-    Risposta messaggio(const QString& testo, Stile stile, const QString& titolo = titoloApplicazione());
-
-    /// A refusal of a field: the message, then the focus back in the field.
-    Seguito rifiuta(QWidget* campo, const QString& testo, Stile stile,
-                    const QString& titolo = titoloApplicazione());
-
     /// The screen became the active window.
     virtual void attivata();
-
-    /// Fills the screen from the first row of a lookup. Returns false, with the screen as it is, when there
-    /// is none. Throws ErroreDatabase.
-    bool mostraSpedizione(const QString& istruzione);
-
-    /// The row that the screen was just filled from: for what a screen shows besides.
-    virtual void rigaMostrata([[maybe_unused]] const Recordset& riga) {}
-
-    /// Writes the storage days into their bar: nothing when the held-shipment date is no date.
-    void CalcolaGiorniSosta();
-
-    /// A customer was taken from the party search.
-    virtual void clienteCercato() {}
-
-    /// Finds the customer of the code field and locks the field; without one says so.
-    Seguito convalidaCliente();
-
-    /// Looks a customer code up; the empty one is nothing to look up. errato: what is to be done when it is
-    /// no number. trovato: given the customer's name, may be empty. A customer that is not there is told.
-    Seguito verificaCliente(const QString& codice, const Seguito& errato,
-                            const std::function<void(const QString&)>& trovato = {});
-    /// The message for a code that is no number, and its caption.
-    static QString clienteErrato();
-    virtual QString titoloClienteErrato() const;
-
-    /// Whether there is a customer code; without one says so.
-    bool clienteScelto();
-
-    /// Locks the customer code, once it is known to be good, or opens it again.
-    void bloccaCliente(bool bloccato);
 
     bool event(QEvent* evento) override;
     void closeEvent(QCloseEvent* evento) override;
 
-    Convalida* mConvalida;
-    CampiSchermata* mCampi = nullptr;
-    const MappaSpedizione* mMappa = nullptr;
-
-    QLineEdit* txtCodiceCli = nullptr;
-    QLabel* barCliente = nullptr;
-    QPushButton* cmdCercaCliente = nullptr;
-    QLineEdit* txtFilialeGia = nullptr;
-    QLabel* barFilialeGia = nullptr;
-    CampoData* txtDataGia = nullptr;
-    QLabel* lblDataLav = nullptr;
-    QLabel* lblDataAvviso = nullptr;
-    QLabel* lblDataBuonFine = nullptr;
-    QLabel* lblNrGia = nullptr;
-    QLabel* barGiorniSosta = nullptr;
-    QComboBox* cmbNaturaMerce = nullptr;
-    QComboBox* cmbPorto = nullptr;
-
 private:
-    template<class Controllo>
-    Controllo* trova(const char* nome) const;
-    void collegaCliente();
-    void cercaCliente();
     void guasto(const QString& cheCosa, const QString& perche);
-    void collegaTasti();
-    Seguito convalidaDataGia();
-    void cercaFiliale();
-    void leggiFilialeGia();
-    void caricaPorto();
 
-    Connessione mConnessione;
+    Convalida* mConvalida;
     QLabel* mStato = nullptr;
+    Connessione mConnessione;
     bool mUscita = false;
 };
 

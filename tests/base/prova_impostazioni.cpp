@@ -16,7 +16,7 @@ TEST(Impostazioni, nasconoVuote)
         EXPECT_TRUE(impostazioni().percorsoDatabase.isNull());
         EXPECT_TRUE(impostazioni().percorsoFileIni.isNull());
         EXPECT_TRUE(impostazioni().percorsoLogoIntestazione.isNull());
-        EXPECT_TRUE(impostazioni().etichettaReso.isNull());
+        EXPECT_TRUE(etichettaReso(impostazioni().movimento).isNull());
     }).join();
 }
 

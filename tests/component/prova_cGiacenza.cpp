@@ -109,16 +109,16 @@ TEST_F(Componente, leImpostazioniSonoDelThreadENonDellOggetto)
 
 TEST_F(Componente, lEtichettaDelReso)
 {
-    EXPECT_EQ(impostazioni().etichettaReso, QString());
+    EXPECT_EQ(giacenza::etichettaReso(impostazioni().movimento), QString());
     mClasse->setTipoReso(cGiacenza::ResoMittente);
-    EXPECT_EQ(impostazioni().etichettaReso, u"Reso a Mittente"_s);
+    EXPECT_EQ(giacenza::etichettaReso(impostazioni().movimento), u"Reso a Mittente"_s);
     for (const int altro : {1, 0, 3, -1, 2147483647}) {
         mClasse->setTipoReso(cGiacenza::ResoMittente);
         mClasse->setTipoReso(static_cast<cGiacenza::Reso>(altro));
-        EXPECT_EQ(impostazioni().etichettaReso, u"Riconsegna a Destinatario"_s) << altro;
+        EXPECT_EQ(giacenza::etichettaReso(impostazioni().movimento), u"Riconsegna a Destinatario"_s) << altro;
     }
     mClasse->setTipoReso(static_cast<cGiacenza::Reso>(2));
-    EXPECT_EQ(impostazioni().etichettaReso, u"Reso a Mittente"_s);
+    EXPECT_EQ(giacenza::etichettaReso(impostazioni().movimento), u"Reso a Mittente"_s);
 }
 
 TEST_F(Componente, cioCheSiScriveSoloNonSiLegge)

@@ -84,9 +84,10 @@ TEST(CostiGiacenza, SonoQuelliDiUnCalcoloIndipendente)
             continue;
         }
         const ImportiGiacenza importi = calcolaImporti(condizioni, giorni);
-        EXPECT_EQ(importi.fisso, u"7.5"_s);
-        EXPECT_TRUE(confronta(importi.sosta, comeTesto(*importo)) == std::strong_ordering::equal)
-            << quale << ": " << importi.sosta.toStdString() << ", not " << comeTesto(*importo).toStdString();
+        EXPECT_EQ(importi.fisso.testo(), u"7.5"_s);
+        EXPECT_TRUE(confronta(importi.sosta.testo(), comeTesto(*importo)) == std::strong_ordering::equal)
+            << quale << ": " << importi.sosta.testo().toStdString() << ", not "
+            << comeTesto(*importo).toStdString();
     }
     EXPECT_GT(oltre, 0) << "some cases are beyond 16 bits";
 }
@@ -94,15 +95,15 @@ TEST(CostiGiacenza, SonoQuelliDiUnCalcoloIndipendente)
 TEST(CostiGiacenza, EsempiAMano)
 {
     const CondizioniSosta condizioni = {u"7.50"_s, u"5"_s, u"1.5"_s, u"15"_s};
-    EXPECT_EQ(calcolaImporti(condizioni, u"12"_s).sosta, u"15"_s) << "10.50 is below the minimum";
-    EXPECT_EQ(calcolaImporti(condizioni, u"5"_s).sosta, u"0"_s) << "no day is charged: no minimum";
-    EXPECT_EQ(calcolaImporti(condizioni, u"6"_s).sosta, u"15"_s);
-    EXPECT_EQ(calcolaImporti(condizioni, u"16"_s).sosta, u"16.50"_s);
-    EXPECT_EQ(calcolaImporti(condizioni, u"-2"_s).sosta, u"0"_s);
-    EXPECT_EQ(calcolaImporti({u"0"_s, u"0"_s, u"0.333"_s, u"0"_s}, u"3"_s).sosta, u"1.00"_s);
-    EXPECT_EQ(calcolaImporti({u"0"_s, u"0"_s, u"0.125"_s, u"0"_s}, u"1"_s).sosta, u"0.12"_s);
-    EXPECT_EQ(calcolaImporti({u"0"_s, u"0"_s, u"0.375"_s, u"0"_s}, u"1"_s).sosta, u"0.38"_s);
-    EXPECT_EQ(calcolaImporti({u"0"_s, u"0"_s, u"0.01"_s, u"0.0249"_s}, u"1"_s).sosta, u"0.0249"_s)
+    EXPECT_EQ(calcolaImporti(condizioni, u"12"_s).sosta.testo(), u"15"_s) << "10.50 is below the minimum";
+    EXPECT_EQ(calcolaImporti(condizioni, u"5"_s).sosta.testo(), u"0"_s) << "no day is charged: no minimum";
+    EXPECT_EQ(calcolaImporti(condizioni, u"6"_s).sosta.testo(), u"15"_s);
+    EXPECT_EQ(calcolaImporti(condizioni, u"16"_s).sosta.testo(), u"16.50"_s);
+    EXPECT_EQ(calcolaImporti(condizioni, u"-2"_s).sosta.testo(), u"0"_s);
+    EXPECT_EQ(calcolaImporti({u"0"_s, u"0"_s, u"0.333"_s, u"0"_s}, u"3"_s).sosta.testo(), u"1.00"_s);
+    EXPECT_EQ(calcolaImporti({u"0"_s, u"0"_s, u"0.125"_s, u"0"_s}, u"1"_s).sosta.testo(), u"0.12"_s);
+    EXPECT_EQ(calcolaImporti({u"0"_s, u"0"_s, u"0.375"_s, u"0"_s}, u"1"_s).sosta.testo(), u"0.38"_s);
+    EXPECT_EQ(calcolaImporti({u"0"_s, u"0"_s, u"0.01"_s, u"0.0249"_s}, u"1"_s).sosta.testo(), u"0.0249"_s)
         << "the minimum is taken as it is";
 }
 
@@ -113,7 +114,8 @@ TEST(CostiGiacenza, CioCheMancaFerma)
     EXPECT_THROW(calcolaImporti({si, {}, si, si}, u"9"_s), ErroreConversione);
     EXPECT_THROW(calcolaImporti({si, si, {}, si}, u"9"_s), ErroreConversione);
     EXPECT_THROW(calcolaImporti({si, si, si, {}}, u"9"_s), ErroreConversione);
-    EXPECT_EQ(calcolaImporti({si, si, {}, {}}, u"1"_s).sosta, u"0"_s) << "within the free days nobody asks";
+    EXPECT_EQ(calcolaImporti({si, si, {}, {}}, u"1"_s).sosta.testo(), u"0"_s)
+        << "within the free days nobody asks";
     for (const QString& giorni : {QString(), u"nove"_s, u"32768"_s, u"-32769"_s})
         EXPECT_THROW(calcolaImporti({si, si, si, si}, giorni), ErroreConversione) << giorni.toStdString();
 }
@@ -146,8 +148,8 @@ TEST_P(Chiusura, LeCondizioniSiTrovanoPerAnnoEPerData)
         const auto condizioni = leggiCondizioni(mConnessione, u"4714"_s, quando);
         ASSERT_TRUE(condizioni);
         const ImportiGiacenza importi = calcolaImporti(*condizioni, u"16"_s);
-        EXPECT_TRUE(confronta(importi.fisso, u"7.50"_s) == std::strong_ordering::equal);
-        EXPECT_EQ(importi.sosta, u"16.50"_s);
+        EXPECT_TRUE(confronta(importi.fisso.testo(), u"7.50"_s) == std::strong_ordering::equal);
+        EXPECT_EQ(importi.sosta.testo(), u"16.50"_s);
     }
     EXPECT_FALSE(leggiCondizioni(mConnessione, u"4714"_s, 2025));
     EXPECT_FALSE(leggiCondizioni(mConnessione, u"4714"_s, QDate(2026, 11, 13)));
@@ -176,12 +178,12 @@ TEST_P(Chiusura, INulliRestanoNulli)
 TEST_P(Chiusura, LaDataSiLeggeConLeDueChiavi)
 {
     const QString stringa = mBase.stringa();
-    EXPECT_EQ(LeggiDataBuonFine(stringa, ChiaveGiacenza{u"40"_s, 2026}), u"2026-11-18"_s);
-    EXPECT_EQ(LeggiDataBuonFine(stringa, ChiaveSpedizione{u"MI"_s, u"4714"_s, 2026}), u"2026-11-18"_s);
-    EXPECT_EQ(LeggiDataBuonFine(stringa, ChiaveGiacenza{u"40"_s, 2025}), QString());
+    EXPECT_EQ(LeggiDataBuonFine(stringa, ChiaveGiacenza{u"40"_s, 2026}), QDate(2026, 11, 18));
+    EXPECT_EQ(LeggiDataBuonFine(stringa, ChiaveSpedizione{u"MI"_s, u"4714"_s, 2026}), QDate(2026, 11, 18));
+    EXPECT_EQ(LeggiDataBuonFine(stringa, ChiaveGiacenza{u"40"_s, 2025}), std::nullopt);
     mBase.esegui(u"update giace00f set GIDTBF=null;"_s);
-    EXPECT_EQ(LeggiDataBuonFine(stringa, ChiaveGiacenza{u"40"_s, 2026}), QString());
-    EXPECT_EQ(LeggiDataBuonFine(stringa, ChiaveSpedizione{u"MI"_s, u"4714"_s, 2026}), QString());
+    EXPECT_EQ(LeggiDataBuonFine(stringa, ChiaveGiacenza{u"40"_s, 2026}), std::nullopt);
+    EXPECT_EQ(LeggiDataBuonFine(stringa, ChiaveSpedizione{u"MI"_s, u"4714"_s, 2026}), std::nullopt);
 }
 
 } // namespace

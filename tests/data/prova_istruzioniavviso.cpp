@@ -116,15 +116,15 @@ TEST(Costi, condizioniPerData)
 TEST(Costi, salva)
 {
     EXPECT_EQ(
-        istruzioni::salvaCosti(spedizione, u"7.5"_s, u"15"_s),
+        istruzioni::salvaCosti(spedizione, Decimale(u"7.5"_s), Decimale(u"15"_s)),
         u"update Giace00f set  FissoGiacenza=7.50, GIIMGI=15.00 where GIFILI='MI' and GINRLV='0123' and "
         "gianlv=2023;"_s);
 }
 
 TEST(Costi, cheNonSonoNumeri)
 {
-    EXPECT_THROW(istruzioni::salvaCosti(spedizione, QString(), u"15"_s), ErroreConversione);
-    EXPECT_THROW(istruzioni::salvaCosti(spedizione, u"7.5"_s, u"15;"_s), ErroreConversione);
+    EXPECT_THROW(Decimale(QString{}), ErroreConversione);
+    EXPECT_THROW(Decimale(u"15;"_s), ErroreConversione);
 }
 
 TEST(Riconsegna, riconsegne)

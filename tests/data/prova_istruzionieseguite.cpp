@@ -153,7 +153,8 @@ TEST_P(Eseguite, chiusuraECosti)
               QStringList({u"2024-03-09"_s, u"-4"_s}));
     EXPECT_EQ(colonna(dataBuonFine(giacenza42), u"GIDTBF"_s), QStringList{u"2024-03-09"_s});
     EXPECT_EQ(colonna(dataBuonFine(lettera), u"GIDTBF"_s), QStringList{u"2024-03-09"_s});
-    const QStringList importi = dopo(salvaCosti(lettera, u"7,5"_s, u"15"_s), u"FissoGiacenza, GIIMGI"_s);
+    const QStringList importi =
+        dopo(salvaCosti(lettera, Decimale(u"7,5"_s), Decimale(u"15"_s)), u"FissoGiacenza, GIIMGI"_s);
     ASSERT_EQ(importi.size(), 2);
     EXPECT_EQ(confronta(importi.at(0), u"7.50"_s), std::strong_ordering::equal);
     EXPECT_EQ(confronta(importi.at(1), u"15.00"_s), std::strong_ordering::equal);

@@ -150,11 +150,11 @@ std::vector<Luogo> luoghiDiTesto()
         {"Condizioni_data", [](V v) { return condizioniFatturazione(v, giorno); }},
         {"SalvaCosti_filiale",
          [](V v) {
-             return salvaCosti({v, u"1"_s, 2024}, u"1"_s, u"2"_s);
+             return salvaCosti({v, u"1"_s, 2024}, Decimale(u"1"_s), Decimale(u"2"_s));
          }},
         {"SalvaCosti_numero",
          [](V v) {
-             return salvaCosti({u"MI"_s, v, 2024}, u"1"_s, u"2"_s);
+             return salvaCosti({u"MI"_s, v, 2024}, Decimale(u"1"_s), Decimale(u"2"_s));
          }},
         {"Riconsegne",
          [](V v) {

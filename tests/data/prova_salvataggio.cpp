@@ -21,11 +21,11 @@ DatiGiacenza dati(const QString& ldv = u"4711"_s)
 {
     return {.filiale = u"MI"_s,
             .numeroLdv = ldv,
-            .dataLdv = u"12/11/2026"_s,
+            .dataLdv = dodici,
             .cliente = u"1001"_s,
             .filialeGiacenza = u"BO"_s,
             .giorniSosta = u"1"_s,
-            .dataGiacenza = u"20/11/2026"_s,
+            .dataGiacenza = QDate(2026, 11, 20),
             .motivo = u"L'insegna non c'è\nchiuso"_s};
 }
 
@@ -79,11 +79,11 @@ TEST_P(Salvataggio, ScriveLaRigaIlLegameEIlContatore)
 TEST_P(Salvataggio, ScriveLeColonneFacoltativeSoloSePiene)
 {
     DatiGiacenza piena = dati();
-    piena.dataAvviso = u"2026-11-21"_s;
-    piena.dataBuonFine = u"22/11/2026"_s;
-    piena.imponibile = u"10,005"_s;
+    piena.dataAvviso = QDate(2026, 11, 21);
+    piena.dataBuonFine = QDate(2026, 11, 22);
+    piena.imponibile = Decimale(u"10,005"_s);
     piena.giacenzaPrecedente = u"39"_s;
-    piena.dataPrecedente = u"02/10/2026"_s;
+    piena.dataPrecedente = QDate(2026, 10, 2);
     inserisce(piena);
     EXPECT_EQ(mBase.righe(u"select GIDTAV,GIDTBF,GIIMGI,GIVNRG,GIVDTG from giace00f "
                           "where GINRLV='4711'"_s),
@@ -173,11 +173,12 @@ TEST_P(Salvataggio, LaStessaSpedizioneNonEntraDueVolte)
 TEST_P(Salvataggio, UnValoreCheNonSiScriveNonCostaUnNumero)
 {
     DatiGiacenza senzaData = dati();
-    senzaData.dataGiacenza = u"31/02/2026"_s;
-    EXPECT_THROW(inserisce(senzaData), ErroreConversione);
-    DatiGiacenza importoErrato = dati();
-    importoErrato.imponibile = u"dieci"_s;
-    EXPECT_THROW(inserisce(importoErrato), ErroreConversione);
+    senzaData.dataGiacenza = QDate();
+    EXPECT_THROW(inserisce(senzaData), ErroreDatabase);
+    DatiGiacenza dataErrata = dati();
+    dataErrata.dataAvviso = QDate(2026, 2, 31);
+    EXPECT_THROW(inserisce(dataErrata), ErroreDatabase);
+    EXPECT_THROW(Decimale(u"dieci"_s), ErroreConversione);
     nienteDiScritto();
     EXPECT_EQ(mBase.leggi(contatore), u"41"_s);
 }

@@ -105,12 +105,12 @@ TEST_P(Porto, leDueDomandeSonoIndipendenti)
 TEST_P(Porto, perIlResoEIlTerzoPerPosizione)
 {
     riempi({u"(10, 'a')"_s, u"(20, 'b')"_s, u"(30, 'c')"_s});
-    impostazioni().etichettaReso = u"Reso a Mittente"_s;
+    impostazioni().movimento = Movimento::reso;
     apri();
     EXPECT_EQ(mElenco->currentIndex(), 2);
     clic(u"cmdEsci"_s);
     EXPECT_EQ(mFinestra.Porto(), 30);
-    impostazioni().etichettaReso = u"Riconsegna a Destinatario"_s;
+    impostazioni().movimento = Movimento::riconsegna;
     apri();
     EXPECT_EQ(mElenco->currentIndex(), 0);
 }
@@ -118,7 +118,7 @@ TEST_P(Porto, perIlResoEIlTerzoPerPosizione)
 TEST_P(Porto, conMenoDiTreRigheRestaLaPrima)
 {
     riempi({u"(1, 'a')"_s, u"(2, 'b')"_s});
-    impostazioni().etichettaReso = u"Reso a Mittente"_s;
+    impostazioni().movimento = Movimento::reso;
     apri();
     EXPECT_EQ(mElenco->currentIndex(), 0);
     clic(u"cmdEsci"_s);

@@ -193,7 +193,7 @@ TEST_P(Vita, DallaRegistrazioneAllaChiusura)
     verifica("rifiutata e avvisata di nuovo");
     EXPECT_EQ(mStampe.filter(u"documento"_s), QStringList({u"documento 42_2026"_s, u"documento 42_2026"_s}));
 
-    impostazioni().etichettaReso = u"Riconsegna a Destinatario"_s;
+    impostazioni().movimento = Movimento::riconsegna;
     apri(u"frmRiconsegna"_s, QDate(2026, 11, 26));
     cercaLdv();
     emetti();
@@ -210,7 +210,7 @@ TEST_P(Vita, DallaRegistrazioneAllaChiusura)
     mLettere[u"MI/4716/2026"_s] = nuova;
     verifica("riconsegnata");
 
-    impostazioni().etichettaReso = u"Reso a Mittente"_s;
+    impostazioni().movimento = Movimento::reso;
     apri(u"frmRiconsegna"_s, QDate(2026, 11, 27));
     cercaLdv();
     mMessaggi.rispondi(Risposta::si);

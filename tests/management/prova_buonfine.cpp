@@ -2,8 +2,8 @@
 
 #include "base/impostazioni.h"
 #include "base/orologio.h"
+#include "reports/letters/costibuonfine.h"
 #include "reports/letters/reportcondivisi.h"
-#include "screens/costibuonfine.h"
 #include "support/stampa.h"
 
 #include <QLineEdit>
@@ -129,18 +129,10 @@ TEST_P(BuonFine, SenzaCostiSiNascondonoTuttiEPoiTornano)
     EXPECT_THAT(nascosti(), IsEmpty());
 }
 
-TEST_P(BuonFine, LaRegistrazioneLasciaLImportoDellaRiconsegna)
-{
-    NascondiCostiBuonFine(CostiNascosti::tranneRiconsegna);
-    QStringList attesi = controlliCosti;
-    attesi.removeAll(u"txtRicons"_s);
-    EXPECT_EQ(nascosti(), attesi);
-}
-
 TEST_P(BuonFine, OgniChiusuraPartonoVisibili)
 {
     richiamaMaiAvvisato();
-    NascondiCostiBuonFine(CostiNascosti::tutti);
+    NascondiCostiBuonFine();
     clicca("cmdBuonFine");
     EXPECT_EQ(mMessaggi.testi().size(), 1);
     EXPECT_THAT(nascosti(), IsEmpty());

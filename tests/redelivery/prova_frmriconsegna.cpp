@@ -88,7 +88,7 @@ const QString controllaRif = u"Controllare l'immissione del riferimento cliente 
 
 TEST_P(SchermataRiconsegna, SiApreConLaDataDiOggiEIlTitoloDelLavoro)
 {
-    impostazioni().etichettaReso = u"Reso a Mittente"_s;
+    impostazioni().movimento = Movimento::reso;
     apri();
     EXPECT_EQ(mSchermata->windowTitle(), u"Reso a Mittente"_s);
     EXPECT_EQ(mostrato("txtDataGia"), u"21/11/2026"_s);
@@ -97,7 +97,7 @@ TEST_P(SchermataRiconsegna, SiApreConLaDataDiOggiEIlTitoloDelLavoro)
     EXPECT_LE(mSchermata->minimumSizeHint().width(), 1366);
     EXPECT_LE(mSchermata->minimumSizeHint().height(), 700);
 
-    impostazioni().etichettaReso = u"Riconsegna a Destinatario"_s;
+    impostazioni().movimento = Movimento::riconsegna;
     mSchermata->raise();
     EXPECT_EQ(mSchermata->windowTitle(), u"Riconsegna a Destinatario"_s) << "shown again for the other job";
 }

@@ -173,7 +173,7 @@ TEST_P(Riconsegna, ITerminiDiPortoVannoAChiEmette)
     clicca("cmdEsci");
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     mBase.esegui(u"insert into porto values (1,'Franco'),(2,'Assegnato');"_s);
-    impostazioni().etichettaReso = u"Reso a Mittente"_s;
+    impostazioni().movimento = Movimento::reso;
     cerca(u"950"_s);
     emetti();
     EXPECT_EQ(mEmissioni.contesti.back().porto, 1) << "with two rows the return's third is not there";

@@ -140,7 +140,7 @@ std::vector<VoceCatalogo> scritture(const Campione& c)
         {u"avvisoSuccessivo spedizione"_s, avvisoSuccessivo(c.spedizione, 2, oggi)},
         {u"chiusura"_s, chiusura(c.giacenza, oggi, u"1"_s)},
         {u"chiusuraRipetuta"_s, chiusuraRipetuta(c.giacenza, u"1"_s)},
-        {u"salvaCosti"_s, salvaCosti(c.spedizione, u"2,50"_s, u"15"_s)},
+        {u"salvaCosti"_s, salvaCosti(c.spedizione, Decimale(u"2,50"_s), Decimale(u"15"_s))},
     };
 }
 

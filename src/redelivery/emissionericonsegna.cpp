@@ -1,0 +1,155 @@
+#include "redelivery/emissionericonsegna.h"
+
+#include "base/forme.h"
+#include "base/impostazioni.h"
+#include "base/orologio.h"
+#include "dialogs/frmPorto.h"
+#include "ui_frmRiconsegna.h"
+
+#include <QPointer>
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza {
+
+EmissioneRiconsegna::EmissioneRiconsegna(Schermata& schermata, const Ui::frmRiconsegna& forma,
+                                         PartiComuni& parti)
+    : mSchermata(schermata), mUi(forma), mParti(parti)
+{}
+
+void EmissioneRiconsegna::riconsegna()
+{
+    // An issuer that keeps the program going while it works leaves the button within reach.
+    if (mInCorso)
+        return;
+    // A shortcut moves no focus: the field that has it is checked first. Not so the branch, whose message
+    // stops nothing.
+    if (!mUi.txtFilialeGia->hasFocus())
+        if (const Seguito seguito = mSchermata.convalida().verificaCorrente())
+            return seguito();
+    const QPointer<const Schermata> schermata(&mSchermata);
+    mInCorso = true;
+    const auto finito = qScopeGuard([this, schermata] {
+        if (schermata)
+            mInCorso = false;
+    });
+    esegui();
+}
+
+void EmissioneRiconsegna::esegui()
+{
+    mSchermata.stato({});
+    LdvLetta ldv;
+    leggi(ldv);
+    const Scelte scelte = chiediPorto();
+    bool emessa = false;
+    if (!scelte.annullato) {
+        const auto conto = scelte.controllo ? contaGiacenza() : std::nullopt;
+        emessa = !scelte.controllo || accettato(conto);
+        if (emessa)
+            emetti(ldv, scelte.stampa, contesto(scelte, conto));
+    }
+    mSchermata.rilasciaConnessione();
+    if (emessa)
+        mUi.cmdRiconsegna->setEnabled(false);
+}
+
+void EmissioneRiconsegna::leggi(LdvLetta& ldv)
+{
+    try {
+        Connessione& connessione = mSchermata.connessione();
+        const auto giorno = leggiData(testo(mUi.txtDataLdv));
+        if (!giorno)
+            throw ErroreConversione(u"La data della lettera di vettura non è valida."_s);
+        Recordset riga;
+        riga.apri(connessione, istruzioni::spedizioneIntera(
+                                   {mUi.txtFiliale->text(), numeroLdv(mUi.txtLDV), giorno->year()}));
+        ldv.leggi(riga);
+        // An open result would hold back what the issuer writes, where the database is a file.
+        riga.chiudi();
+    } catch (const Errore& errore) {
+        mSchermata.stato(errore.testo());
+    }
+}
+
+EmissioneRiconsegna::Scelte EmissioneRiconsegna::chiediPorto()
+{
+    auto dialogo = std::make_unique<frmPorto>(&mSchermata);
+    Forme::delThread()->annota(dialogo->objectName(), dialogo.get());
+    return mSchermata.modale(std::move(dialogo), [](const frmPorto& porto) {
+        return Scelte{.porto = QString::number(porto.Porto()),
+                      .controllo = porto.ControlloGiacenza(),
+                      .stampa = porto.StampaLDV(),
+                      .annullato = porto.annullato()};
+    });
+}
+
+std::optional<ContoRiconsegne> EmissioneRiconsegna::contaGiacenza()
+{
+    const auto giorno = mParti.dataGiacenza.giorno();
+    // Without a date there is no year to look for, so there is no such held shipment.
+    if (!giorno)
+        return ContoRiconsegne{EsitoRiconsegne::inesistente};
+    try {
+        return ContaRiconsegne(mSchermata.connessione(), {mParti.caso.numero(), giorno->year()});
+    } catch (const Errore& errore) {
+        mSchermata.stato(u"La giacenza non si controlla: %1"_s.arg(errore.testo()));
+        return std::nullopt;
+    }
+}
+
+bool EmissioneRiconsegna::accettato(const std::optional<ContoRiconsegne>& conto)
+{
+    if (!conto)
+        return false;
+    switch (conto->esito) {
+    case EsitoRiconsegne::emettibile:
+        return true;
+    case EsitoRiconsegne::inesistente:
+        mSchermata.messaggio(u"Giacenza inesistente immettere la giacenza."_s, Stile::avviso);
+        return false;
+    case EsitoRiconsegne::chiusa:
+        mSchermata.messaggio(u"la Giacenza è stata chiusa con avviso di buon fine in data: %1."_s.arg(
+                                 testo(mUi.lblDataBuonFine)),
+                             Stile::avviso);
+        return false;
+    case EsitoRiconsegne::giaRiconsegnata:
+        return mSchermata.messaggio(
+                   u"Sono presenti n.%1 riconsegne emettere una nuova riconsegna?"_s.arg(conto->riconsegne),
+                   Stile::domandaInformazione) == Risposta::si;
+    }
+    return false;
+}
+
+Contesto EmissioneRiconsegna::contesto(const Scelte& scelte,
+                                       const std::optional<ContoRiconsegne>& conto) const
+{
+    const auto giorno = mParti.dataGiacenza.giorno();
+    const Movimento movimento = impostazioni().movimento;
+    return {.lavoro = etichettaReso(movimento),
+            .resoAMittente = movimento == Movimento::reso,
+            .porto = scelte.porto.toInt(),
+            .numeroGiacenza = mParti.caso.numero(),
+            .annoGiacenza = giorno ? giorno->year() : 0,
+            .controlloGiacenza = scelte.controllo,
+            .riconsegne = conto ? conto->riconsegne : 0,
+            .oggi = oggi(),
+            .finestra = &mSchermata};
+}
+
+void EmissioneRiconsegna::emetti(const LdvLetta& ldv, bool stampa, const Contesto& contesto)
+{
+    QString esito;
+    // The issuer's windows let the host work meanwhile.
+    mSchermata.durante([&] {
+        try {
+            esito = EmettiRiconsegna(ldv, stampa, contesto);
+        } catch (const Errore& errore) {
+            esito = errore.testo();
+        }
+    });
+    mSchermata.stato(esito);
+}
+
+} // namespace giacenza

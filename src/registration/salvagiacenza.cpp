@@ -1,0 +1,118 @@
+#include "registration/salvagiacenza.h"
+
+#include "base/impostazioni.h"
+#include "ui_frmGiacenza.h"
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza {
+
+namespace {
+
+QDate giornoDi(const QString& testo)
+{
+    if (const auto giorno = leggiData(testo))
+        return *giorno;
+    throw ErroreConversione(u"Manca una data, o non è valida: \"%1\"."_s.arg(testo));
+}
+
+std::optional<QDate> giornoSePresente(const QString& testo)
+{
+    return testo.isEmpty() ? std::nullopt : std::optional(giornoDi(testo));
+}
+
+} // namespace
+
+SalvaGiacenza::SalvaGiacenza(Schermata& schermata, const Ui::frmGiacenza& forma, PartiComuni& parti,
+                             RicercaLdv& ricerca, EmittenteAvviso& avviso)
+    : mSchermata(schermata), mUi(forma), mParti(parti), mRicerca(ricerca), mAvviso(avviso)
+{}
+
+void SalvaGiacenza::salva()
+{
+    // A shortcut moves no focus: the field that has it is checked first.
+    if (const Seguito seguito = mSchermata.convalida().verificaCorrente())
+        return seguito();
+    if (mParti.cliente.codice().isEmpty() || testo(mUi.txtRifMitt).isEmpty())
+        return mSchermata.stato(
+            u"Niente da salvare: mancano il cliente o una spedizione con il suo riferimento."_s);
+    mParti.dataGiacenza.CalcolaGiorniSosta();
+    Ammissione ammissione{};
+    try {
+        const auto giorno = leggiData(testo(mUi.txtDataLdv));
+        if (!giorno)
+            return mSchermata.stato(u"La data della lettera di vettura non è valida."_s);
+        ammissione = ControlloInserimento(mSchermata.connessione(), tag(mUi.txtLDV), *giorno);
+    } catch (const Errore& errore) {
+        return mSchermata.stato(errore.testo());
+    }
+    if (ammessa(ammissione))
+        inserisci();
+}
+
+bool SalvaGiacenza::ammessa(Ammissione ammissione)
+{
+    const auto rifiuto = [this](const QString& testo) {
+        mSchermata.messaggio(testo, Stile::avviso);
+        return false;
+    };
+    switch (ammissione) {
+    case Ammissione::ammessa:
+        return true;
+    case Ammissione::giaInGiacenza:
+        return rifiuto(u"Giacenza esistente impossibile inserirla in database."_s);
+    case Ammissione::riconsegna:
+        return rifiuto(
+            u"La spedizione selezionata è una riconsegna relativa ad una giacenza già esistente."_s);
+    case Ammissione::sconosciuta:
+        return rifiuto(u"Lettera di vettura non presente in database."_s);
+    }
+    return false;
+}
+
+DatiGiacenza SalvaGiacenza::dati() const
+{
+    const QString imponibile = testo(mUi.txtImponibile);
+    return {
+        .filiale = mUi.txtFiliale->text(),
+        .numeroLdv = tag(mUi.txtLDV),
+        .dataLdv = giornoDi(testo(mUi.txtDataLdv)),
+        .cliente = mParti.cliente.codice(),
+        .filialeGiacenza = testo(mUi.txtFilialeGia),
+        .giorniSosta = testo(mUi.barGiorniSosta),
+        .dataAvviso = giornoSePresente(testo(mUi.lblDataAvviso)),
+        .dataBuonFine = giornoSePresente(testo(mUi.lblDataBuonFine)),
+        .imponibile = imponibile.isEmpty() ? std::nullopt : std::optional(Decimale(imponibile)),
+        .giacenzaPrecedente = testo(mUi.txtGiaOld),
+        .dataPrecedente = giornoSePresente(testo(mUi.txtDataGiaOld)),
+        .dataGiacenza = giornoDi(testo(mUi.txtDataGia)),
+        .motivo = testo(mUi.txtDescGia),
+    };
+}
+
+void SalvaGiacenza::inserisci()
+{
+    try {
+        scrivi(mUi.lblNrGia,
+               InserisciGiacenza(mSchermata.connessione(), impostazioni().percorsoDatabase, dati()));
+    } catch (const Errore& errore) {
+        mSchermata.stato(errore.testo());
+        mSchermata.messaggio(u"Impossibile aggiungere la nuova giacenza."_s, Stile::critico);
+        return;
+    }
+    mRicerca.segnaGiacenza(true);
+    mSchermata.messaggio(u"Giacenza aggiunta in database."_s, Stile::informazione);
+    avvisa();
+}
+
+void SalvaGiacenza::avvisa()
+{
+    try {
+        mAvviso.EmettiAvvisoGiacenza(false);
+    } catch (const Errore& errore) {
+        // What follows a save that succeeded ends without a message: the held shipment is there.
+        mSchermata.stato(u"L'avviso non è stato emesso: %1"_s.arg(errore.testo()));
+    }
+}
+
+} // namespace giacenza

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace giacenza {
+
+/// The style sheet of the working screens: what tells a field to type in from one to look at, and a value
+/// that counts from a left-over.
+QString aspettoSchermata();
+
+} // namespace giacenza

@@ -1,0 +1,139 @@
+#include "screens/campocliente.h"
+
+#include "data/istruzioni.h"
+#include "database/recordset.h"
+#include "screens/campi.h"
+#include "screens/rifiuto.h"
+#include "search/apriricerca.h"
+#include "widgets/tasti.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza {
+
+namespace {
+
+QString testoErrato()
+{
+    return u"Codice cliente assente o errato"_s;
+}
+
+} // namespace
+
+CampoCliente::CampoCliente(Schermata& schermata, const Controlli& controlli, Differenze differenze)
+    : mSchermata(schermata), mControlli(controlli), mDifferenze(std::move(differenze))
+{
+    schermata.convalida().aggiungi(mControlli.codice, [this] { return convalida(); });
+    QObject::connect(mControlli.codice, &QLineEdit::returnPressed, &schermata,
+                     [this] { mControlli.cerca->setFocus(); });
+    const auto ricerca = schermata.gestore([this] { cerca(); });
+    QObject::connect(mControlli.cerca, &QPushButton::clicked, &schermata, ricerca);
+    suTasto(mControlli.codice, Qt::Key_F12, ricerca);
+}
+
+QString CampoCliente::codice() const
+{
+    return mControlli.codice->text();
+}
+
+QString CampoCliente::ragioneSociale() const
+{
+    return mControlli.barra->text();
+}
+
+void CampoCliente::cerca()
+{
+    RisultatoRicerca trovato;
+    mSchermata.durante([&] { trovato = ApriRicerca(u"1"_s, u"Clien"_s, &mSchermata); });
+    if (!trovato.trovato)
+        return;
+    scrivi(mControlli.codice, QString::number(trovato.codice));
+    scrivi(mControlli.barra, trovato.ragioneSociale);
+    mDifferenze.cercato();
+}
+
+bool CampoCliente::scelto()
+{
+    if (!codice().isEmpty())
+        return true;
+    mSchermata.messaggio(u"Selezionare il codice cliente."_s, Stile::avviso);
+    mControlli.codice->setFocus();
+    return false;
+}
+
+Seguito CampoCliente::convalida()
+{
+    if (mControlli.codice->isReadOnly())
+        return {};
+    const QString digitato = codice().trimmed();
+    return verifica(
+        digitato,
+        rifiuta(mSchermata, mControlli.codice, testoErrato(), Stile::avviso, mDifferenze.titoloErrato()),
+        [&](const QString& nome) {
+            scrivi(mControlli.barra, nome);
+            mControlli.codice->setText(digitato);
+            blocca(true);
+        });
+}
+
+Seguito CampoCliente::imposta(const QString& codice)
+{
+    blocca(false);
+    scrivi(mControlli.codice, codice);
+    return convalida();
+}
+
+Seguito CampoCliente::verifica(const QString& codice, const Seguito& errato,
+                               const std::function<void(const QString&)>& trovato)
+{
+    if (codice.isEmpty())
+        return {};
+    if (!eNumero(codice))
+        return errato;
+    try {
+        Recordset cliente;
+        cliente.apri(mSchermata.connessione(), istruzioni::clientePerCodice(codice));
+        if (cliente.eof())
+            return mSchermata.gestore([this] {
+                mSchermata.messaggio(u"Codice Cliente Inesistente"_s, Stile::informazione, titoloGestione());
+            });
+        if (trovato)
+            trovato(cliente.valore(0).value_or(QString()));
+    } catch (const ErroreDatabase& errore) {
+        mSchermata.stato(errore.testo());
+    }
+    return {};
+}
+
+void CampoCliente::diciErrato()
+{
+    mSchermata.messaggio(testoErrato(), Stile::avviso, mDifferenze.titoloErrato());
+}
+
+void CampoCliente::blocca(bool bloccato)
+{
+    mControlli.codice->setReadOnly(bloccato);
+    rinnovaAspetto(mControlli.codice);
+}
+
+void CampoCliente::pulisci()
+{
+    scrivi(mControlli.codice, {});
+    scrivi(mControlli.barra, {});
+    blocca(false);
+}
+
+void CampoCliente::abilita(bool abilitato)
+{
+    const std::initializer_list<QWidget*> controlli = {mControlli.codice, mControlli.barra, mControlli.cerca};
+    for (QWidget* controllo : controlli)
+        controllo->setEnabled(abilitato);
+    if (abilitato)
+        blocca(false);
+}
+
+} // namespace giacenza
