@@ -8,10 +8,18 @@
 #include <QCloseEvent>
 #include <QPixmap>
 #include <QTime>
+#include <QWindow>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+
+// The resources of a static library are known to the program only when this was called. Outside every
+// namespace, since the toolkit's macro declares a global function.
+static void caricaRisorse()
+{
+    Q_INIT_RESOURCE(risorse);
+}
 
 namespace deposito {
 
@@ -37,6 +45,15 @@ bool altreFinestreAperte(const QWidget* questa)
 
 } // namespace
 
+QIcon icona()
+{
+    caricaRisorse();
+    QIcon icona;
+    for (const int lato : {16, 32, 48, 128})
+        icona.addFile(u":/deposito/icone/%1.png"_s.arg(lato));
+    return icona;
+}
+
 Finestra::Finestra(const Opzioni& opzioni, QWidget* parent)
     : QMainWindow(parent), mUi(std::make_unique<Ui::finestraDeposito>()),
       mGiacenza(std::make_unique<cGiacenza>())
@@ -56,7 +73,9 @@ Finestra::Finestra(const Opzioni& opzioni, QWidget* parent)
     nome->setObjectName(u"lblArchivio"_s);
     mUi->statusbar->addPermanentWidget(nome);
     mUi->statusbar->showMessage(u"Pronto."_s);
-    if (opzioni.database.isEmpty())
+    if (!opzioni.guasto.isEmpty())
+        mostraMessaggio(opzioni.guasto);
+    else if (opzioni.database.isEmpty())
         mostraMessaggio(u"Non è stato indicato l'archivio su cui lavorare: avviare il programma "
                         "con --database e la stringa di connessione."_s);
 }
@@ -100,6 +119,8 @@ void Finestra::mostraLogo(const QString& file)
 void Finestra::apri(const QString& schermata, const std::function<void()>& apertura)
 {
     nascondiMessaggio();
+    // A screen that is given no focus must not open behind this window.
+    sopraLeSchermate(false);
     try {
         apertura();
         mUi->statusbar->showMessage(u"%1: schermata aperta."_s.arg(schermata));
@@ -109,6 +130,7 @@ void Finestra::apri(const QString& schermata, const std::function<void()>& apert
     } catch (const std::exception& errore) {
         mostraMessaggio(u"La schermata non è stata aperta. %1"_s.arg(QString::fromUtf8(errore.what())));
     }
+    sopraLeSchermate(isActiveWindow());
     mUi->statusbar->showMessage(u"%1: schermata non aperta."_s.arg(schermata));
 }
 
@@ -152,6 +174,34 @@ void Finestra::nascondiMessaggio()
     mUscitaAnnunciata = false;
 }
 
+void Finestra::sopraLeSchermate(bool sopra)
+{
+    // Through the native window: the widget's own call would hide it and show it again.
+    if (QWindow* nativa = windowHandle())
+        nativa->setFlag(Qt::WindowStaysOnTopHint, sopra);
+}
+
+void Finestra::vieniAvanti()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    // Not left to the activation, which a window manager may refuse to a window that was not worked in.
+    sopraLeSchermate(true);
+    raise();
+    activateWindow();
+}
+
+bool Finestra::event(QEvent* evento)
+{
+    if (evento->type() == QEvent::WindowActivate) {
+        sopraLeSchermate(true);
+        raise();
+    } else if (evento->type() == QEvent::WindowDeactivate) {
+        sopraLeSchermate(false);
+    }
+    return QMainWindow::event(evento);
+}
+
 void Finestra::closeEvent(QCloseEvent* evento)
 {
     if (!mUscitaAnnunciata && altreFinestreAperte(this)) {
@@ -159,6 +209,7 @@ void Finestra::closeEvent(QCloseEvent* evento)
                         "Per uscire lo stesso, chiudere di nuovo."_s);
         mUscitaAnnunciata = true;
         evento->ignore();
+        vieniAvanti();
         return;
     }
     evento->accept();

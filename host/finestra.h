@@ -4,6 +4,7 @@
 
 #include <giacenza/cGiacenza.h>
 
+#include <QIcon>
 #include <QMainWindow>
 
 #include <functional>
@@ -15,7 +16,13 @@ class finestraDeposito;
 
 namespace deposito {
 
+/// The program's icon, for every window.
+QIcon icona();
+
 /// The host's window: asks the component for its screens and says what came of it.
+///
+/// The component keeps its screens above all other windows, so this one goes above them as long as it is the
+/// one worked in, and when it has something to ask.
 class Finestra : public QMainWindow
 {
     Q_OBJECT
@@ -25,6 +32,7 @@ public:
     ~Finestra() override;
 
 protected:
+    bool event(QEvent* evento) override;
     void closeEvent(QCloseEvent* evento) override;
 
 private:
@@ -37,6 +45,9 @@ private:
     void schermataChiusa();
     void mostraMessaggio(const QString& testo);
     void nascondiMessaggio();
+    void sopraLeSchermate(bool sopra);
+    /// Brings the window before the operator, wherever it is.
+    void vieniAvanti();
 
     std::unique_ptr<Ui::finestraDeposito> mUi;
     std::unique_ptr<giacenza::cGiacenza> mGiacenza;

@@ -2,13 +2,26 @@
 
 #include <QApplication>
 
-using namespace Qt::StringLiterals;
+namespace {
+
+/// --help and --version: a text, also where there is no display, as on a server or in a script.
+[[noreturn]] void rispondiSenzaSchermo(int argc, char** argv)
+{
+    QCoreApplication applicazione(argc, argv);
+    deposito::parlaItaliano(applicazione);
+    deposito::leggiOpzioni(applicazione);
+    qFatal("the command line asked for a text and gave none");
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
+    deposito::presentati();
+    if (deposito::chiedeSoloTesto(argc, argv))
+        rispondiSenzaSchermo(argc, argv);
     QApplication applicazione(argc, argv);
-    QApplication::setApplicationName(u"deposito"_s);
-    QApplication::setApplicationDisplayName(u"Gestione Trasporti"_s);
+    QApplication::setWindowIcon(deposito::icona());
     QApplication::setQuitOnLastWindowClosed(false);
     deposito::parlaItaliano(applicazione);
 

@@ -12,9 +12,16 @@ struct Opzioni
     QString database; ///< ODBC connection string; empty when none was given
     QString ini;      ///< settings file
     QString logo;     ///< letterhead logo, a file
+    QString guasto{}; ///< why the connection string could not be read, for the operator; else empty
 };
 
-/// Reads the command line; a wrong one, and --help, end the process with a text in Italian.
+/// Names the program: its settings, and what a desktop calls it.
+void presentati();
+
+/// True when the command line asks for a text and for no window, so that no display is needed.
+bool chiedeSoloTesto(int argc, const char* const* argv);
+
+/// Reads the command line; a wrong one, --help and --version end the process with a text in Italian.
 Opzioni leggiOpzioni(const QCoreApplication& applicazione);
 
 /// Italian for dates, numbers and the toolkit's own texts, whatever the locale of the process. Returns false

@@ -81,6 +81,12 @@ create table ekelvorqzt_tabge00f (
 
 -- The number leads every key in which the branch stands too: a depot may have but one branch, and a key that
 -- starts with it would then pass for a way to the row while it reads the table.
+--
+-- lenrlv_numero is the number of a waybill whose number is digits only: with its index, who issues a waybill
+-- finds the highest of the year without reading the year. It is invisible, so that no "select *" and no insert
+-- without names sees it; the component works without it too. A host whose table is there already adds it with
+--   alter table letve00f add lenrlv_numero ... (as below), add key letve_numerico (leanlv, lenrlv_numero)
+-- Its expression holds no pattern whose meaning a setting of the session could change.
 create table letve00f (
     lefili varchar(10) not null,
     lenrlv varchar(20) character set utf8mb4 collate utf8mb4_nopad_bin not null,
@@ -111,12 +117,17 @@ create table letve00f (
     LERFGI varchar(20) character set utf8mb4 collate utf8mb4_nopad_bin,
     LEANGI smallint,
     LEDTCO date,
+    lenrlv_numero bigint unsigned generated always as (
+        case when char_length(lenrlv) between 1 and 18 and lenrlv not regexp '[^0-9]'
+            then cast(lenrlv as unsigned) end
+    ) virtual invisible,
     primary key (lenrlv, leanlv, lefili),
     key letve_numero (lenrlv, ledtlv, lefili),
     key letve_riferimento (lerife, lerifd, lefili),
     key letve_cliente (lecodi, lefili, lerife, ledtlv),
     key letve_giacenza (LERFGI, LEANGI, lefili),
-    key letve_anno (leanlv, lenrlv)
+    key letve_anno (leanlv, lenrlv),
+    key letve_numerico (leanlv, lenrlv_numero)
 ) engine = InnoDB default charset = utf8mb4 collate = utf8mb4_general_nopad_ci;
 
 -- The year comes first in the unique key of the held shipment, so that the list of a year finds it too.

@@ -133,5 +133,6 @@ svolgiGiornata()
         nuovoArchivio "$1/demo.db"
         CONNESSIONE=$(stringaSqlite "$1/demo.db")
     fi
-    svolgi "$COSTRUITO/bin/deposito-demo" --cartella "$1" --database "$CONNESSIONE"
+    # In the environment, not on a command line that every user of the machine can read.
+    GIACENZA_DATABASE=$CONNESSIONE svolgi "$COSTRUITO/bin/deposito-demo" --cartella "$1"
 }

@@ -49,7 +49,8 @@ int main(int argc, char** argv)
     QApplication::setApplicationDisplayName(u"Gestione Trasporti"_s);
     QCommandLineParser opzioni;
     opzioni.addOptions({{u"cartella"_s, u"Dove restano immagini e documenti."_s, u"cartella"_s},
-                        {u"database"_s, u"Stringa di connessione."_s, u"stringa"_s}});
+                        {u"database"_s, u"Stringa di connessione; altrimenti è in GIACENZA_DATABASE."_s,
+                         u"stringa"_s, qEnvironmentVariable("GIACENZA_DATABASE")}});
     opzioni.addHelpOption();
     opzioni.process(applicazione);
     try {

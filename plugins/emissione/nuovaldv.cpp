@@ -86,12 +86,32 @@ QString soloNumeri(Dialetto dialetto)
     return u"lenrlv regexp '^[0-9]{1,18}$'"_s;
 }
 
-QString prossimoNumero(Connessione& connessione, int anno)
+/// True where the waybills have the generated and indexed column of schema/mariadb.sql. Another column of the
+/// name is none. Asked before the transaction: it sees the catalog and no waybill.
+bool haColonnaNumero(Connessione& connessione)
+{
+    if (connessione.dialetto() != Dialetto::mariadb)
+        return false;
+    Recordset colonna;
+    colonna.apri(connessione,
+                 u"select 1 from information_schema.columns where table_schema=database() and "
+                 "table_name='letve00f' and column_name='lenrlv_numero' and is_generated='ALWAYS'"_s,
+                 Recordset::Cursore::soloAvanti);
+    return !colonna.eof();
+}
+
+QString massimoNumero(Dialetto dialetto, bool colonnaNumero)
+{
+    if (colonnaNumero)
+        return u"select coalesce(max(lenrlv_numero),0) from letve00f where leanlv=?"_s;
+    return u"select coalesce(max(cast(lenrlv as unsigned)),0) from letve00f where leanlv=? and "_s +
+           soloNumeri(dialetto);
+}
+
+QString prossimoNumero(Connessione& connessione, int anno, bool colonnaNumero)
 {
     Recordset massimo;
-    massimo.apri(connessione,
-                 u"select coalesce(max(cast(lenrlv as unsigned)),0) from letve00f where leanlv=? and "_s +
-                     soloNumeri(connessione.dialetto()),
+    massimo.apri(connessione, massimoNumero(connessione.dialetto(), colonnaNumero),
                  Recordset::Cursore::soloAvanti, {{QString::number(anno)}});
     return somma(massimo.valore(0).value_or(u"0"_s), u"1"_s);
 }
@@ -146,7 +166,8 @@ void aggiungi(Connessione& connessione, const RecordLdv& originale, const Contes
     nuova.aggiorna();
 }
 
-LdvEmessa inUnaTransazione(Connessione& connessione, const RecordLdv& originale, const Contesto& contesto)
+LdvEmessa inUnaTransazione(Connessione& connessione, const RecordLdv& originale, const Contesto& contesto,
+                           bool colonnaNumero)
 {
     Transazione transazione(connessione);
     mettiInFila(connessione);
@@ -154,7 +175,7 @@ LdvEmessa inUnaTransazione(Connessione& connessione, const RecordLdv& originale,
         ricontrolla(connessione, contesto);
     const int anno = contesto.oggi.year();
     const LdvEmessa chiave = {originale.valore(u"lefili"_s).value_or(QString()),
-                              prossimoNumero(connessione, anno), anno, contesto.oggi,
+                              prossimoNumero(connessione, anno, colonnaNumero), anno, contesto.oggi,
                               contesto.resoAMittente ? inUnaRiga(destinatario(originale)) : QString()};
     aggiungi(connessione, originale, contesto, chiave);
     transazione.conferma();
@@ -177,9 +198,10 @@ LdvEmessa emettiLdv(Connessione& connessione, const RecordLdv& originale, const 
         throw Errore(
             u"La lettera di vettura da cui partire non è stata trovata in archivio: nessuna lettera di "
             "vettura è stata emessa."_s);
+    const bool colonnaNumero = haColonnaNumero(connessione);
     for (int tentativo = 1;; ++tentativo) {
         try {
-            return inUnaTransazione(connessione, originale, contesto);
+            return inUnaTransazione(connessione, originale, contesto, colonnaNumero);
         } catch (const ErroreDatabase& errore) {
             if (tentativo == tentativi || !daRitentare(errore))
                 throw;

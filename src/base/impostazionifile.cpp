@@ -11,9 +11,11 @@ namespace {
 // A reader that the host registers, or a plug-in file brings, goes before the component's own.
 std::unique_ptr<LettoreIni> lettore()
 {
-    ParteDi<LettoreIni> esterno = creaParteDi<LettoreIni>(QStringView(classeLettoreIni).toString());
-    if (esterno.parte)
-        return std::move(esterno.parte);
+    std::unique_ptr<ParteEsterna> esterno = creaParteFacoltativa(QStringView(classeLettoreIni).toString());
+    if (auto* lettore = dynamic_cast<LettoreIni*>(esterno.get())) {
+        esterno.release();
+        return std::unique_ptr<LettoreIni>(lettore);
+    }
     return std::make_unique<LettoreIniProprio>();
 }
 

@@ -5,6 +5,7 @@
 #include <mutex>
 #include <optional>
 #include <unordered_map>
+#include <unordered_set>
 
 using namespace Qt::StringLiterals;
 
@@ -16,6 +17,7 @@ struct Registro
 {
     std::mutex serratura;
     std::unordered_map<QString, FabbricaParte> fabbriche;
+    std::unordered_set<QString> senzaModulo; ///< see ricerca()
 };
 
 Registro& registro()
@@ -55,6 +57,40 @@ ParteCreata dallaFabbrica(const QString& nomeClasse, const FabbricaParte& fabbri
     return {nullptr, motivoNonCreata(nomeClasse, {u"Registrata dal programma: %1."_s.arg(provata.causa)})};
 }
 
+/// One search through the plug-in files, as a text: the class and the folders.
+QString ricerca(const QString& nomeClasse, const QStringList& cartelle)
+{
+    return chiave(nomeClasse) + u'\n' + cartelle.join(u'\n');
+}
+
+bool siSaCheManca(const QString& ricercaFatta)
+{
+    Registro& tutte = registro();
+    const std::lock_guard guardia(tutte.serratura);
+    return tutte.senzaModulo.contains(ricercaFatta);
+}
+
+void ricordaCheManca(const QString& ricercaFatta)
+{
+    Registro& tutte = registro();
+    const std::lock_guard guardia(tutte.serratura);
+    tutte.senzaModulo.insert(ricercaFatta);
+}
+
+/// Asks the plug-in files one by one; cause gets a line of each that should have served, or cannot be read.
+std::unique_ptr<ParteEsterna> daiModuli(const QString& nomeClasse, const QStringList& cartelle,
+                                        QStringList& cause)
+{
+    for (const QString& modulo : fileModuli(cartelle)) {
+        ParteProvata provata = parteDalModulo(modulo, nomeClasse);
+        if (provata.parte)
+            return std::move(provata.parte);
+        if (!provata.causa.isEmpty())
+            cause.append(u"%1: %2."_s.arg(modulo, provata.causa));
+    }
+    return nullptr;
+}
+
 } // namespace
 
 void registraParte(const QString& nomeClasse, FabbricaParte fabbrica)
@@ -74,15 +110,26 @@ ParteCreata creaParte(const QString& nomeClasse)
 
     const QStringList cartelle = cartelleParti();
     QStringList cause;
-    for (const QString& modulo : fileModuli(cartelle)) {
-        ParteProvata provata = parteDalModulo(modulo, nomeClasse);
-        if (provata.parte)
-            return {std::move(provata.parte), {}};
-        if (!provata.causa.isEmpty())
-            cause.append(u"%1: %2."_s.arg(modulo, provata.causa));
-    }
+    if (std::unique_ptr<ParteEsterna> parte = daiModuli(nomeClasse, cartelle, cause))
+        return {std::move(parte), {}};
     cause.append(u"Cercata in: %1."_s.arg(cartelle.join(u", "_s)));
     return {nullptr, motivoNonCreata(nomeClasse, cause)};
+}
+
+std::unique_ptr<ParteEsterna> creaParteFacoltativa(const QString& nomeClasse)
+{
+    if (const std::optional<FabbricaParte> registrata = fabbricaRegistrata(nomeClasse))
+        return dallaFabbrica(nomeClasse, *registrata).parte;
+
+    const QStringList cartelle = cartelleParti();
+    const QString questa = ricerca(nomeClasse, cartelle);
+    if (siSaCheManca(questa))
+        return nullptr;
+    QStringList cause;
+    std::unique_ptr<ParteEsterna> parte = daiModuli(nomeClasse, cartelle, cause);
+    if (!parte && cause.isEmpty())
+        ricordaCheManca(questa);
+    return parte;
 }
 
 } // namespace giacenza

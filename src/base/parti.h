@@ -18,6 +18,13 @@ struct ParteCreata
 /// never unloaded.
 ParteCreata creaParte(const QString& nomeClasse);
 
+/// The same for a part that is asked for at every step and that most depots do without: reading the metadata
+/// of every plug-in file costs more than the step. That no file of the folders serves the class is remembered
+/// until the process ends, for each list of folders; nothing else is: a part that is there is sought anew
+/// each time, and so is one whose file is broken or fails, since the file may be put right. What the process
+/// registered is seen at once. Empty where there is none.
+std::unique_ptr<ParteEsterna> creaParteFacoltativa(const QString& nomeClasse);
+
 /// Where plug-in files are sought, in order: the folders of the environment variable GIACENZA_PARTI
 /// (colon-separated), then "giacenza" beside the component's own library, then the folder of the
 /// installation.

@@ -11,6 +11,7 @@
 #include <QRegularExpression>
 #include <QStatusBar>
 #include <QTest>
+#include <QWindow>
 
 #include <gmock/gmock.h>
 
@@ -148,6 +149,40 @@ TEST_F(ProvaFinestra, con_una_schermata_aperta_si_esce_alla_seconda_richiesta)
               u"Ci sono schermate ancora aperte: uscendo si perde ciò che non è salvato. Per uscire lo "
               u"stesso, chiudere di nuovo."_s);
     EXPECT_TRUE(mFinestra->close());
+}
+
+TEST_F(ProvaFinestra, in_uso_sta_sopra_le_schermate_e_poi_cede_il_posto)
+{
+    const auto sopra = [this] {
+        return mFinestra->windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint);
+    };
+    EXPECT_TRUE(sopra());
+    QWidget schermata;
+    schermata.show();
+    schermata.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&schermata));
+    EXPECT_FALSE(sopra());
+    mFinestra->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(mFinestra.get()));
+    EXPECT_TRUE(sopra());
+    premi(u"cmdNuova");
+    EXPECT_FALSE(sopra()) << "the screen that opens must not stand behind";
+    giacenzaFinta().errore = std::make_exception_ptr(giacenza::Errore(u"guasto"_s));
+    premi(u"cmdNuova");
+    EXPECT_TRUE(sopra()) << "nothing opened";
+}
+
+TEST_F(ProvaFinestra, l_avviso_di_uscita_porta_avanti_anche_la_finestra_ridotta_a_icona)
+{
+    QWidget schermata;
+    schermata.show();
+    mFinestra->showMinimized();
+    schermata.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&schermata));
+    EXPECT_FALSE(mFinestra->close());
+    EXPECT_FALSE(mFinestra->isMinimized());
+    EXPECT_TRUE(mFinestra->windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(mFinestra.get()));
 }
 
 TEST_F(ProvaFinestra, un_altra_azione_annulla_l_uscita)

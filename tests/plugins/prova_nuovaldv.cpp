@@ -25,11 +25,16 @@ using testing::SizeIs;
 
 namespace {
 
+/// A MariaDB whose table is the host's own, without the schema's generated column.
+const std::string senzaColonna = "mariadbSenzaColonna";
+
 class NuovaLdv : public testing::TestWithParam<std::string>
 {
 protected:
     NuovaLdv()
     {
+        if (GetParam() == senzaColonna)
+            mBase.esegui(u"alter table letve00f drop key letve_numerico, drop column lenrlv_numero;"_s);
         riempiDeposito(mBase);
         mBase.esegui(u"update letve00f set LERFGI='40', LEANGI=2026, lecdve='V01' where lenrlv='4711';"_s);
         mPrima = tutto();
@@ -64,12 +69,25 @@ protected:
         return u"emessa"_s;
     }
 
-    BancaDati mBase{GetParam()};
+    /// The statement that looks for the highest number, as the issue of a waybill runs it.
+    QString istruzioneDelNumero()
+    {
+        QString istruzione;
+        impostaTraccia([&](EventoDati evento, const QString& testo) {
+            if (evento == EventoDati::istruzione && testo.startsWith(u"select coalesce(max("_s))
+                istruzione = testo;
+        });
+        emettiLdv(mConnessione, LdvDiProva(mConnessione, u"4711"_s), contestoDiProva());
+        impostaTraccia({});
+        return istruzione;
+    }
+
+    BancaDati mBase{GetParam() == senzaColonna ? "mariadb" : GetParam()};
     QList<QList<QStringList>> mPrima;
     Connessione mConnessione;
 };
 
-INSTANTIATE_TEST_SUITE_P(Basi, NuovaLdv, testing::Values("sqlite", "mariadb"),
+INSTANTIATE_TEST_SUITE_P(Basi, NuovaLdv, testing::Values("sqlite", "mariadb", senzaColonna),
                          nomeBase<testing::TestParamInfo<std::string>>);
 
 QStringList ripulita(QStringList riga)
@@ -174,6 +192,60 @@ TEST_P(NuovaLdv, IlNumeroSegueIlPiuAltoDellAnnoDiOgniFiliale)
     const LdvEmessa prima = emettiLdv(mConnessione, ldv, capodanno);
     EXPECT_EQ(prima.numero, u"1"_s) << "each year starts anew";
     EXPECT_EQ(prima.anno, 2027);
+}
+
+TEST_P(NuovaLdv, IlNumeroSiCercaConCioCheIlDatabaseOffre)
+{
+    const QMap<std::string, QString> attese{
+        {"sqlite",
+         u"select coalesce(max(cast(lenrlv as unsigned)),0) from letve00f where leanlv=? and lenrlv "
+         "not glob '*[^0-9]*' and length(lenrlv) between 1 and 18"_s},
+        {"mariadb", u"select coalesce(max(lenrlv_numero),0) from letve00f where leanlv=?"_s},
+        {senzaColonna, u"select coalesce(max(cast(lenrlv as unsigned)),0) from letve00f where leanlv=? and "
+                       "lenrlv regexp '^[0-9]{1,18}$'"_s},
+    };
+    EXPECT_EQ(istruzioneDelNumero(), attese.value(GetParam()));
+}
+
+TEST_P(NuovaLdv, ConLIndiceNessunaLdvDellAnnoSiLegge)
+{
+    const QString istruzione = istruzioneDelNumero().replace(u'?', u"2026"_s);
+    QStringList piano;
+    for (const QStringList& riga :
+         mBase.righe((GetParam() == "sqlite" ? u"explain query plan "_s : u"explain "_s) + istruzione))
+        piano << riga.last();
+    if (GetParam() == "sqlite")
+        EXPECT_EQ(piano, QStringList(u"SEARCH letve00f USING INDEX letve_anno (leanlv=?)"_s));
+    else if (GetParam() == "mariadb")
+        EXPECT_EQ(piano, QStringList(u"Select tables optimized away"_s));
+    else
+        EXPECT_EQ(piano, QStringList(u"Using where; Using index"_s)) << "the year's waybills, from the index";
+}
+
+TEST_P(NuovaLdv, UnaColonnaDelloStessoNomeMaDAltriNonServe)
+{
+    if (GetParam() == "sqlite")
+        mBase.esegui(u"alter table letve00f add column lenrlv_numero integer;"_s);
+    else if (GetParam() == "mariadb")
+        mBase.esegui(u"alter table letve00f drop key letve_numerico, drop column lenrlv_numero, "
+                     "add lenrlv_numero bigint default 7777;"_s);
+    else
+        mBase.esegui(u"alter table letve00f add lenrlv_numero bigint default 7777;"_s);
+    EXPECT_EQ(emettiLdv(mConnessione, LdvDiProva(mConnessione, u"4711"_s), contestoDiProva()).numero,
+              u"4716"_s);
+}
+
+TEST_P(NuovaLdv, LaColonnaDelNumeroNonSiVedeENonSiScrive)
+{
+    const LdvDiProva ldv(mConnessione, u"4711"_s);
+    Recordset tutte;
+    tutte.apri(mConnessione, u"select * from letve00f"_s);
+    EXPECT_EQ(tutte.indice(u"lenrlv_numero"_s), -1);
+    EXPECT_EQ(tutte.colonne(), 29);
+    mBase.esegui(u"create table copia as select * from letve00f where lenrlv='4711';"_s);
+    mBase.esegui(u"update copia set lenrlv='4799';"_s);
+    mBase.esegui(u"insert into letve00f select * from copia;"_s);
+    EXPECT_EQ(emettiLdv(mConnessione, ldv, contestoDiProva()).numero, u"4800"_s);
 }
 
 TEST_P(NuovaLdv, ConIlControlloSiRicontaDentro)

@@ -7,6 +7,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QFile>
+
 using namespace giacenza;
 using namespace giacenza::prove;
 using namespace Qt::StringLiterals;
@@ -62,6 +64,30 @@ protected:
                 EXPECT_THAT(codice, testing::AnyOf(colonnaNegata, tabellaNegata)) << colonna.toStdString();
         }
         return consentite;
+    }
+
+    /// The columns of a table that the user may fill in a new row.
+    QStringList inseribili(const QString& tabella)
+    {
+        QStringList consentite;
+        for (const QString& colonna : colonne(tabella)) {
+            // ignore: a column without a default that is not named is no refusal here.
+            const int codice = rifiuto(
+                u"insert ignore into %1 (`%2`) select `%2` from %1 where 1=0"_s.arg(tabella, colonna));
+            if (codice == 0)
+                consentite << colonna;
+            else
+                EXPECT_THAT(codice, testing::AnyOf(colonnaNegata, tabellaNegata)) << colonna.toStdString();
+        }
+        return consentite;
+    }
+
+    /// The account and its machine, as the server knows them.
+    QString chiSono()
+    {
+        Recordset riga;
+        riga.apri(mConnessione, u"select user()"_s);
+        return riga.valore(0).value_or(QString());
     }
 
     const QStringList mTabelle{u"clien"_s,    u"codicizona"_s, u"ekelvorqzt_tabge00f"_s,
@@ -144,17 +170,87 @@ TEST_F(Privilegi, cambianoSoloLeColonneDelleIstruzioni)
         EXPECT_THAT(modificabili(tabella), testing::IsEmpty()) << tabella.toStdString();
 }
 
-TEST_F(Privilegi, aggiungonoRigheSoloDoveServe)
+TEST_F(Privilegi, aggiungonoSoloLeColonneCheSiRiempiono)
 {
-    QStringList consentite;
+    EXPECT_THAT(inseribili(u"giace00f"_s),
+                UnorderedElementsAreArray({u"GIFILI"_s, u"GINRLV"_s, u"GIANLV"_s, u"GICODI"_s, u"GIFIGI"_s,
+                                           u"GINRGI"_s, u"GIANGI"_s, u"GIDTGI"_s, u"GIGGSO"_s, u"GIDTAV"_s,
+                                           u"GIDES1"_s, u"GIDTBF"_s, u"GIIMGI"_s, u"GIVNRG"_s, u"GIVDTG"_s}));
+    EXPECT_THAT(inseribili(u"letve00f"_s),
+                UnorderedElementsAreArray({u"lefili"_s, u"lenrlv"_s, u"leanlv"_s, u"ledtlv"_s, u"lecodi"_s,
+                                           u"lecmpe"_s, u"ledest"_s, u"leindd"_s, u"lecapd"_s, u"lelocd"_s,
+                                           u"leprod"_s, u"lerico"_s, u"lecdve"_s, u"lelin1"_s, u"lenatu"_s,
+                                           u"lerife"_s, u"lerifd"_s, u"leport"_s, u"lecoll"_s, u"lepeso"_s,
+                                           u"levolu"_s, u"lecnss"_s, u"leanpc"_s, u"lenote"_s, u"levame"_s,
+                                           u"LERFGI"_s, u"LEANGI"_s}));
     for (const QString& tabella : mTabelle) {
-        const int codice = rifiuto(u"insert into %1 select * from %1 where 1=0"_s.arg(tabella));
-        if (codice == 0)
-            consentite << tabella;
-        else
-            EXPECT_EQ(codice, tabellaNegata) << tabella.toStdString();
+        if (tabella != u"giace00f"_s && tabella != u"letve00f"_s) {
+            EXPECT_THAT(inseribili(tabella), testing::IsEmpty()) << tabella.toStdString();
+        }
     }
-    EXPECT_THAT(consentite, UnorderedElementsAreArray({u"giace00f"_s, u"letve00f"_s}));
+}
+
+TEST_F(Privilegi, nonScrivonoLaFatturaNeRiscrivonoUnaRiga)
+{
+    const QString giacenza =
+        u"(GIFILI, GINRLV, GIANLV, GINRGI, GIANGI) values ('01', '1', 2026, '1', 2026)"_s;
+    ASSERT_EQ(rifiuto(u"insert into giace00f "_s + giacenza), 0);
+    EXPECT_EQ(rifiuto(u"insert into giace00f (GIFILI, GINRLV, GIANLV, GINRGI, GIANGI, GINRFA) "
+                      "values ('01', '2', 2026, '2', 2026, '77')"_s),
+              colonnaNegata);
+    EXPECT_EQ(rifiuto(u"insert into giace00f %1 on duplicate key update GINRFA='77'"_s.arg(giacenza)),
+              colonnaNegata);
+    EXPECT_EQ(rifiuto(u"replace into giace00f "_s + giacenza), tabellaNegata);
+}
+
+TEST_F(Privilegi, nonFermanoLeTabelleNeLeggonoFile)
+{
+    EXPECT_EQ(rifiuto(u"lock tables giace00f write"_s), databaseNegato);
+    EXPECT_EQ(rifiuto(u"flush tables with read lock"_s), privilegioNegato);
+    EXPECT_EQ(rifiuto(u"create temporary table spia (a integer)"_s), databaseNegato);
+    EXPECT_EQ(rifiuto(u"select * from giace00f into outfile '/tmp/spia'"_s), privilegioNegato);
+    EXPECT_EQ(rifiuto(u"create procedure spia() select 1"_s), databaseNegato);
+    EXPECT_EQ(rifiuto(u"create trigger spia before insert on giace00f for each row set @a=1"_s),
+              tabellaNegata);
+    EXPECT_EQ(rifiuto(u"set sql_log_bin=0"_s), privilegioNegato);
+}
+
+/// What docs/security.md says that they can do all the same.
+TEST_F(Privilegi, possonoAncora)
+{
+    mBase.esegui(u"insert into ekelvorqzt_tabge00f (UltimoNumGiacenza) values (90000);"_s);
+    mBase.esegui(u"insert into giace00f (GIFILI, GINRLV, GIANLV, GINRGI, GIANGI, GIDTBF, GIIMGI) values "
+                 "('01', '1', 2026, '1', 2026, '2026-03-01', 50);"_s);
+    EXPECT_EQ(rifiuto(u"update giace00f set GIDTBF=null, GIIMGI=0"_s), 0);
+    EXPECT_EQ(mBase.leggi(u"select count(*) from giace00f where GIDTBF is null and GIIMGI=0"_s), u"1"_s);
+    EXPECT_EQ(rifiuto(u"update letve00f set LERFGI=null, LEANGI=null"_s), 0);
+    EXPECT_EQ(rifiuto(u"update ekelvorqzt_tabge00f set UltimoNumGiacenza=0"_s), 0);
+    EXPECT_EQ(rifiuto(u"select * from clien for update"_s), 0);
+    EXPECT_EQ(rifiuto(u"set session max_statement_time=0"_s), 0);
+    EXPECT_EQ(rifiuto(u"select get_lock('giacenze', 0)"_s), 0);
+}
+
+/// The trail of docs/security.md, made with its own lines.
+TEST_F(Privilegi, ilRegistroDelleModificheScriveDaSeENonSiTocca)
+{
+    QFile documento(QStringLiteral(GIACENZA_SORGENTI "/../docs/security.md"));
+    ASSERT_TRUE(documento.open(QIODevice::ReadOnly));
+    const QString testo = QString::fromUtf8(documento.readAll());
+    const QString righe = testo.section(u"```sql\n"_s, 1, 1).section(u"```"_s, 0, 0);
+    ASSERT_FALSE(righe.isEmpty());
+    mBase.esegui(righe);
+
+    ASSERT_EQ(rifiuto(u"insert into giace00f (GIFILI, GINRLV, GIANLV, GINRGI, GIANGI, GIDTBF, GIIMGI) values "
+                      "('01', '1', 2026, '7', 2026, '2026-03-01', 50)"_s),
+              0);
+    ASSERT_EQ(rifiuto(u"update giace00f set GIDTBF=null, GIIMGI=0"_s), 0);
+    const QString utente = chiSono();
+    EXPECT_EQ(mBase.righe(u"select GINRGI, GIANGI, GIDTBF, GIIMGI, chi from giace_storia"_s),
+              (QList<QStringList>{{u"7"_s, u"2026"_s, u"2026-03-01"_s, u"50.00"_s, utente}}));
+    EXPECT_EQ(rifiuto(u"delete from giace_storia"_s), tabellaNegata);
+    EXPECT_EQ(rifiuto(u"update giace_storia set chi='nessuno'"_s), tabellaNegata);
+    EXPECT_EQ(rifiuto(u"select * from giace_storia"_s), tabellaNegata);
+    EXPECT_EQ(rifiuto(u"drop trigger giace_storia"_s), tabellaNegata);
 }
 
 } // namespace
