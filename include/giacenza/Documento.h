@@ -74,6 +74,10 @@ public:
 
     /// A value of the settings file, section "DLLStampe"; empty when absent.
     virtual QString impostazione(const QString& chiave) const = 0;
+
+    /// For the module to say which file it left, so that the operator can open it from the screen.
+    /// percorso: absolute.
+    virtual void archiviato(const QString& percorso) = 0;
 };
 
 /// A print module that prints the component's own documents. The component hands the source over after

@@ -58,6 +58,7 @@ void ModuloDeposito::stampaDocumento(const QString& chiave, bool& nonProdotto)
     const bool buonFine = mRichiesta.tipo == TipoDocumento::buonFine;
     const QString percorso =
         archivia(mFonte->cartellaDocumenti(), buonFine ? chiave + u"_buonfine"_s : chiave, *byte);
+    mFonte->archiviato(percorso);
     try {
         consegna(*documento, mFonte->impostazione(u"Modalita"_s), mPadre);
     } catch (const Errore& errore) {

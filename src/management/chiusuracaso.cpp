@@ -4,7 +4,7 @@
 #include "base/orologio.h"
 #include "reports/letters/costibuonfine.h"
 #include "screens/stampa.h"
-#include "screens/stampacaso.h"
+
 #include "ui_frmGestGia.h"
 
 using namespace Qt::StringLiterals;
@@ -30,9 +30,11 @@ void ChiusuraCaso::ChiudiGiacenza()
     CalcolaCostiGiacenza();
     if (mUi.optCostiNo->isChecked())
         NascondiCostiBuonFine();
-    stampaCaso(mSchermata, TipoDocumento::buonFine, *caso, leggiDidascalie(),
-               {u"Giacenza %1 chiusa, documento di buon fine prodotto."_s,
-                u"Il documento di buon fine non è stato stampato; la giacenza resta chiusa."_s});
+    mParti.stampa.stampa(
+        TipoDocumento::buonFine, *caso, leggiDidascalie(),
+        {u"Giacenza %1 chiusa, documento di buon fine prodotto. Si può ristampare l'avviso e ripetere la "
+         "chiusura, con o senza i costi."_s,
+         u"Il documento di buon fine non è stato stampato; la giacenza resta chiusa."_s});
 }
 
 void ChiusuraCaso::scrivi(const ChiaveGiacenza& caso)

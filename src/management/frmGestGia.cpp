@@ -11,17 +11,15 @@ namespace giacenza {
 frmGestGia::frmGestGia()
     : Schermata(u"frmGestGia"_s), mUi(creaForma<Ui::frmGestGia>(this)),
       mParti(*this, ControlliComuni::di(*mUi), mappaGestione(),
-             {.rigaMostrata =
-                  [this](const Recordset& riga) {
-                      mAvvisi = riga.valore(u"GINRAV"_s).value_or(QString());
-                      mostraStatoCaso();
-                  }}),
+             {.rigaMostrata = [this](const Recordset& riga) { rigaMostrata(riga); },
+              .avvertenzaFiliale = mUi->lblAvvFilialeGia}),
       mRichiamo(*this, *mUi, mParti,
                 [this] {
                     mAvvisi.clear();
+                    mUi->lblClienteCaso->clear();
                     mostraStatoCaso();
                 }),
-      mAvviso(*this, mParti.caso, mUi->lblDataAvviso,
+      mAvviso(*this, mParti, mUi->lblDataAvviso,
               {.chiave = [](const ChiaveGiacenza& caso) { return caso; },
                .ammesso = [this] { return avvisoAmmesso(); },
                .contato =
@@ -77,8 +75,28 @@ void frmGestGia::emettiAvviso()
     });
     if (riga.isEmpty())
         return;
-    scrivi(mUi->txtDescGia, testo(mUi->txtDescGia) + riga);
-    mAvviso.EmettiAvvisoGiacenza(false, testo(mUi->txtDescGia));
+    const QString prima = testo(mUi->txtDescGia);
+    scrivi(mUi->txtDescGia, prima + riga);
+    try {
+        mAvviso.EmettiAvvisoGiacenza(false, testo(mUi->txtDescGia));
+    } catch (const std::exception&) {
+        // Nothing was written: the next try would lengthen the description once more.
+        scrivi(mUi->txtDescGia, prima);
+        throw;
+    }
+}
+
+void frmGestGia::rigaMostrata(const Recordset& riga)
+{
+    mAvvisi = riga.valore(u"GINRAV"_s).value_or(QString());
+    mostraStatoCaso();
+    const QString codice = riga.valore(u"GICODI"_s).value_or(QString());
+    // The name is shown where it is known already: it is worth no statement.
+    const bool noto = !codice.isEmpty() && codice == mParti.cliente.codice().trimmed();
+    mUi->lblClienteCaso->setText(
+        codice.isEmpty()
+            ? QString()
+            : u"Cliente %1 %2"_s.arg(codice, noto ? mParti.cliente.ragioneSociale() : QString()).trimmed());
 }
 
 bool frmGestGia::avvisoAmmesso()

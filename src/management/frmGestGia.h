@@ -28,6 +28,7 @@ private:
     void collega();
     void emettiAvviso();
     bool avvisoAmmesso();
+    void rigaMostrata(const Recordset& riga);
     /// How many notices the case has, and whether it is closed, in words.
     void mostraStatoCaso();
 

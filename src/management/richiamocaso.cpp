@@ -135,7 +135,7 @@ void RichiamoCaso::richiamaPerCliente()
     // A shortcut moves no focus: a customer code that was just typed is checked first.
     if (const Seguito seguito = mSchermata.convalida().verificaCorrente())
         return seguito();
-    const auto scelta = mElenco.giacenze(u"Ricerca giacenze del cliente"_s, u"Giacenza"_s);
+    const auto scelta = mElenco.giacenze();
     if (!scelta || mostra(istruzioni::spedizionePerNumeroData(scelta->numero, scelta->giorno,
                                                               istruzioni::Giunzione::interna)))
         return;

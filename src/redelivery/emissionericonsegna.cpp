@@ -89,8 +89,10 @@ std::optional<ContoRiconsegne> EmissioneRiconsegna::contaGiacenza()
 {
     const auto giorno = mParti.dataGiacenza.giorno();
     // Without a date there is no year to look for, so there is no such held shipment.
-    if (!giorno)
+    if (!giorno) {
+        mSchermata.stato(u"Manca la data della giacenza."_s);
         return ContoRiconsegne{EsitoRiconsegne::inesistente};
+    }
     try {
         return ContaRiconsegne(mSchermata.connessione(), {mParti.caso.numero(), giorno->year()});
     } catch (const Errore& errore) {
@@ -149,7 +151,10 @@ void EmissioneRiconsegna::emetti(const LdvLetta& ldv, bool stampa, const Contest
             esito = errore.testo();
         }
     });
-    mSchermata.stato(esito);
+    mSchermata.stato(esito.isEmpty()
+                         ? u"Nessuna lettera di vettura è stata emessa. Per riprovare uscire e riaprire "
+                           "questa schermata."_s
+                         : esito);
 }
 
 } // namespace giacenza

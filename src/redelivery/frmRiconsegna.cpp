@@ -95,7 +95,7 @@ void frmRiconsegna::cercaNellElenco(const ChiaveRicerca& chiave)
 
 void frmRiconsegna::cercaGiacenza()
 {
-    if (const auto scelta = mElenco.giacenze(u"Ricerca Giacenze"_s, u"Num. LDV"_s))
+    if (const auto scelta = mElenco.giacenze())
         mostra(scelta->numero, scelta->giorno);
 }
 

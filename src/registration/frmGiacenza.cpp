@@ -16,9 +16,12 @@ namespace giacenza {
 frmGiacenza::frmGiacenza()
     : Schermata(u"frmGiacenza"_s), mUi(creaForma<Ui::frmGiacenza>(this)),
       mParti(*this, ControlliComuni::di(*mUi), mappaRegistrazione(),
-             {.cliente = {.cercato = [this] { mUi->cmdData->setEnabled(false); }}}),
+             {.cliente = {.cercato = [this] { mUi->cmdData->setEnabled(false); }},
+              .rigaMostrata = [this](const Recordset& riga) { mRicerca.rigaMostrata(riga); },
+              .avvertenzaFiliale = mUi->lblAvvFilialeGia,
+              .avvertenzaData = mUi->lblAvvDataGia}),
       mRicerca(*this, *mUi, mParti),
-      mAvviso(*this, mParti.caso, mUi->lblDataAvviso,
+      mAvviso(*this, mParti, mUi->lblDataAvviso,
               {.chiave = [this](const ChiaveGiacenza&) { return chiaveAvviso(); }}),
       mSalvataggio(*this, *mUi, mParti, mRicerca, mAvviso)
 {
@@ -78,6 +81,10 @@ void frmGiacenza::eseguiConsegna()
     const Seguito rifiuto = mParti.cliente.imposta(mCodiceCliente);
     if (rifiuto)
         durante(rifiuto);
+    // Without a customer there is nothing to look up in; one that is unknown was told, and the waybill says
+    // whose it is.
+    if (!eNumero(mCodiceCliente))
+        return;
     scrivi(mUi->txtLDV, mNLettVett);
     scrivi(mUi->txtDataLdv, dataBreve(*giorno));
     scrivi(mUi->txtFiliale, mFiliale);
@@ -109,7 +116,7 @@ ChiaveCaso frmGiacenza::chiaveAvviso() const
     const auto giorno = leggiData(testo(mUi->txtDataLdv));
     if (!giorno)
         throw ErroreConversione(u"La data della lettera di vettura non è valida."_s);
-    return ChiaveSpedizione{mUi->txtFiliale->text(), numeroLdv(mUi->txtLDV), giorno->year()};
+    return ChiaveSpedizione{mUi->txtFiliale->text(), tag(mUi->txtLDV), giorno->year()};
 }
 
 } // namespace giacenza

@@ -2,6 +2,7 @@
 
 #include "screens/elencospedizioni.h"
 #include "screens/particomuni.h"
+#include "screens/ripristino.h"
 
 namespace Ui {
 class frmGiacenza;
@@ -20,6 +21,12 @@ public:
     /// Looks up what stands in number, date and branch.
     void perNumero() { ricerca(mNumero); }
 
+    /// The row that the screen was just filled from.
+    void rigaMostrata(const Recordset& riga);
+
+    /// Whose the waybill on the screen is, in words, when it is another customer's; else empty.
+    QString diAltroCliente() const;
+
     /// The visible mark of a waybill that is held already.
     void segnaGiacenza(bool giacente);
 
@@ -29,8 +36,10 @@ private:
     Seguito lascia(ChiaveRicerca& chiave);
     void ricerca(ChiaveRicerca& chiave);
     void ricercaDiretta(const ChiaveRicerca& chiave, QDate giorno);
-    void RicercaSpedizione(const ChiaveRicerca& chiave);
+    void RicercaSpedizione(ChiaveRicerca& chiave);
     void cercate();
+    Seguito lasciaFiliale();
+    void avvertiMotivo();
     void mostra(const QString& istruzione, const QString& nonTrovata);
 
     Schermata& mSchermata;
@@ -39,6 +48,12 @@ private:
     ElencoSpedizioni mElenco;
     ChiaveRicerca mNumero;
     ChiaveRicerca mRiferimento;
+    /// What a search waits for the branch with; null when none does.
+    ChiaveRicerca* mSenzaFiliale = nullptr;
+    Avvertenza mMotivo;
+    Ripristino* mMotivoDigitato;
+    Ripristino* mFilialeDigitata;
+    bool mGiacente = false;
 };
 
 } // namespace giacenza

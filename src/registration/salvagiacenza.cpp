@@ -9,10 +9,13 @@ namespace giacenza {
 
 namespace {
 
-QDate giornoDi(const QString& testo)
+/// manca: what is said of an empty one.
+QDate giornoDi(const QString& testo, const QString& manca = {})
 {
     if (const auto giorno = leggiData(testo))
         return *giorno;
+    if (testo.isEmpty() && !manca.isEmpty())
+        throw ErroreConversione(manca);
     throw ErroreConversione(u"Manca una data, o non è valida: \"%1\"."_s.arg(testo));
 }
 
@@ -36,6 +39,8 @@ void SalvaGiacenza::salva()
     if (mParti.cliente.codice().isEmpty() || testo(mUi.txtRifMitt).isEmpty())
         return mSchermata.stato(
             u"Niente da salvare: mancano il cliente o una spedizione con il suo riferimento."_s);
+    if (mParti.dataGiacenza.rifiutata())
+        return;
     mParti.dataGiacenza.CalcolaGiorniSosta();
     Ammissione ammissione{};
     try {
@@ -85,7 +90,7 @@ DatiGiacenza SalvaGiacenza::dati() const
         .imponibile = imponibile.isEmpty() ? std::nullopt : std::optional(Decimale(imponibile)),
         .giacenzaPrecedente = testo(mUi.txtGiaOld),
         .dataPrecedente = giornoSePresente(testo(mUi.txtDataGiaOld)),
-        .dataGiacenza = giornoDi(testo(mUi.txtDataGia)),
+        .dataGiacenza = giornoDi(testo(mUi.txtDataGia), u"Manca la data della giacenza."_s),
         .motivo = testo(mUi.txtDescGia),
     };
 }
@@ -101,8 +106,12 @@ void SalvaGiacenza::inserisci()
         return;
     }
     mRicerca.segnaGiacenza(true);
+    const QString altrui = mRicerca.diAltroCliente();
+    mSchermata.stato(altrui);
     mSchermata.messaggio(u"Giacenza aggiunta in database."_s, Stile::informazione);
     avvisa();
+    if (!altrui.isEmpty())
+        mSchermata.stato(altrui + u". "_s + mUi.lblStato->text());
 }
 
 void SalvaGiacenza::avvisa()

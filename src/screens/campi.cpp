@@ -92,6 +92,11 @@ bool eAvanzo(const QWidget* controllo)
     return controllo->property(proprietaAvanzo).toBool();
 }
 
+bool eRiempito(const QWidget* controllo)
+{
+    return controllo->property(proprietaRiempito).toBool();
+}
+
 QString numeroLdv(const QLineEdit* campo)
 {
     return campo->text().isEmpty() ? tag(campo) : campo->text();
@@ -102,12 +107,18 @@ QString tag(const QLineEdit* campo)
     return campo->property(proprietaTag).toString();
 }
 
-CampiSchermata::CampiSchermata(QWidget* schermata, const MappaSpedizione& mappa)
-    : QObject(schermata), mSchermata(schermata)
+CampiSchermata::CampiSchermata(QWidget* schermata, const MappaSpedizione& mappa) : QObject(schermata)
 {
-    for (const PassoSpedizione& passo : mappa)
-        if (*passo.controllo)
-            osserva(controllo(QLatin1String(passo.controllo)));
+    for (const PassoSpedizione& passo : mappa) {
+        const QLatin1String nome(passo.controllo);
+        if (nome.isEmpty() || mControlli.contains(nome))
+            continue;
+        auto* trovato = schermata->findChild<QWidget*>(nome);
+        if (!trovato)
+            throw std::logic_error("no control of the name " + std::string(nome.data(), nome.size()));
+        mControlli.insert(nome, trovato);
+        osserva(trovato);
+    }
 }
 
 void CampiSchermata::osserva(QWidget* controllo)
@@ -154,7 +165,7 @@ void CampiSchermata::lascia(QLatin1String nome)
     if (nome.isEmpty())
         return;
     QWidget* dove = controllo(nome);
-    if (dove->property(proprietaRiempito).toBool() && !testoMostrato(dove).isEmpty())
+    if (eRiempito(dove) && !testoMostrato(dove).isEmpty())
         segnaAvanzo(dove, true);
 }
 
@@ -165,9 +176,10 @@ void CampiSchermata::giaInGiacenza(bool giacente)
 
 QWidget* CampiSchermata::controllo(QLatin1String nome) const
 {
-    auto* trovato = mSchermata->findChild<QWidget*>(nome);
+    QWidget* trovato = mControlli.value(nome);
     if (!trovato)
-        throw std::logic_error("no control of the name " + std::string(nome.data(), nome.size()));
+        throw std::logic_error("the mapping has no control of the name " +
+                               std::string(nome.data(), nome.size()));
     return trovato;
 }
 

@@ -2,7 +2,7 @@
 
 #include "screens/spedizione.h"
 
-#include <QPointer>
+#include <QHash>
 #include <QWidget>
 
 class QLineEdit;
@@ -24,6 +24,8 @@ void scrivi(QWidget* controllo, const QString& testo);
 /// Draws a control anew after one of its properties, on which its looks depend, has changed.
 void rinnovaAspetto(QWidget* controllo);
 bool eAvanzo(const QWidget* controllo);
+/// Whether a row gave the control what it shows.
+bool eRiempito(const QWidget* controllo);
 
 /// The number of the waybill field: its text if there is one, else the number found, kept in its tag.
 QString numeroLdv(const QLineEdit* campo);
@@ -53,7 +55,7 @@ private:
     QWidget* controllo(QLatin1String nome) const;
     void osserva(QWidget* controllo);
 
-    QWidget* mSchermata;
+    QHash<QLatin1String, QWidget*> mControlli; ///< of the mapping, resolved once
 };
 
 } // namespace giacenza

@@ -16,12 +16,30 @@ using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
-CampoFiliale::CampoFiliale(Schermata& schermata, QLineEdit* codice, QLabel* barra)
-    : mSchermata(schermata), mCodice(codice), mBarra(barra)
+CampoFiliale::CampoFiliale(Schermata& schermata, QLineEdit* codice, QLabel* barra, QLabel* avvertenza)
+    : mSchermata(schermata), mCodice(codice), mBarra(barra), mConAvvertenza(avvertenza),
+      mAvvertenza(codice, avvertenza)
 {
     suTasto(codice, Qt::Key_F12, schermata.gestore([this] { cerca(); }));
     // The name belongs to the code that was there.
     QObject::connect(codice, &QLineEdit::textEdited, &schermata, [this] { scrivi(mBarra, {}); });
+    // A code half typed is no wrong one yet; a row, or a lookup that clears it, is told at once.
+    QObject::connect(codice, &QLineEdit::editingFinished, &schermata, [this] { avverti(); });
+    QObject::connect(codice, &QLineEdit::textChanged, &schermata, [this] {
+        if (!mCodice->hasFocus() || testo(mCodice).isEmpty())
+            avverti();
+    });
+}
+
+void CampoFiliale::leggiFiliali()
+{
+    if (mConAvvertenza)
+        mFiliali.leggi(mSchermata.connessione());
+}
+
+void CampoFiliale::avverti()
+{
+    mAvvertenza.mostra(mFiliali.sconosciuta(testo(mCodice).trimmed()) ? u"filiale sconosciuta"_s : QString());
 }
 
 void CampoFiliale::cerca()

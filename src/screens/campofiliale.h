@@ -1,5 +1,7 @@
 #pragma once
 
+#include "screens/avvertenza.h"
+#include "screens/filiali.h"
 #include "screens/schermata.h"
 
 class QLineEdit;
@@ -10,17 +12,25 @@ namespace giacenza {
 class CampoFiliale
 {
 public:
-    CampoFiliale(Schermata& schermata, QLineEdit* codice, QLabel* barra);
+    /// avvertenza: where it says that the code is no branch's; null on a screen that does not.
+    CampoFiliale(Schermata& schermata, QLineEdit* codice, QLabel* barra, QLabel* avvertenza);
+
+    /// Reads the branches for the hint, once, when the screen is loaded; nothing where no hint is given.
+    void leggiFiliali();
 
     /// Shows the name of the code that a row has filled in.
     void leggiNome();
 
 private:
     void cerca();
+    void avverti();
 
     Schermata& mSchermata;
     QLineEdit* mCodice;
     QLabel* mBarra;
+    bool mConAvvertenza;
+    Avvertenza mAvvertenza;
+    Filiali mFiliali;
 };
 
 } // namespace giacenza

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/avvertenza.h"
 #include "screens/schermata.h"
 
 #include <QDate>
@@ -19,6 +20,7 @@ public:
         CampoData* data;
         QLabel* dataBuonFine;
         QLabel* giorniSosta;
+        QLabel* avvertenza; ///< null on a screen that gives no hint about the date
     };
 
     DataGiacenza(Schermata& schermata, const Controlli& controlli);
@@ -29,11 +31,19 @@ public:
     /// Writes the storage days into their bar: nothing when the field holds no date.
     void CalcolaGiorniSosta();
 
+    /// Whether the field holds no date though something stands in it; the message was then shown.
+    bool rifiutata();
+
+    /// Today in the place of a date that is a left-over of another held shipment.
+    void sostituisciAvanzo();
+
 private:
     Seguito convalida();
+    void avverti();
 
     Schermata& mSchermata;
     Controlli mControlli;
+    Avvertenza mAvvertenza;
 };
 
 } // namespace giacenza

@@ -54,9 +54,9 @@ std::optional<SpedizioneScelta> ElencoSpedizioni::RicercaSpedizione(const Chiave
                  .annoOData = chiave.data()});
 }
 
-std::optional<SpedizioneScelta> ElencoSpedizioni::giacenze(const QString& titolo, const QString& etichetta)
+std::optional<SpedizioneScelta> ElencoSpedizioni::giacenze()
 {
-    return apri({.modo = ModoRicerca::giacenze, .titolo = titolo, .etichetta = etichetta});
+    return apri({.modo = ModoRicerca::giacenze, .titolo = u"Ricerca Giacenze"_s, .etichetta = u"Num. LDV"_s});
 }
 
 void ElencoSpedizioni::riconsegne(const ChiaveGiacenza& caso)

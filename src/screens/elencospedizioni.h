@@ -29,7 +29,7 @@ public:
     /// choice.
     std::optional<SpedizioneScelta> RicercaSpedizione(const ChiaveRicerca& chiave);
     /// Opens it on the customer's held shipments.
-    std::optional<SpedizioneScelta> giacenze(const QString& titolo, const QString& etichetta);
+    std::optional<SpedizioneScelta> giacenze();
     /// Opens it on the waybills that re-deliver a held shipment, only to be looked at.
     void riconsegne(const ChiaveGiacenza& caso);
 

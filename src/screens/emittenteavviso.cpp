@@ -6,7 +6,6 @@
 #include "database/valori.h"
 #include "screens/campi.h"
 #include "screens/stampa.h"
-#include "screens/stampacaso.h"
 
 #include <QLabel>
 
@@ -14,26 +13,34 @@ using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
-EmittenteAvviso::EmittenteAvviso(Schermata& schermata, const CasoMostrato& caso, QLabel* dataAvviso,
+namespace {
+
+const QString avvisoProdotto = u"Avviso di giacenza %1 prodotto."_s;
+
+} // namespace
+
+EmittenteAvviso::EmittenteAvviso(Schermata& schermata, PartiComuni& parti, QLabel* dataAvviso,
                                  Differenze differenze)
-    : mSchermata(schermata), mCaso(caso), mDataAvviso(dataAvviso), mDifferenze(std::move(differenze))
+    : mSchermata(schermata), mParti(parti), mDataAvviso(dataAvviso), mDifferenze(std::move(differenze))
 {}
 
 void EmittenteAvviso::EmettiAvvisoGiacenza(bool ristampa, const QString& descrizione)
 {
     const auto didascalie = leggiDidascalie();
-    const auto caso = mCaso.chiave();
-    if (!caso || (!ristampa && !conta(*caso, descrizione)))
+    const auto caso = mParti.caso.chiave();
+    if (!caso)
         return;
-    stampaCaso(mSchermata, TipoDocumento::avviso, *caso, didascalie,
-               {u"Avviso di giacenza %1 prodotto."_s,
-                u"L'avviso di giacenza non è stato stampato; la giacenza resta registrata."_s});
+    const auto detto = ristampa ? std::optional(avvisoProdotto) : conta(*caso, descrizione);
+    if (detto)
+        mParti.stampa.stampa(
+            TipoDocumento::avviso, *caso, didascalie,
+            {*detto, u"L'avviso di giacenza non è stato stampato; la giacenza resta registrata."_s});
 }
 
-bool EmittenteAvviso::conta(const ChiaveGiacenza& caso, const QString& descrizione)
+std::optional<QString> EmittenteAvviso::conta(const ChiaveGiacenza& caso, const QString& descrizione)
 {
     if (!mDifferenze.ammesso())
-        return false;
+        return std::nullopt;
     const QDate giorno = oggi();
     const auto numero = contaAvviso(mSchermata.connessione(), impostazioni().percorsoDatabase,
                                     mDifferenze.chiave(caso), giorno, descrizione);
@@ -41,7 +48,13 @@ bool EmittenteAvviso::conta(const ChiaveGiacenza& caso, const QString& descrizio
         scrivi(mDataAvviso, dataSql(giorno));
         mDifferenze.contato(*numero);
     }
-    return true;
+    QString detto =
+        numero ? avvisoProdotto : u"Avviso di giacenza %1 stampato, non contato: oggi lo era già."_s;
+    // From the second notice on the description replaces the one in the database; before, it stays on the
+    // screen.
+    if (!descrizione.isEmpty() && numero.value_or(1) == 1)
+        detto += u" Il motivo scritto ora non è stato registrato."_s;
+    return detto;
 }
 
 } // namespace giacenza

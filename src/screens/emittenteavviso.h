@@ -1,6 +1,6 @@
 #pragma once
 
-#include "screens/casomostrato.h"
+#include "screens/particomuni.h"
 
 namespace giacenza {
 
@@ -19,8 +19,7 @@ public:
         std::function<void(int numero)> contato = [](int) {};
     };
 
-    EmittenteAvviso(Schermata& schermata, const CasoMostrato& caso, QLabel* dataAvviso,
-                    Differenze differenze);
+    EmittenteAvviso(Schermata& schermata, PartiComuni& parti, QLabel* dataAvviso, Differenze differenze);
 
     /// Issues the notice. One that was issued today is printed again without counting.
     ///
@@ -30,11 +29,12 @@ public:
     void EmettiAvvisoGiacenza(bool ristampa, const QString& descrizione = {});
 
 private:
-    /// False when the screen does not admit a notice.
-    bool conta(const ChiaveGiacenza& caso, const QString& descrizione);
+    /// Counts the notice. Gives what is to be said once it was printed; nothing when the screen does not
+    /// admit one.
+    std::optional<QString> conta(const ChiaveGiacenza& caso, const QString& descrizione);
 
     Schermata& mSchermata;
-    const CasoMostrato& mCaso;
+    PartiComuni& mParti;
     QLabel* mDataAvviso;
     Differenze mDifferenze;
 };

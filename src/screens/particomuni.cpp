@@ -16,10 +16,10 @@ namespace giacenza {
 
 PartiComuni::PartiComuni(Schermata& schermata, const ControlliComuni& c, const MappaSpedizione& mappa,
                          const Differenze& differenze)
-    : mSchermata(schermata), mControlli(c),
+    : mSchermata(schermata), mControlli(c), stampa(schermata),
       cliente(schermata, {c.txtCodiceCli, c.barCliente, c.cmdCercaCliente}, differenze.cliente),
-      filialeGiacenza(schermata, c.txtFilialeGia, c.barFilialeGia),
-      dataGiacenza(schermata, {c.txtDataGia, c.lblDataBuonFine, c.barGiorniSosta}),
+      filialeGiacenza(schermata, c.txtFilialeGia, c.barFilialeGia, differenze.avvertenzaFiliale),
+      dataGiacenza(schermata, {c.txtDataGia, c.lblDataBuonFine, c.barGiorniSosta, differenze.avvertenzaData}),
       caso(schermata, c.lblNrGia, dataGiacenza),
       spedizione(schermata, mappa, filialeGiacenza, dataGiacenza, differenze.rigaMostrata)
 {
@@ -40,6 +40,7 @@ void PartiComuni::riempi()
     } catch (const ErroreDatabase& errore) {
         mSchermata.stato(u"I termini di porto non si leggono: %1"_s.arg(errore.testo()));
     }
+    filialeGiacenza.leggiFiliali();
     oggiNelleDate();
 }
 

@@ -3,6 +3,7 @@
 #include "screens/campocliente.h"
 #include "screens/casomostrato.h"
 #include "screens/spedizionemostrata.h"
+#include "screens/stampacaso.h"
 
 class QComboBox;
 
@@ -45,6 +46,8 @@ public:
     {
         CampoCliente::Differenze cliente = {};
         std::function<void(const Recordset&)> rigaMostrata = {};
+        QLabel* avvertenzaFiliale = nullptr;
+        QLabel* avvertenzaData = nullptr;
     };
 
     PartiComuni(Schermata& schermata, const ControlliComuni& controlli, const MappaSpedizione& mappa,
@@ -60,6 +63,7 @@ private:
     ControlliComuni mControlli;
 
 public:
+    StampaCaso stampa;
     CampoCliente cliente;
     CampoFiliale filialeGiacenza;
     DataGiacenza dataGiacenza;

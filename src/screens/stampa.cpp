@@ -36,8 +36,8 @@ private:
     QPointer<QWidget> mSchermata;
 };
 
-std::optional<QString> guida(ModuloStampa& modulo, QWidget* schermata, TipoDocumento tipo,
-                             const QString& chiave, const std::array<QString, 4>& didascalie)
+EsitoStampa guida(ModuloStampa& modulo, QWidget* schermata, TipoDocumento tipo, const QString& chiave,
+                  const std::array<QString, 4>& didascalie)
 {
     collegaFonte(modulo, schermata);
     modulo.setPercorsoDatabase(impostazioni().percorsoDatabase);
@@ -48,8 +48,8 @@ std::optional<QString> guida(ModuloStampa& modulo, QWidget* schermata, TipoDocum
     bool nonProdotto = false;
     modulo.stampaDocumento(chiave, nonProdotto);
     if (nonProdotto)
-        return u"Il modulo di stampa non ha prodotto il documento."_s;
-    return std::nullopt;
+        return {.raccontato = true, .motivo = u"Il modulo di stampa non ha prodotto il documento."_s};
+    return {.prodotto = true, .file = documentoArchiviato()};
 }
 
 } // namespace
@@ -62,18 +62,18 @@ std::array<QString, 4> leggiDidascalie()
     return didascalie;
 }
 
-std::optional<QString> stampaDocumento(QWidget* schermata, TipoDocumento tipo, const QString& chiave,
-                                       const std::array<QString, 4>& didascalie)
+EsitoStampa stampaDocumento(QWidget* schermata, TipoDocumento tipo, const QString& chiave,
+                            const std::array<QString, 4>& didascalie)
 {
     const SottoLeAltre sotto(schermata);
     const Attesa attesa;
     try {
         const auto modulo = CaricaModuloStampa();
         if (!modulo.parte)
-            return modulo.motivo;
+            return {.motivo = modulo.motivo};
         return guida(*modulo.parte, schermata, tipo, chiave, didascalie);
     } catch (...) {
-        return testoErrore();
+        return {.motivo = testoErrore()};
     }
 }
 

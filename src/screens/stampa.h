@@ -2,11 +2,18 @@
 
 #include <giacenza/ModuloStampa.h>
 
-#include <optional>
-
 class QWidget;
 
 namespace giacenza {
+
+/// How the print module fared with a document.
+struct EsitoStampa
+{
+    bool prodotto = false;
+    bool raccontato = false; ///< the module has told the operator itself why there is none
+    QString motivo = {};     ///< why there is none, in Italian
+    QString file = {};       ///< where it lies, absolute; empty when the module does not say
+};
 
 /// The captions of the notice's four labels, from the settings file (section "Bord", "CaptionLbl1" to
 /// "CaptionLbl4").
@@ -15,8 +22,8 @@ std::array<QString, 4> leggiDidascalie();
 /// Has the print module produce a document, with the screen out of the always-on-top state meanwhile.
 ///
 /// schermata: the screen, may be destroyed while the module's dialogs are open; chiave: held-shipment number
-/// + "_" + year. Gives nothing when the document was produced, else why it was not, in Italian. Never throws.
-std::optional<QString> stampaDocumento(QWidget* schermata, TipoDocumento tipo, const QString& chiave,
-                                       const std::array<QString, 4>& didascalie);
+/// + "_" + year. Never throws.
+EsitoStampa stampaDocumento(QWidget* schermata, TipoDocumento tipo, const QString& chiave,
+                            const std::array<QString, 4>& didascalie);
 
 } // namespace giacenza

@@ -14,8 +14,21 @@ struct TestiStampa
     QString nonProdotto;
 };
 
-/// Has a document of a held shipment printed, and tells how that went.
-void stampaCaso(Schermata& schermata, TipoDocumento tipo, const ChiaveGiacenza& caso,
-                const std::array<QString, 4>& didascalie, const TestiStampa& testi);
+/// Has the documents of held shipments printed, and tells how that went. Ctrl+O opens the one printed last,
+/// where the print module said which file it left.
+class StampaCaso
+{
+public:
+    explicit StampaCaso(Schermata& schermata);
+
+    void stampa(TipoDocumento tipo, const ChiaveGiacenza& caso, const std::array<QString, 4>& didascalie,
+                const TestiStampa& testi);
+
+private:
+    void apri();
+
+    Schermata& mSchermata;
+    QString mFile;
+};
 
 } // namespace giacenza

@@ -6,9 +6,9 @@
 
 namespace giacenza {
 
-void suTasto(QWidget* campo, int tasto, std::function<void()> azione)
+void suTasto(QWidget* campo, const QKeySequence& tasto, std::function<void()> azione)
 {
-    auto* scorciatoia = new QShortcut(QKeySequence(tasto), campo);
+    auto* scorciatoia = new QShortcut(tasto, campo);
     // An editable list gives the focus to its inner line: the children count as the field.
     scorciatoia->setContext(Qt::WidgetWithChildrenShortcut);
     QObject::connect(scorciatoia, &QShortcut::activated, campo, std::move(azione));

@@ -1,13 +1,14 @@
 #pragma once
 
+#include <QKeySequence>
+
 #include <functional>
 
 class QWidget;
 
 namespace giacenza {
 
-/// Runs an action when a key is pressed, without modifiers, in a field that has the focus.
-/// tasto: a Qt::Key value.
-void suTasto(QWidget* campo, int tasto, std::function<void()> azione);
+/// Runs an action when a key, with just the modifiers given, is pressed in a field that has the focus.
+void suTasto(QWidget* campo, const QKeySequence& tasto, std::function<void()> azione);
 
 } // namespace giacenza

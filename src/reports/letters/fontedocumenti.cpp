@@ -19,7 +19,12 @@ namespace {
 class FonteReport : public FonteDocumenti
 {
 public:
-    void setPadre(QWidget* padre) { mPadre = padre; }
+    void setPadre(QWidget* padre)
+    {
+        mPadre = padre;
+        mArchiviato.clear();
+    }
+    const QString& documentoArchiviato() const { return mArchiviato; }
 
     std::unique_ptr<Documento> documento(const RichiestaDocumento& richiesta) override
     {
@@ -39,18 +44,32 @@ public:
 
     QString impostazione(const QString& chiave) const override { return LeggiIni(u"DLLStampe"_s, chiave); }
 
+    void archiviato(const QString& percorso) override { mArchiviato = percorso; }
+
 private:
     QPointer<QWidget> mPadre;
+    QString mArchiviato;
 };
+
+FonteReport& fonteDelThread()
+{
+    thread_local FonteReport fonte;
+    return fonte;
+}
 
 } // namespace
 
 void collegaFonte(ModuloStampa& modulo, QWidget* padre)
 {
-    thread_local FonteReport fonte;
+    FonteReport& fonte = fonteDelThread();
     fonte.setPadre(padre);
     if (auto* conFonte = dynamic_cast<ModuloStampaConFonte*>(&modulo))
         conFonte->setFonte(&fonte, padre);
+}
+
+QString documentoArchiviato()
+{
+    return fonteDelThread().documentoArchiviato();
 }
 
 } // namespace giacenza

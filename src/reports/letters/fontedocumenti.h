@@ -10,4 +10,7 @@ namespace giacenza {
 /// padre: the window over which questions of a long print and the module's dialogs open; may be null.
 void collegaFonte(ModuloStampa& modulo, QWidget* padre);
 
+/// The file that the module connected last has left; empty when it said of none.
+QString documentoArchiviato();
+
 } // namespace giacenza
