@@ -85,7 +85,7 @@ QString EmittenteDeposito::emettiOLancia(const RecordLdv& ldv) const
     Connessione connessione;
     LdvEmessa emessa;
     try {
-        connessione.apri(mPercorsoDatabase);
+        connessione.apri({mPercorsoDatabase, mTraccia});
         emessa = emettiLdv(connessione, ldv, mContesto);
     } catch (const ErroreDatabase& errore) {
         throw Errore(u"La nuova lettera di vettura non è stata emessa: il database non ha accettato "

@@ -12,6 +12,9 @@ namespace giacenza::emissione {
 class EmittenteDeposito : public EmittenteLdv, public ParteConContesto
 {
 public:
+    /// traccia: told of what the issuer's own connection does; may be empty.
+    explicit EmittenteDeposito(Traccia traccia = {}) : mTraccia(std::move(traccia)) {}
+
     void setContesto(const Contesto& contesto) override { mContesto = contesto; }
     void setPercorsoDatabase(const QString& percorso) override { mPercorsoDatabase = percorso; }
     void setCartellaStampa(const QString& cartella) override { mCartellaStampa = cartella; }
@@ -25,6 +28,7 @@ private:
     QString stampaLdv(Connessione& connessione, const LdvEmessa& emessa) const;
     void controllaCartella() const;
 
+    Traccia mTraccia;
     Contesto mContesto;
     QString mPercorsoDatabase;
     QString mCartellaStampa;

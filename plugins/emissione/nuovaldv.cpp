@@ -1,6 +1,8 @@
 #include "emissione/nuovaldv.h"
 
 #include "data/riconsegne.h"
+#include "database/nuovariga.h"
+#include "database/recordset.h"
 #include "database/transazione.h"
 #include "database/valori.h"
 #include "reports/engine/formati.h"
@@ -128,7 +130,7 @@ QString note(const RecordLdv& originale, const Contesto& contesto)
     return origine.join(u", "_s) + (prima.isEmpty() ? QString() : u"\r\n"_s + prima);
 }
 
-void imposta(Recordset& riga, const QString& colonna, const Valore& valore)
+void imposta(NuovaRiga& riga, const QString& colonna, const Valore& valore)
 {
     if (valore)
         riga.imposta(colonna, valore);
@@ -138,9 +140,7 @@ void aggiungi(Connessione& connessione, const RecordLdv& originale, const Contes
               const LdvEmessa& chiave)
 {
     const Luogo dove = contesto.resoAMittente ? mittente(connessione, originale) : destinatario(originale);
-    Recordset nuova;
-    nuova.apriTabella(connessione, u"letve00f"_s);
-    nuova.aggiungi();
+    NuovaRiga nuova(connessione, u"letve00f"_s);
     nuova.imposta(u"lefili"_s, chiave.filiale);
     nuova.imposta(u"lenrlv"_s, chiave.numero);
     nuova.imposta(u"leanlv"_s, QString::number(chiave.anno));
@@ -163,7 +163,7 @@ void aggiungi(Connessione& connessione, const RecordLdv& originale, const Contes
         imposta(nuova, colonna, contesto.resoAMittente ? Valore(u"0"_s) : originale.valore(colonna));
     }
     nuova.imposta(u"lenote"_s, note(originale, contesto));
-    nuova.aggiorna();
+    nuova.aggiungi();
 }
 
 LdvEmessa inUnaTransazione(Connessione& connessione, const RecordLdv& originale, const Contesto& contesto,

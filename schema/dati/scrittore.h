@@ -1,6 +1,6 @@
 #pragma once
 
-#include "database/recordset.h"
+#include "database/comando.h"
 #include "schema/dati/tabelle.h"
 
 #include <optional>

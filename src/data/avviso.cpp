@@ -17,11 +17,11 @@ struct StatoAvviso
 };
 
 /// The count and the date of the last notice, empty for null; both empty when there is no such held shipment.
-StatoAvviso LeggiDatiAvviso(const QString& stringa, const ChiaveCaso& chiave)
+StatoAvviso LeggiDatiAvviso(const Accesso& accesso, const ChiaveCaso& chiave)
 {
     const QString istruzione = std::visit([](const auto& c) { return istruzioni::statoAvviso(c); }, chiave);
     Connessione connessione;
-    connessione.apri(stringa);
+    connessione.apri(accesso);
     Recordset stato;
     stato.apri(connessione, istruzione);
     if (stato.bof() || stato.eof())
@@ -46,10 +46,10 @@ QString istruzioneSuccessivo(const ChiaveCaso& chiave, qint16 numero, QDate oggi
 
 } // namespace
 
-std::optional<qint16> contaAvviso(Connessione& connessione, const QString& stringa, const ChiaveCaso& chiave,
+std::optional<qint16> contaAvviso(Connessione& connessione, const Accesso& accesso, const ChiaveCaso& chiave,
                                   QDate oggi, const QString& descrizione)
 {
-    const StatoAvviso stato = LeggiDatiAvviso(stringa, chiave);
+    const StatoAvviso stato = LeggiDatiAvviso(accesso, chiave);
     if (stato.numero.isEmpty()) {
         connessione.esegui(
             std::visit([&](const auto& c) { return istruzioni::primoAvviso(c, oggi); }, chiave));

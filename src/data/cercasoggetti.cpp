@@ -2,11 +2,11 @@
 
 namespace giacenza {
 
-void CercaSoggetti::cerca(const QString& stringaConnessione, const RichiestaSoggetti& richiesta)
+void CercaSoggetti::cerca(const Accesso& accesso, const RichiestaSoggetti& richiesta)
 {
     mRighe.chiudi();
     const QString istruzione = istruzioni::ricercaSoggetti(richiesta.tabella, richiesta.campo);
-    mConnessione.apri(stringaConnessione);
+    mConnessione.apri(accesso);
     Valore cercato = richiesta.testo.trimmed();
     if (richiesta.campo == CampoSoggetto::codice) {
         if (!soloCifre(*cercato))
@@ -30,7 +30,7 @@ std::vector<Soggetto> CercaSoggetti::leggi(int massimo)
 
 void CercaSoggetti::chiudi() noexcept
 {
-    ChiudiOggettiDB(&mRighe, &mConnessione, true, false);
+    ChiudiOggettiDB(&mRighe, &mConnessione, Rilascio::si, Mantieni::no);
 }
 
 } // namespace giacenza

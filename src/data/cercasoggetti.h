@@ -33,7 +33,7 @@ public:
     ///
     /// A code that is not made of digits finds nothing, without a statement: compared with a column of
     /// numbers, "1,5" would be read as 1. Throws ErroreDatabase; Errore for a table name that is none.
-    void cerca(const QString& stringaConnessione, const RichiestaSoggetti& richiesta);
+    void cerca(const Accesso& accesso, const RichiestaSoggetti& richiesta);
 
     /// The next rows in order of name, at most as many as asked for; fewer at the end, none behind it. Throws
     /// ErroreDatabase.

@@ -23,22 +23,21 @@ QString opposto(const QString& numero)
 
 } // namespace
 
-std::optional<QDate> LeggiDataBuonFine(const QString& stringa, const ChiaveCaso& chiave)
+std::optional<QDate> LeggiDataBuonFine(const Accesso& accesso, const ChiaveCaso& chiave)
 {
     const QString istruzione = std::visit([](const auto& c) { return istruzioni::dataBuonFine(c); }, chiave);
     Connessione connessione;
-    connessione.apri(stringa);
+    connessione.apri(accesso);
     Recordset caso;
     caso.apri(connessione, istruzione);
     return caso.eof() ? std::nullopt : leggiData(caso.valore(0).value_or(QString()));
 }
 
 std::optional<CondizioniSosta> leggiCondizioni(Connessione& connessione, const QString& numeroLdv,
-                                               const QuandoLdv& quando)
+                                               int annoLdv)
 {
     Recordset righe;
-    righe.apri(connessione,
-               std::visit([&](auto q) { return istruzioni::condizioniFatturazione(numeroLdv, q); }, quando));
+    righe.apri(connessione, istruzioni::condizioniFatturazione(numeroLdv, annoLdv));
     if (righe.eof())
         return std::nullopt;
     return CondizioniSosta{righe.valore(u"FADFGI"_s), righe.valore(u"FAFRGI"_s), righe.valore(u"FATGIG"_s),

@@ -5,13 +5,12 @@
 #include "database/valori.h"
 
 #include <optional>
-#include <variant>
 
 namespace giacenza {
 
 /// The closure date of a held shipment, read on a connection of its own: nothing when there is no such held
-/// shipment or it is open. stringa: the connection string. Throws ErroreDatabase.
-std::optional<QDate> LeggiDataBuonFine(const QString& stringa, const ChiaveCaso& chiave);
+/// shipment or it is open. Throws ErroreDatabase.
+std::optional<QDate> LeggiDataBuonFine(const Accesso& accesso, const ChiaveCaso& chiave);
 
 /// A customer's billing terms of storage, as the database has them; amounts in euro.
 struct CondizioniSosta
@@ -29,14 +28,10 @@ struct ImportiGiacenza
     Decimale sosta;
 };
 
-/// What a waybill's terms are found by beside its number: the management screen has its year, the
-/// registration screen its date.
-using QuandoLdv = std::variant<int, QDate>;
-
 /// The terms of the customer of a waybill; the first row when there are several, nothing when there is none.
 /// Throws ErroreDatabase.
 std::optional<CondizioniSosta> leggiCondizioni(Connessione& connessione, const QString& numeroLdv,
-                                               const QuandoLdv& quando);
+                                               int annoLdv);
 
 /// Works the charges out. giorni: the storage days as the screen shows them.
 ///

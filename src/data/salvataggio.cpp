@@ -2,6 +2,7 @@
 
 #include "data/istruzioni.h"
 #include "data/numerazione.h"
+#include "database/nuovariga.h"
 #include "database/recordset.h"
 #include "database/sql.h"
 #include "database/transazione.h"
@@ -64,20 +65,18 @@ Ammissione ControlloInserimento(Connessione& connessione, const QString& numeroL
     return contieneNumero(1) && contieneNumero(2) ? Ammissione::giaInGiacenza : Ammissione::ammessa;
 }
 
-QString InserisciGiacenza(Connessione& schermo, const QString& stringa, const DatiGiacenza& dati)
+QString InserisciGiacenza(Connessione& schermo, const Accesso& accesso, const DatiGiacenza& dati)
 {
     const Riga riga = componiRiga(dati);
     Connessione connessione;
-    connessione.apri(stringa);
+    connessione.apri(accesso);
     Transazione transazione(connessione);
-    Recordset giacenze;
-    giacenze.apriTabella(connessione, u"giace00f"_s);
-    giacenze.aggiungi();
+    NuovaRiga giacenza(connessione, u"giace00f"_s);
     for (const auto& [colonna, valore] : riga)
-        giacenze.imposta(colonna, valore);
+        giacenza.imposta(colonna, valore);
     const QString numero = ProssimoNumGiacenza(schermo);
-    giacenze.imposta(u"GINRGI"_s, numero);
-    giacenze.aggiorna();
+    giacenza.imposta(u"GINRGI"_s, numero);
+    giacenza.aggiungi();
     connessione.esegui(
         istruzioni::collegaGiacenza({numero, dati.dataGiacenza.year()}, dati.numeroLdv, dati.dataLdv.year()));
     transazione.conferma();

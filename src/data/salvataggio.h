@@ -44,8 +44,7 @@ struct DatiGiacenza
 /// both are in the database or neither.
 ///
 /// schermo: the screen's connection, on which the number is taken, outside the transaction: a failed save
-/// leaves a gap in the series. stringa: the connection string. Returns the number given. Throws
-/// ErroreDatabase.
-QString InserisciGiacenza(Connessione& schermo, const QString& stringa, const DatiGiacenza& dati);
+/// leaves a gap in the series. Returns the number given. Throws ErroreDatabase.
+QString InserisciGiacenza(Connessione& schermo, const Accesso& accesso, const DatiGiacenza& dati);
 
 } // namespace giacenza

@@ -1,6 +1,7 @@
 #include "database/connessione.h"
 
-#include "database/odbc.h"
+#include "database/collegamento.h"
+#include "database/istruzioneodbc.h"
 
 using namespace Qt::StringLiterals;
 
@@ -23,12 +24,12 @@ Connessione::~Connessione()
     chiudi();
 }
 
-void Connessione::apri(const QString& stringa, const Limiti& limiti)
+void Connessione::apri(const Accesso& accesso, const Limiti& limiti)
 {
     if (aperta())
         return;
     chiudi();
-    mCollegamento = std::make_shared<odbc::Collegamento>(stringa, limiti);
+    mCollegamento = std::make_shared<odbc::Collegamento>(accesso, limiti);
 }
 
 bool Connessione::aperta() const noexcept

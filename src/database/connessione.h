@@ -1,5 +1,7 @@
 #pragma once
 
+#include "database/accesso.h"
+
 #include <giacenza/Errore.h>
 
 #include <QString>
@@ -50,9 +52,9 @@ public:
     ~Connessione();
 
     /// Opens with a connection string. The driver gets it whole, with the limits added: the lock wait in
-    /// front, the network time-outs behind unless it names them. Throws ErroreDatabase. Does nothing when
-    /// open.
-    void apri(const QString& stringa, const Limiti& limiti = {});
+    /// front, the network time-outs behind unless it names them. The tracer, if any, is told of every event
+    /// of the connection from here to its end. Throws ErroreDatabase. Does nothing when open.
+    void apri(const Accesso& accesso, const Limiti& limiti = {});
     /// Also false after an answer that told that the server is gone: apri() then opens anew.
     bool aperta() const noexcept;
     /// Never fails; does nothing when closed.

@@ -1,6 +1,6 @@
-// The statement handle: running, binding, reading.
+#include "database/istruzioneodbc.h"
 
-#include "database/odbc.h"
+#include "database/collegamento.h"
 
 #include <algorithm>
 
@@ -14,17 +14,23 @@ Istruzione::Istruzione(std::shared_ptr<Collegamento> collegamento) : mCollegamen
         throw ErroreDatabase(u"08003"_s, 0, u"La connessione è chiusa."_s);
     verifica(SQLAllocHandle(SQL_HANDLE_STMT, mCollegamento->maniglia(), &mManiglia), SQL_HANDLE_DBC,
              mCollegamento->maniglia());
-    mCollegamento->mIstruzioni.push_back(this);
-    // The MariaDB driver answers "changed to no time-out", which is a success: there the session has its own.
-    controlla(SQLSetStmtAttr(mManiglia, SQL_ATTR_QUERY_TIMEOUT,
-                             valoreAttributo(static_cast<SQLULEN>(mCollegamento->limiti().comando)), 0));
+    try {
+        // The MariaDB driver answers "changed to no time-out", which is a success: there the session has its
+        // own.
+        controlla(SQLSetStmtAttr(mManiglia, SQL_ATTR_QUERY_TIMEOUT,
+                                 valoreAttributo(static_cast<SQLULEN>(mCollegamento->limiti().comando)), 0));
+        mCollegamento->aggiungiIstruzione(this); // last: it must never know of one that was not made
+    } catch (...) {
+        libera();
+        throw;
+    }
 }
 
 Istruzione::~Istruzione()
 {
     if (!mManiglia)
         return;
-    std::erase(mCollegamento->mIstruzioni, this);
+    mCollegamento->togliIstruzione(this);
     libera();
 }
 

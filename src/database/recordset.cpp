@@ -1,5 +1,6 @@
 #include "database/recordset.h"
 
+#include "database/collegamento.h"
 #include "database/righe.h"
 
 #include <algorithm>
@@ -15,15 +16,9 @@ public:
     std::shared_ptr<odbc::Collegamento> collegamento;
     QString istruzione;
     std::vector<QString> nomi;
-    std::unique_ptr<Righe> righe; // none for a table
-
-    QString tabella; // empty for the rows of a statement
-    bool nuova = false;
-    std::vector<std::pair<qsizetype, Valore>> impostati;
+    std::unique_ptr<Righe> righe;
 
     void apri(const QString& testo, Cursore cursore, std::span<const Valore> parametri);
-    void apriTabella();
-    void aggiorna();
     const odbc::Riga& corrente() const;
     qsizetype indice(const QString& nome) const;
     qsizetype indiceCerto(const QString& nome) const;
@@ -51,21 +46,9 @@ void Recordset::Interno::apri(const QString& testo, Cursore cursore, std::span<c
     righe = std::make_unique<Righe>(std::move(lettura), static_cast<int>(nomi.size()), cursore);
 }
 
-/// Only prepared and described: running the select would read the whole table on one database, and on the
-/// other take a snapshot that a write of the same transaction could no longer leave.
-void Recordset::Interno::apriTabella()
-{
-    istruzione = u"select * from "_s + tabella;
-    odbc::Istruzione descrizione(collegamento);
-    collegamento->esegui(EventoDati::istruzione, istruzione, [&] {
-        descrizione.prepara(istruzione);
-        nomi = descrizione.nomiColonne();
-    });
-}
-
 const odbc::Riga& Recordset::Interno::corrente() const
 {
-    if (!righe || righe->finite())
+    if (righe->finite())
         fallisci("02000", u"Non c'è un record corrente."_s);
     return righe->corrente();
 }
@@ -86,26 +69,6 @@ qsizetype Recordset::Interno::indiceCerto(const QString& nome) const
     return trovato;
 }
 
-void Recordset::Interno::aggiorna()
-{
-    if (!nuova || impostati.empty())
-        fallisci("HY010", u"Non c'è una nuova riga da scrivere."_s);
-    QStringList colonne;
-    QStringList segni;
-    std::vector<Valore> valori;
-    for (const auto& [colonna, valore] : impostati) {
-        colonne += nomi[static_cast<std::size_t>(colonna)];
-        segni += u"?"_s;
-        valori.push_back(valore);
-    }
-    odbc::Istruzione inserimento(collegamento);
-    inserimento.prepara(
-        u"insert into %1 (%2) values (%3)"_s.arg(tabella, colonne.join(u", "_s), segni.join(u", "_s)));
-    inserimento.eseguiPreparata(valori);
-    nuova = false;
-    impostati.clear();
-}
-
 Recordset::Recordset() = default;
 Recordset::Recordset(Recordset&&) noexcept = default;
 Recordset& Recordset::operator=(Recordset&&) noexcept = default;
@@ -118,16 +81,6 @@ void Recordset::apri(Connessione& connessione, const QString& istruzione, Cursor
     auto nuovo = std::make_unique<Interno>();
     nuovo->collegamento = connessione.collegamento();
     nuovo->apri(istruzione, cursore, parametri);
-    mInterno = std::move(nuovo);
-}
-
-void Recordset::apriTabella(Connessione& connessione, const QString& tabella)
-{
-    chiudi();
-    auto nuovo = std::make_unique<Interno>();
-    nuovo->collegamento = connessione.collegamento();
-    nuovo->tabella = tabella;
-    nuovo->apriTabella();
     mInterno = std::move(nuovo);
 }
 
@@ -150,33 +103,24 @@ Recordset::Interno& Recordset::interno() const
 
 bool Recordset::bof() const noexcept
 {
-    return !aperto() || !mInterno->righe || mInterno->righe->vuote();
+    return !aperto() || mInterno->righe->vuote();
 }
 
 bool Recordset::eof() const noexcept
 {
-    return !aperto() || !mInterno->righe || mInterno->righe->finite();
+    return !aperto() || mInterno->righe->finite();
 }
 
 void Recordset::primo()
 {
     Interno& i = interno();
-    if (i.righe && !i.righe->primo())
+    if (!i.righe->primo())
         i.fallisci("24000", u"Il recordset legge solo in avanti."_s);
 }
 
 void Recordset::successivo()
 {
-    Interno& i = interno();
-    if (i.righe)
-        i.righe->avanti();
-}
-
-void Recordset::ultimo()
-{
-    Interno& i = interno();
-    if (i.righe && !i.righe->ultimo())
-        i.fallisci("24000", u"Il recordset legge solo in avanti."_s);
+    interno().righe->avanti();
 }
 
 int Recordset::colonne() const noexcept
@@ -220,63 +164,12 @@ Valore Recordset::valore(const QString& nome) const
     return valore(static_cast<int>(interno().indiceCerto(nome)));
 }
 
-void Recordset::aggiungi()
-{
-    Interno& i = interno();
-    if (i.tabella.isEmpty())
-        i.fallisci("HY010", u"Il recordset non è aperto su una tabella."_s);
-    i.nuova = true;
-    i.impostati.clear();
-}
-
-void Recordset::imposta(const QString& colonna, const Valore& valore)
-{
-    Interno& i = interno();
-    if (!i.nuova)
-        i.fallisci("HY010", u"Non c'è una nuova riga da scrivere."_s);
-    const qsizetype quale = i.indiceCerto(colonna);
-    const auto gia = std::find_if(i.impostati.begin(), i.impostati.end(),
-                                  [quale](const auto& coppia) { return coppia.first == quale; });
-    if (gia == i.impostati.end())
-        i.impostati.emplace_back(quale, valore);
-    else
-        gia->second = valore;
-}
-
-void Recordset::aggiorna()
-{
-    interno().aggiorna();
-}
-
-class Comando::Interno
-{
-public:
-    explicit Interno(Connessione& connessione) : istruzione(connessione.collegamento()) {}
-    odbc::Istruzione istruzione;
-};
-
-Comando::Comando(Connessione& connessione, const QString& istruzione)
-    : mInterno(std::make_unique<Interno>(connessione))
-{
-    mInterno->istruzione.prepara(istruzione);
-}
-
-Comando::Comando(Comando&&) noexcept = default;
-Comando& Comando::operator=(Comando&&) noexcept = default;
-Comando::~Comando() = default;
-
-qint64 Comando::esegui(std::span<const Valore> parametri)
-{
-    mInterno->istruzione.eseguiPreparata(parametri);
-    return mInterno->istruzione.finisci();
-}
-
-void ChiudiOggettiDB(Recordset* recordset, Connessione* connessione, bool rilascia,
-                     bool mantieniConnessione) noexcept
+void ChiudiOggettiDB(Recordset* recordset, Connessione* connessione, Rilascio rilascio,
+                     Mantieni connessioneAperta) noexcept
 {
     if (recordset)
         recordset->chiudi();
-    if (connessione && (rilascia || !mantieniConnessione))
+    if (connessione && (rilascio == Rilascio::si || connessioneAperta == Mantieni::no))
         connessione->chiudi();
 }
 

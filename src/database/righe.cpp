@@ -1,5 +1,7 @@
 #include "database/righe.h"
 
+#include "database/collegamento.h"
+
 #include <utility>
 
 namespace giacenza {
@@ -74,27 +76,12 @@ void Righe::avanti()
         mRighe.pop_front();
 }
 
-bool Righe::tornareSiPuo() const noexcept
-{
-    return mCursore == Recordset::Cursore::chiave || mVuote || (mPosizione == 0 && !mFinite);
-}
-
 bool Righe::primo()
 {
-    if (!tornareSiPuo())
+    const bool tutteQui = mCursore == Recordset::Cursore::chiave || mVuote || (mPosizione == 0 && !mFinite);
+    if (!tutteQui)
         return false;
     mPosizione = 0;
-    mFinite = mVuote;
-    return true;
-}
-
-bool Righe::ultimo()
-{
-    if (!tornareSiPuo())
-        return false;
-    // The last row is known only by asking for one more, which leaves the rows that are here as they are.
-    while (!mFinite)
-        avanti();
     mFinite = mVuote;
     return true;
 }

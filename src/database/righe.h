@@ -1,6 +1,7 @@
 #pragma once
 
-#include "database/odbc.h"
+#include "database/istruzioneodbc.h"
+#include "database/lettura.h"
 #include "database/recordset.h"
 
 #include <deque>
@@ -26,10 +27,9 @@ public:
     bool vuote() const noexcept { return mVuote; }
     bool finite() const noexcept { return mFinite; }
 
-    /// As Recordset has them. primo() and ultimo() tell by false that the way back is closed.
+    /// As Recordset has them. primo() tells by false that the way back is closed.
     bool primo();
     void avanti();
-    bool ultimo();
 
     /// Only while not finite().
     const odbc::Riga& corrente() const;
@@ -39,7 +39,6 @@ private:
     bool procura();
     bool leggi();
     void lasciaIstruzione() noexcept;
-    bool tornareSiPuo() const noexcept;
 
     std::shared_ptr<odbc::Collegamento> mCollegamento;
     std::unique_ptr<odbc::Istruzione> mIstruzione; // gone once the last row was read

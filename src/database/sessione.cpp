@@ -1,12 +1,24 @@
-// What a connection does on its own account: preparing its session, and transactions.
+#include "database/sessione.h"
 
-#include "database/odbc.h"
+#include <QList>
+
+#include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace giacenza::odbc {
 
 namespace {
+
+/// Whether a connection string names a keyword.
+bool nomina(QStringView stringa, QStringView chiave)
+{
+    const auto voci = stringa.split(u';');
+    return std::any_of(voci.begin(), voci.end(), [chiave](QStringView voce) {
+        return voce.left(voce.indexOf(u'=')).trimmed().compare(chiave, Qt::CaseInsensitive) == 0;
+    });
+}
 
 /// A statement handle for one use while connecting, before there is anything to keep track of.
 class Passaggio
@@ -42,87 +54,69 @@ private:
     SQLHSTMT mManiglia = SQL_NULL_HSTMT;
 };
 
-} // namespace
-
-void Collegamento::preparaSessione()
-{
-    // Not told to the tracer: it belongs to the opening.
-    // Reading its row matters: with StepAPI the driver runs nothing before the first row is asked for.
-    if (mDialetto == Dialetto::sqlite)
-        Passaggio(mManiglia).numero(u"pragma busy_timeout=%1"_s.arg(mLimiti.attesaBlocco()));
-    if (mDialetto != Dialetto::mariadb)
-        return;
-    rifiutaNomiPerMaiuscole();
-    // The driver takes no statement time-out, the server does. Without NO_BACKSLASH_ESCAPES a pasted text
-    // that ends with a backslash would leave its place.
-    Passaggio(mManiglia).esegui(
-        u"SET SESSION sql_mode=concat_ws(',',nullif(@@sql_mode,''),'NO_BACKSLASH_ESCAPES'), "
-        "max_statement_time=%1"_s.arg(mLimiti.comando));
-}
-
-void Collegamento::rifiutaNomiPerMaiuscole()
+void rifiutaNomiPerMaiuscole(SQLHDBC collegamento)
 {
     // The statements write one table's name now in capitals, now not. Without this check the first of them
     // would fail with a table that "does not exist", in front of an operator who can see it.
-    if (Passaggio(mManiglia).numero(u"select @@lower_case_table_names"_s) != 0)
+    if (Passaggio(collegamento).numero(u"select @@lower_case_table_names"_s) != 0)
         return;
     throw ErroreDatabase(u"HY000"_s, 0,
                          u"Il server MariaDB distingue maiuscole e minuscole nei nomi delle tabelle. "
                          "Va configurato con lower_case_table_names=1."_s);
 }
 
-void Collegamento::confermaAutomatica(bool accesa)
+} // namespace
+
+QString conLimiti(const QString& stringa, const Limiti& limiti)
 {
-    verifica(SQLSetConnectAttr(mManiglia, SQL_ATTR_AUTOCOMMIT,
-                               valoreAttributo(accesa ? SQL_AUTOCOMMIT_ON : SQL_AUTOCOMMIT_OFF), 0),
-             SQL_HANDLE_DBC, mManiglia);
+    // SQLite: of two time-outs the driver takes the first, so this one, in front, goes before the host's.
+    QString completa =
+        u"Timeout=%1;"_s.arg(std::min(limiti.connessione * 1000, limiti.attesaBlocco())) + stringa;
+    // MariaDB: the driver ignores the login time-out. Without these it would wait for ever for a server that
+    // takes the connection and says nothing, or whose machine went away.
+    const auto aggiungi = [&](const QString& chiave, int secondi) {
+        if (nomina(stringa, chiave))
+            return;
+        if (!completa.endsWith(u';'))
+            completa += u';';
+        completa += u"%1=%2"_s.arg(chiave).arg(secondi);
+    };
+    const int risposta = limiti.comando + limiti.connessione; // the server has stopped the statement by then
+    aggiungi(u"CONN_TIMEOUT"_s, limiti.connessione);
+    aggiungi(u"READ_TIMEOUT"_s, risposta);
+    aggiungi(u"WRITE_TIMEOUT"_s, risposta);
+    return completa;
 }
 
-void Collegamento::terminaTransazione(SQLSMALLINT come)
+Dialetto dialettoDi(SQLHDBC collegamento)
 {
-    verifica(SQLEndTran(SQL_HANDLE_DBC, mManiglia, come), SQL_HANDLE_DBC, mManiglia);
+    std::array<char, 64> nome{};
+    SQLSMALLINT lunghezza = 0;
+    verifica(SQLGetInfo(collegamento, SQL_DBMS_NAME, nome.data(), static_cast<SQLSMALLINT>(nome.size()),
+                        &lunghezza),
+             SQL_HANDLE_DBC, collegamento);
+    const QString dbms = QString::fromUtf8(nome.data());
+    if (dbms.contains(u"maria"_s, Qt::CaseInsensitive))
+        return Dialetto::mariadb;
+    if (dbms.contains(u"sqlite"_s, Qt::CaseInsensitive))
+        return Dialetto::sqlite;
+    return Dialetto::altro;
 }
 
-void Collegamento::inizia()
+void preparaSessione(SQLHDBC collegamento, Dialetto dialetto, const Limiti& limiti)
 {
-    if (mInTransazione)
-        throw ErroreDatabase(u"25001"_s, 0, u"Una transazione è già aperta."_s);
-    esegui(EventoDati::inizio, {}, [this] { confermaAutomatica(false); });
-    mInTransazione = true;
-}
-
-void Collegamento::conferma()
-{
-    if (!mInTransazione || !aperto())
-        throw ErroreDatabase(u"25000"_s, 0, u"La transazione non è più aperta."_s);
-    esegui(EventoDati::conferma, {}, [this] { terminaTransazione(SQL_COMMIT); });
-    mInTransazione = false;
-    try {
-        confermaAutomatica(true);
-    } catch (const ErroreDatabase&) {
-        // What was asked for is committed. A connection that cannot go back is not used any more.
-        chiudi();
-    }
-}
-
-void Collegamento::annulla() noexcept
-{
-    if (!mInTransazione)
+    // Not told to the tracer: it belongs to the opening.
+    // Reading its row matters: with StepAPI the driver runs nothing before the first row is asked for.
+    if (dialetto == Dialetto::sqlite)
+        Passaggio(collegamento).numero(u"pragma busy_timeout=%1"_s.arg(limiti.attesaBlocco()));
+    if (dialetto != Dialetto::mariadb)
         return;
-    mInTransazione = false;
-    completaLetture();
-    try {
-        traccia(EventoDati::annullo);
-    } catch (...) {
-        // Rolling back cannot fail.
-    }
-    try {
-        terminaTransazione(SQL_ROLLBACK);
-        confermaAutomatica(true);
-    } catch (...) {
-        mPerduto = true;
-        chiudi();
-    }
+    rifiutaNomiPerMaiuscole(collegamento);
+    // The driver takes no statement time-out, the server does. Without NO_BACKSLASH_ESCAPES a pasted text
+    // that ends with a backslash would leave its place.
+    Passaggio(collegamento)
+        .esegui(u"SET SESSION sql_mode=concat_ws(',',nullif(@@sql_mode,''),'NO_BACKSLASH_ESCAPES'), "
+                "max_statement_time=%1"_s.arg(limiti.comando));
 }
 
 } // namespace giacenza::odbc

@@ -1,6 +1,6 @@
 #include "database/transazione.h"
 
-#include "database/odbc.h"
+#include "database/collegamento.h"
 
 namespace giacenza {
 

@@ -3,6 +3,7 @@
 #include "ui_frmPorto.h"
 
 #include "base/impostazioni.h"
+#include "data/archivio.h"
 #include "dialogs/porto.h"
 
 #include <QKeyEvent>
@@ -31,7 +32,7 @@ frmPorto::~frmPorto() = default;
 void frmPorto::caricaElenco()
 {
     try {
-        mConnessione.apri(impostazioni().percorsoDatabase);
+        mConnessione.apri(accessoHost());
         CaricaPorto(mUi->cmbPorto, mConnessione);
         stato({});
     } catch (const Errore& errore) {

@@ -1,7 +1,7 @@
 #include "management/chiusuracaso.h"
 
-#include "base/impostazioni.h"
 #include "base/orologio.h"
+#include "data/archivio.h"
 #include "reports/letters/costibuonfine.h"
 #include "screens/stampa.h"
 
@@ -41,7 +41,7 @@ void ChiusuraCaso::scrivi(const ChiaveGiacenza& caso)
 {
     const QString giorni = testo(mUi.barGiorniSosta);
     // The first date stays, also one that another workstation wrote since the case was brought up.
-    const auto prima = LeggiDataBuonFine(impostazioni().percorsoDatabase, caso);
+    const auto prima = LeggiDataBuonFine(accessoHost(), caso);
     const QDate giorno = prima.value_or(oggi());
     mSchermata.connessione().esegui(prima ? istruzioni::chiusuraRipetuta(caso, giorni)
                                           : istruzioni::chiusura(caso, giorno, giorni));

@@ -1,6 +1,6 @@
 #include "registration/salvagiacenza.h"
 
-#include "base/impostazioni.h"
+#include "data/archivio.h"
 #include "ui_frmGiacenza.h"
 
 using namespace Qt::StringLiterals;
@@ -98,8 +98,7 @@ DatiGiacenza SalvaGiacenza::dati() const
 void SalvaGiacenza::inserisci()
 {
     try {
-        scrivi(mUi.lblNrGia,
-               InserisciGiacenza(mSchermata.connessione(), impostazioni().percorsoDatabase, dati()));
+        scrivi(mUi.lblNrGia, InserisciGiacenza(mSchermata.connessione(), accessoHost(), dati()));
     } catch (const Errore& errore) {
         mSchermata.stato(errore.testo());
         mSchermata.messaggio(u"Impossibile aggiungere la nuova giacenza."_s, Stile::critico);

@@ -1,7 +1,7 @@
 #include "screens/emittenteavviso.h"
 
-#include "base/impostazioni.h"
 #include "base/orologio.h"
+#include "data/archivio.h"
 #include "data/avviso.h"
 #include "database/valori.h"
 #include "screens/campi.h"
@@ -42,8 +42,8 @@ std::optional<QString> EmittenteAvviso::conta(const ChiaveGiacenza& caso, const 
     if (!mDifferenze.ammesso())
         return std::nullopt;
     const QDate giorno = oggi();
-    const auto numero = contaAvviso(mSchermata.connessione(), impostazioni().percorsoDatabase,
-                                    mDifferenze.chiave(caso), giorno, descrizione);
+    const auto numero =
+        contaAvviso(mSchermata.connessione(), accessoHost(), mDifferenze.chiave(caso), giorno, descrizione);
     if (numero) {
         scrivi(mDataAvviso, dataSql(giorno));
         mDifferenze.contato(*numero);

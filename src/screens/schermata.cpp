@@ -1,7 +1,7 @@
 #include "screens/schermata.h"
 
-#include "base/impostazioni.h"
 #include "base/testoerrore.h"
+#include "data/archivio.h"
 #include "database/recordset.h"
 #include "screens/aspetto.h"
 #include "widgets/primopiano.h"
@@ -31,13 +31,13 @@ Schermata::Schermata(const QString& nome) : mConvalida(new Convalida(this))
 
 Connessione& Schermata::connessione()
 {
-    mConnessione.apri(impostazioni().percorsoDatabase);
+    mConnessione.apri(accessoHost());
     return mConnessione;
 }
 
 void Schermata::rilasciaConnessione()
 {
-    ChiudiOggettiDB(nullptr, &mConnessione, true, false);
+    ChiudiOggettiDB(nullptr, &mConnessione, Rilascio::si, Mantieni::no);
 }
 
 void Schermata::stato(const QString& testo)

@@ -3,6 +3,7 @@
 #include "ui_frmRicerca.h"
 
 #include "base/errorenumerato.h"
+#include "data/archivio.h"
 #include "search/controlloricerca.h"
 #include "widgets/attesa.h"
 #include "widgets/secondoclic.h"
@@ -144,7 +145,7 @@ void frmRicerca::cerca()
     mUi->lstCerca->clear();
     mNonTrovata = false;
     const Attesa attesa;
-    mRicerca.cerca(mStringaConnessione,
+    mRicerca.cerca(accessoTracciato(mStringaConnessione),
                    {mNomeTabella, mCampoCercato, mUi->optInterna->isChecked(), mUi->txtCerca->text()});
     mNonTrovata = mRicerca.finita();
     if (mNonTrovata)

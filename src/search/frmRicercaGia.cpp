@@ -3,9 +3,9 @@
 #include "ui_frmRicercaGia.h"
 
 #include "base/forme.h"
-#include "base/impostazioni.h"
 #include "base/messaggi.h"
 #include "base/orologio.h"
+#include "data/archivio.h"
 #include "search/colonnegriglia.h"
 #include "search/modelloricerca.h"
 
@@ -153,7 +153,7 @@ void frmRicercaGia::elenca(const std::function<QString()>& istruzione)
     try {
         if (!esiste(mModo))
             throw Errore(u"Il tipo di ricerca %1 non esiste."_s.arg(TipoRicerca()));
-        mModello->apri(impostazioni().percorsoDatabase, istruzione());
+        mModello->apri(accessoHost(), istruzione());
     } catch (const Errore& errore) {
         mModello->svuota(false);
         mGuasto = errore.testo();

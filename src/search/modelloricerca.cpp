@@ -16,12 +16,12 @@ Qt::Alignment allineamento(Aspetto aspetto)
 
 ModelloRicerca::ModelloRicerca(QObject* padre) : QAbstractTableModel(padre) {}
 
-void ModelloRicerca::apri(const QString& stringa, const QString& istruzione)
+void ModelloRicerca::apri(const Accesso& accesso, const QString& istruzione)
 {
     const Attesa attesa;
     svuota(false);
     try {
-        mConnessione.apri(stringa);
+        mConnessione.apri(accesso);
         mRecordset.apri(mConnessione, istruzione, Recordset::Cursore::soloAvanti);
     } catch (const ErroreDatabase&) {
         chiudi();
@@ -39,7 +39,7 @@ void ModelloRicerca::apri(const QString& stringa, const QString& istruzione)
 
 void ModelloRicerca::chiudi() noexcept
 {
-    ChiudiOggettiDB(&mRecordset, &mConnessione, true, false);
+    ChiudiOggettiDB(&mRecordset, &mConnessione, Rilascio::si, Mantieni::no);
 }
 
 void ModelloRicerca::svuota(bool colonneAnche)

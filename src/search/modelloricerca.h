@@ -21,9 +21,9 @@ public:
 
     /// Opens the database, runs the statement and reads the first page, in place of what was there.
     ///
-    /// stringa: connection string. Throws ErroreDatabase when connecting or running fails; the list is then
+    /// Throws ErroreDatabase when connecting or running fails; the list is then
     /// empty, under the columns it had. Reading that fails later emits interrotta().
-    void apri(const QString& stringa, const QString& istruzione);
+    void apri(const Accesso& accesso, const QString& istruzione);
 
     /// Ends the reading; the rows stay.
     void chiudi() noexcept;

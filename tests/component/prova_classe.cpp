@@ -3,7 +3,7 @@
 #include "base/forme.h"
 #include "base/impostazioni.h"
 #include "component/registraforme.h"
-#include "database/traccia.h"
+#include "data/archivio.h"
 #include "registration/frmGiacenza.h"
 #include "screens/campi.h"
 #include "screens/schermatadiprova.h"

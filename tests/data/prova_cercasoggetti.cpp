@@ -1,4 +1,5 @@
 #include "data/cercasoggetti.h"
+#include "database/comando.h"
 #include "support/bancadati.h"
 #include "support/stampa.h"
 

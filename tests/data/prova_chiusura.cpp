@@ -120,8 +120,7 @@ TEST(CostiGiacenza, CioCheMancaFerma)
         EXPECT_THROW(calcolaImporti({si, si, si, si}, giorni), ErroreConversione) << giorni.toStdString();
 }
 
-/// What is read, by the year of the waybill as the management screen has it, and by its date as the
-/// registration screen has it.
+/// What is read, by the year of the waybill.
 class Chiusura : public testing::TestWithParam<std::string>
 {
 protected:
@@ -142,17 +141,14 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Basi, Chiusura, testing::Values("sqlite", "mariadb"),
                          nomeBase<testing::TestParamInfo<std::string>>);
 
-TEST_P(Chiusura, LeCondizioniSiTrovanoPerAnnoEPerData)
+TEST_P(Chiusura, LeCondizioniSiTrovanoPerAnno)
 {
-    for (const QuandoLdv& quando : {QuandoLdv(2026), QuandoLdv(QDate(2026, 11, 12))}) {
-        const auto condizioni = leggiCondizioni(mConnessione, u"4714"_s, quando);
-        ASSERT_TRUE(condizioni);
-        const ImportiGiacenza importi = calcolaImporti(*condizioni, u"16"_s);
-        EXPECT_TRUE(confronta(importi.fisso.testo(), u"7.50"_s) == std::strong_ordering::equal);
-        EXPECT_EQ(importi.sosta.testo(), u"16.50"_s);
-    }
+    const auto condizioni = leggiCondizioni(mConnessione, u"4714"_s, 2026);
+    ASSERT_TRUE(condizioni);
+    const ImportiGiacenza importi = calcolaImporti(*condizioni, u"16"_s);
+    EXPECT_TRUE(confronta(importi.fisso.testo(), u"7.50"_s) == std::strong_ordering::equal);
+    EXPECT_EQ(importi.sosta.testo(), u"16.50"_s);
     EXPECT_FALSE(leggiCondizioni(mConnessione, u"4714"_s, 2025));
-    EXPECT_FALSE(leggiCondizioni(mConnessione, u"4714"_s, QDate(2026, 11, 13)));
     EXPECT_FALSE(leggiCondizioni(mConnessione, u"4715"_s, 2026)) << "this waybill has no billing key";
     EXPECT_THROW(leggiCondizioni(mConnessione, u"47'14"_s, 2026), ErroreDatabase);
 }

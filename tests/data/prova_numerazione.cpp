@@ -1,6 +1,6 @@
 #include "data/numerazione.h"
 
-#include "database/traccia.h"
+#include "data/archivio.h"
 #include "support/bancadati.h"
 #include "support/stampa.h"
 

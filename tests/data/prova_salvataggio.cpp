@@ -1,6 +1,6 @@
 #include "data/salvataggio.h"
 
-#include "database/traccia.h"
+#include "data/archivio.h"
 #include "support/bancadati.h"
 #include "support/spedizioni.h"
 #include "support/stampa.h"
@@ -43,7 +43,7 @@ protected:
 
     QString inserisce(const DatiGiacenza& nuova)
     {
-        return InserisciGiacenza(mSchermo, mBase.stringa(), nuova);
+        return InserisciGiacenza(mSchermo, mBase.accesso(), nuova);
     }
 
     /// Neither row nor link, whatever the counter says.

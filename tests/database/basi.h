@@ -1,5 +1,7 @@
 #pragma once
 
+#include "database/comando.h"
+#include "database/nuovariga.h"
 #include "database/recordset.h"
 #include "support/bancadati.h"
 #include "support/stampa.h"
@@ -46,6 +48,15 @@ protected:
 
     BancaDati mBase{GetParam(), Contenuto::vuoto};
 };
+
+/// The first value of the last row.
+inline Valore ultima(Recordset& recordset)
+{
+    Valore letto;
+    for (; !recordset.eof(); recordset.successivo())
+        letto = recordset.valore(0);
+    return letto;
+}
 
 /// The error of a call that must fail.
 template<class Chiamata>

@@ -21,9 +21,8 @@ protected:
 
 TEST_P(Chiusura, dellaConnessioneChiudeIRecordset)
 {
-    Recordset tabella;
-    tabella.apriTabella(mConnessione, u"prova"_s);
-    tabella.aggiungi();
+    NuovaRiga riga(mConnessione, u"prova"_s);
+    riga.imposta(u"id"_s, u"11"_s);
     Comando comando(mConnessione, u"delete from prova where id=?"_s);
     mConnessione.chiudi();
     EXPECT_FALSE(mConnessione.aperta());
@@ -33,7 +32,7 @@ TEST_P(Chiusura, dellaConnessioneChiudeIRecordset)
     EXPECT_EQ(mRecordset.colonne(), 0);
     EXPECT_EQ(erroreDi([&] { mRecordset.successivo(); }).sqlstate(), u"24000"_s);
     EXPECT_EQ(erroreDi([&] { mRecordset.valore(0); }).sqlstate(), u"24000"_s);
-    EXPECT_EQ(erroreDi([&] { tabella.aggiorna(); }).sqlstate(), u"24000"_s);
+    EXPECT_EQ(erroreDi([&] { riga.aggiungi(); }).sqlstate(), u"08003"_s);
     EXPECT_EQ(erroreDi([&] { comando.esegui(std::vector<Valore>{u"1"_s}); }).sqlstate(), u"08003"_s);
     EXPECT_EQ(erroreDi([&] { mConnessione.esegui(u"delete from prova"_s); }).sqlstate(), u"08003"_s);
     mConnessione.apri(mBase.stringa());
@@ -53,19 +52,19 @@ TEST_P(Chiusura, ripetutaNonFaNulla)
 
 TEST_P(Chiusura, conRilascioChiudeTutto)
 {
-    ChiudiOggettiDB(&mRecordset, &mConnessione, true, true);
+    ChiudiOggettiDB(&mRecordset, &mConnessione, Rilascio::si, Mantieni::si);
     EXPECT_FALSE(mRecordset.aperto());
     EXPECT_FALSE(mConnessione.aperta());
 }
 
 TEST_P(Chiusura, senzaRilascioPuoTenereLaConnessione)
 {
-    ChiudiOggettiDB(&mRecordset, &mConnessione, false, true);
+    ChiudiOggettiDB(&mRecordset, &mConnessione, Rilascio::no, Mantieni::si);
     EXPECT_FALSE(mRecordset.aperto());
     EXPECT_TRUE(mConnessione.aperta());
     mRecordset.apri(mConnessione, u"select 5"_s);
     EXPECT_EQ(mRecordset.valore(0), u"5"_s);
-    ChiudiOggettiDB(&mRecordset, &mConnessione, false, false);
+    ChiudiOggettiDB(&mRecordset, &mConnessione, Rilascio::no, Mantieni::no);
     EXPECT_FALSE(mRecordset.aperto());
     EXPECT_FALSE(mConnessione.aperta());
     mConnessione.apri(mBase.stringa());
@@ -75,12 +74,12 @@ TEST_P(Chiusura, senzaRilascioPuoTenereLaConnessione)
 
 TEST_P(Chiusura, diNienteEDiCioCheEChiusoNonFallisce)
 {
-    ChiudiOggettiDB(nullptr, nullptr, true, false);
-    ChiudiOggettiDB(&mRecordset, nullptr, true, false);
+    ChiudiOggettiDB(nullptr, nullptr, Rilascio::si, Mantieni::no);
+    ChiudiOggettiDB(&mRecordset, nullptr, Rilascio::si, Mantieni::no);
     EXPECT_FALSE(mRecordset.aperto());
     EXPECT_TRUE(mConnessione.aperta());
-    ChiudiOggettiDB(nullptr, &mConnessione, true, false);
-    ChiudiOggettiDB(&mRecordset, &mConnessione, true, false);
+    ChiudiOggettiDB(nullptr, &mConnessione, Rilascio::si, Mantieni::no);
+    ChiudiOggettiDB(&mRecordset, &mConnessione, Rilascio::si, Mantieni::no);
     EXPECT_FALSE(mConnessione.aperta());
 }
 

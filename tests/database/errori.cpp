@@ -34,7 +34,7 @@ TEST_P(Errori, diUnaTabellaCheNonCE)
         erroreDi([&] { recordset.apri(mConnessione, u"select * from mancante"_s); });
     EXPECT_EQ(lettura.sqlstate(), scegli(u"42S02"_s, u"HY000"_s));
     EXPECT_EQ(lettura.istruzione(), u"select * from mancante"_s);
-    const ErroreDatabase tabella = erroreDi([&] { recordset.apriTabella(mConnessione, u"mancante"_s); });
+    const ErroreDatabase tabella = erroreDi([&] { NuovaRiga(mConnessione, u"mancante"_s); });
     EXPECT_EQ(tabella.sqlstate(), scegli(u"42S02"_s, u"HY000"_s));
     EXPECT_EQ(tabella.istruzione(), u"select * from mancante"_s);
     EXPECT_FALSE(recordset.aperto());

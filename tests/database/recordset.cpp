@@ -32,10 +32,6 @@ TEST_P(Righe, siPercorronoAvantiESiTornaAllaPrima)
     EXPECT_TRUE(recordset.eof());
     recordset.primo();
     EXPECT_EQ(recordset.valore(0), u"1"_s);
-    recordset.ultimo();
-    EXPECT_EQ(recordset.valore(0), u"5"_s);
-    EXPECT_FALSE(recordset.eof());
-    recordset.primo();
     recordset.successivo();
     EXPECT_EQ(recordset.valore(0), u"2"_s);
 }
@@ -50,15 +46,13 @@ TEST_P(Righe, soloAvantiNonTornanoIndietro)
     recordset.successivo();
     EXPECT_EQ(recordset.valore(0), u"2"_s);
     EXPECT_EQ(erroreDi([&] { recordset.primo(); }).sqlstate(), u"24000"_s);
-    EXPECT_EQ(erroreDi([&] { recordset.ultimo(); }).sqlstate(), u"24000"_s);
     EXPECT_EQ(recordset.valore(0), u"2"_s);
     recordset.successivo();
     recordset.successivo();
     EXPECT_TRUE(recordset.eof());
     EXPECT_FALSE(recordset.bof());
     recordset.apri(mConnessione, u"select id from prova order by id"_s, Recordset::Cursore::soloAvanti);
-    recordset.ultimo();
-    EXPECT_EQ(recordset.valore(0), u"3"_s);
+    EXPECT_EQ(ultima(recordset), u"3"_s);
 }
 
 TEST_P(Righe, nessunaRigaNonEUnErrore)
@@ -71,7 +65,6 @@ TEST_P(Righe, nessunaRigaNonEUnErrore)
         EXPECT_EQ(recordset.colonne(), 6);
         recordset.primo();
         recordset.successivo();
-        recordset.ultimo();
         EXPECT_TRUE(recordset.bof());
         EXPECT_TRUE(recordset.eof());
         EXPECT_EQ(erroreDi([&] { recordset.valore(u"id"_s); }).sqlstate(), u"02000"_s);
@@ -129,8 +122,7 @@ TEST_P(Righe, siLeggonoAncheDopoUnaScritturaSullaStessaConnessione)
     Recordset recordset;
     recordset.apri(mConnessione, u"select id, testo from prova order by id"_s);
     mConnessione.esegui(u"update prova set n=1 where id=1500"_s);
-    recordset.ultimo();
-    EXPECT_EQ(recordset.valore(0), u"2000"_s);
+    EXPECT_EQ(ultima(recordset), u"2000"_s);
     recordset.primo();
     EXPECT_EQ(recordset.valore(0), u"1"_s);
     EXPECT_EQ(mBase.leggi(u"select n from prova where id=1500"_s), u"1"_s);

@@ -34,36 +34,31 @@ QString nome(EventoDati evento)
 class Tracciati : public Basi
 {
 protected:
-    Tracciati()
-    {
-        creaTabella();
-        impostaTraccia([this](EventoDati evento, const QString& testo) {
-            mEventi += testo.isEmpty() ? nome(evento) : testo;
-            if (mGuasto == evento)
-                throw ErroreDatabase(mStato, 7, u"guasto di prova"_s, testo);
-        });
-    }
-    ~Tracciati() override { impostaTraccia({}); }
+    Tracciati() { creaTabella(); }
 
     QStringList mEventi;
     std::optional<EventoDati> mGuasto;
     QString mStato = u"HY000"_s;
+    Accesso mAccesso{mBase.stringa(), [this](EventoDati evento, const QString& testo) {
+                         mEventi += testo.isEmpty() ? nome(evento) : testo;
+                         if (mGuasto == evento)
+                             throw ErroreDatabase(mStato, 7, u"guasto di prova"_s, testo);
+                     }};
 };
 
 TEST_P(Tracciati, glEventiNelLoroOrdine)
 {
     Connessione connessione;
-    connessione.apri(mBase.stringa());
-    connessione.apri(mBase.stringa());
+    connessione.apri(mAccesso);
+    connessione.apri(mAccesso);
     Recordset recordset;
     recordset.apri(connessione, u"select id from prova;"_s);
     {
         Transazione transazione(connessione);
-        recordset.apriTabella(connessione, u"prova"_s);
-        recordset.aggiungi();
-        recordset.imposta(u"id"_s, u"1"_s);
-        recordset.imposta(u"testo"_s, u"x"_s);
-        recordset.aggiorna();
+        NuovaRiga riga(connessione, u"prova"_s);
+        riga.imposta(u"id"_s, u"1"_s);
+        riga.imposta(u"testo"_s, u"x"_s);
+        riga.aggiungi();
         transazione.conferma();
     }
     Comando comando(connessione, u"delete from prova where id=?"_s);
@@ -95,10 +90,10 @@ TEST_P(Tracciati, unGuastoFaFallireLEvento)
 {
     Connessione connessione;
     mGuasto = EventoDati::apertura;
-    EXPECT_EQ(erroreDi([&] { connessione.apri(mBase.stringa()); }).codiceNativo(), 7);
+    EXPECT_EQ(erroreDi([&] { connessione.apri(mAccesso); }).codiceNativo(), 7);
     EXPECT_FALSE(connessione.aperta());
     mGuasto.reset();
-    connessione.apri(mBase.stringa());
+    connessione.apri(mAccesso);
     mGuasto = EventoDati::istruzione;
     EXPECT_EQ(erroreDi([&] { connessione.esegui(u"insert into prova (id) values (1)"_s); }).codiceNativo(),
               7);
@@ -115,7 +110,7 @@ TEST_P(Tracciati, unGuastoFaFallireLEvento)
 TEST_P(Tracciati, annulloEChiusuraNonFallisconoMai)
 {
     Connessione connessione;
-    connessione.apri(mBase.stringa());
+    connessione.apri(mAccesso);
     {
         Transazione transazione(connessione);
         connessione.esegui(u"insert into prova (id) values (1)"_s);
@@ -132,25 +127,39 @@ TEST_P(Tracciati, annulloEChiusuraNonFallisconoMai)
 TEST_P(Tracciati, unGuastoDiReteChiudeLaConnessione)
 {
     Connessione connessione;
-    connessione.apri(mBase.stringa());
+    connessione.apri(mAccesso);
     mGuasto = EventoDati::istruzione;
     mStato = u"08S01"_s;
     erroreDi([&] { connessione.esegui(u"delete from prova"_s); });
     EXPECT_FALSE(connessione.aperta());
     mGuasto.reset();
-    connessione.apri(mBase.stringa());
+    connessione.apri(mAccesso);
     EXPECT_EQ(connessione.esegui(u"delete from prova"_s), 0);
 }
 
-TEST_P(Tracciati, chiTracciaRiceveQuelloDiPrima)
+TEST_P(Tracciati, senzaTracciaNessunoLoSa)
 {
-    const Traccia prima = impostaTraccia({});
-    mBase.leggi(u"select 1"_s);
-    const QStringList eventi = mEventi;
-    impostaTraccia(prima);
-    mBase.leggi(u"select 2"_s);
-    EXPECT_EQ(mEventi.mid(eventi.size()).value(1), u"select 2"_s);
-    EXPECT_FALSE(eventi.contains(u"select 1"_s));
+    Connessione tracciata;
+    tracciata.apri(mAccesso);
+    mEventi.clear();
+    Connessione muta;
+    muta.apri(mBase.stringa());
+    muta.esegui(u"delete from prova"_s);
+    muta.chiudi();
+    EXPECT_EQ(mEventi, QStringList());
+}
+
+TEST_P(Tracciati, ognunaHaLaPropria)
+{
+    QStringList altri;
+    Connessione una;
+    Connessione altra;
+    una.apri(mAccesso);
+    altra.apri({mBase.stringa(), [&](EventoDati evento, const QString&) { altri += nome(evento); }});
+    altra = std::move(una);
+    EXPECT_EQ(altri, QStringList({u"apertura"_s, u"chiusura"_s}));
+    altra.esegui(u"delete from prova"_s);
+    EXPECT_EQ(mEventi, QStringList({u"apertura"_s, u"delete from prova"_s}));
 }
 
 SU_OGNI_BASE(Tracciati);

@@ -1,7 +1,7 @@
 #include "database/transazione.h"
 
+#include "data/archivio.h"
 #include "database/basi.h"
-#include "database/traccia.h"
 
 using namespace Qt::StringLiterals;
 
@@ -130,8 +130,7 @@ TEST_P(Transazioni, unaLetturaApertaNonFermaLaFine)
             if (conferma)
                 transazione.conferma();
         }
-        recordset.ultimo();
-        EXPECT_EQ(recordset.valore(0), u"2000"_s);
+        EXPECT_EQ(ultima(recordset), u"2000"_s);
     }
 }
 
@@ -143,13 +142,11 @@ TEST_P(Transazioni, delSalvataggioRiesconoMentreUnAltroScrive)
     for (int giro = 1; giro <= 20; ++giro) {
         Connessione propria = mBase.connessione();
         Transazione transazione(propria);
-        Recordset tabella;
-        tabella.apriTabella(propria, u"prova"_s);
+        NuovaRiga riga(propria, u"prova"_s);
         schermata.esegui(u"update prova set n=%1"_s.arg(giro));
         mBase.esegui(u"insert into prova (id) values (%1)"_s.arg(1000 + giro));
-        tabella.aggiungi();
-        tabella.imposta(u"id"_s, QString::number(giro));
-        tabella.aggiorna();
+        riga.imposta(u"id"_s, QString::number(giro));
+        riga.aggiungi();
         propria.esegui(u"update prova set n=0 where id=%1"_s.arg(giro));
         transazione.conferma();
     }

@@ -63,12 +63,10 @@ TEST_P(Valori, legatiTornanoInteri)
 {
     for (const QString& testo : testiDifficili()) {
         mConnessione.esegui(u"delete from prova"_s);
-        Recordset tabella;
-        tabella.apriTabella(mConnessione, u"prova"_s);
-        tabella.aggiungi();
-        tabella.imposta(u"id"_s, u"1"_s);
-        tabella.imposta(u"testo"_s, testo);
-        tabella.aggiorna();
+        NuovaRiga riga(mConnessione, u"prova"_s);
+        riga.imposta(u"id"_s, u"1"_s);
+        riga.imposta(u"testo"_s, testo);
+        riga.aggiungi();
         attendi(testo);
     }
 }

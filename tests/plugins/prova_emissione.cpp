@@ -1,5 +1,4 @@
 #include "base/parti.h"
-#include "database/traccia.h"
 #include "plugins/ldvdiprova.h"
 #include "support/bancadati.h"
 #include "support/modale.h"

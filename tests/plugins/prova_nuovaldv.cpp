@@ -1,4 +1,4 @@
-#include "database/traccia.h"
+#include "data/archivio.h"
 #include "emissione/emittente.h"
 #include "emissione/nuovaldv.h"
 #include "plugins/ldvdiprova.h"
@@ -365,7 +365,7 @@ TEST_P(NuovaLdv, UnGuastoInOgniPuntoNonLasciaNiente)
         });
         EXPECT_EQ(motivo(ldv, contestoDiProva()), u"guasto di prova"_s);
         impostaTraccia({});
-        mConnessione.apri(mBase.stringa());
+        mConnessione.apri(mBase.accesso());
         EXPECT_THAT(nuove(), IsEmpty());
     }
     impostaTraccia([](EventoDati evento, const QString& testo) {
@@ -381,12 +381,11 @@ TEST_P(NuovaLdv, UnGuastoInOgniPuntoNonLasciaNiente)
 TEST_P(NuovaLdv, CioCheSiRompeDopoLEmissioneDiceIlNumero)
 {
     // Not one of the component's own errors, and after the commit: the waybill is there all the same.
-    impostaTraccia([](EventoDati evento, const QString& testo) {
+    const QTemporaryDir cartella;
+    EmittenteDeposito emittente([](EventoDati evento, const QString& testo) {
         if (evento == EventoDati::istruzione && testo.startsWith(u"SELECT letve00f.*"_s))
             throw std::runtime_error("memoria finita");
     });
-    const QTemporaryDir cartella;
-    EmittenteDeposito emittente;
     emittente.setContesto(contestoDiProva());
     emittente.setPercorsoDatabase(mBase.stringa());
     emittente.setCartellaStampa(cartella.path());

@@ -1,5 +1,5 @@
 #include "base/impostazioni.h"
-#include "database/traccia.h"
+#include "data/archivio.h"
 #include "dialogs/frmPorto.h"
 #include "redelivery/riconsegnadiprova.h"
 #include "support/modale.h"

@@ -1,7 +1,7 @@
 #include "registration/registrazionediprova.h"
 
 #include "base/impostazioni.h"
-#include "database/traccia.h"
+#include "data/archivio.h"
 #include "support/stampa.h"
 
 #include <giacenza/RicercaTabella.h>

@@ -2,6 +2,7 @@
 #include "catalogo.h"
 
 #include "data/numerazione.h"
+#include "database/nuovariga.h"
 #include "database/transazione.h"
 #include "support/stampa.h"
 
@@ -117,15 +118,13 @@ TEST_F(Privilegi, bastanoAOgniIstruzioneDelComponente)
 TEST_F(Privilegi, bastanoAggiungereUnaGiacenzaEUnaSpedizione)
 {
     Transazione transazione(mConnessione);
-    Recordset giacenze;
-    giacenze.apriTabella(mConnessione, u"giace00f"_s);
-    giacenze.aggiungi();
+    NuovaRiga giacenza(mConnessione, u"giace00f"_s);
     const QStringList chiavi{u"GIFILI"_s, u"GINRLV"_s, u"GINRGI"_s};
     for (const QString& colonna : chiavi)
-        giacenze.imposta(colonna, u"1"_s);
-    giacenze.imposta(u"GIANLV"_s, u"2026"_s);
-    giacenze.imposta(u"GIANGI"_s, u"2026"_s);
-    giacenze.aggiorna();
+        giacenza.imposta(colonna, u"1"_s);
+    giacenza.imposta(u"GIANLV"_s, u"2026"_s);
+    giacenza.imposta(u"GIANGI"_s, u"2026"_s);
+    giacenza.aggiungi();
     EXPECT_EQ(rifiuto(u"insert into letve00f (lefili, lenrlv, leanlv, ledtlv, lecodi, lerico) "
                       "values ('01', '1', 2026, '2026-01-02', 1001, 'R')"_s),
               0);

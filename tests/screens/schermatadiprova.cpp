@@ -2,7 +2,7 @@
 
 #include "base/impostazioni.h"
 #include "base/orologio.h"
-#include "database/traccia.h"
+#include "data/archivio.h"
 #include "screens/campi.h"
 #include "support/stampa.h"
 #include "support/trova.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "database/traccia.h"
+#include "data/archivio.h"
 #include "search/frmRicercaGia.h"
 #include "support/bancadati.h"
 #include "support/registromessaggi.h"

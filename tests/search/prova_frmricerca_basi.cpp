@@ -1,6 +1,6 @@
 #include "search/finestraricerca.h"
 
-#include "database/traccia.h"
+#include "data/archivio.h"
 
 #include <QPushButton>
 

@@ -1,6 +1,6 @@
 #include "search/modelloricerca.h"
 
-#include "database/traccia.h"
+#include "data/archivio.h"
 #include "support/bancadati.h"
 #include "support/stampa.h"
 
@@ -30,7 +30,7 @@ protected:
     }
     ~ModelloElenco() override { impostaTraccia(std::move(mTracciaPrima)); }
 
-    void apri(const QString& istruzione) { mModello.apri(mBase.stringa(), istruzione); }
+    void apri(const QString& istruzione) { mModello.apri(mBase.accesso(), istruzione); }
 
     /// Numbers from 1 to quante, with the column that a test needs.
     void apriNumeri(int quante, const QString& colonne = u"i as Num_Ldv"_s)

@@ -1,5 +1,6 @@
 #include "support/bancadati.h"
 
+#include "data/archivio.h"
 #include "schema/script.h"
 
 #include <gtest/gtest.h>
@@ -32,7 +33,7 @@ QString fileSchema(const QString& nome)
 Connessione aperta(const QString& stringa)
 {
     Connessione connessione;
-    connessione.apri(stringa);
+    connessione.apri(accessoTracciato(stringa));
     return connessione;
 }
 
@@ -163,6 +164,11 @@ BancaDati::~BancaDati() = default;
 QString BancaDati::stringa() const
 {
     return mMotore->stringa();
+}
+
+Accesso BancaDati::accesso() const
+{
+    return accessoTracciato(stringa());
 }
 
 Connessione BancaDati::connessione() const

@@ -41,8 +41,10 @@ public:
     /// The connection string of a workstation's user: on MariaDB one that may do what schema/grants.sql
     /// says, or in an empty database select, insert, update and delete.
     QString stringa() const;
+    /// The same, with the tracer of the thread: what is opened with it tells impostaTraccia()'s.
+    Accesso accesso() const;
 
-    /// A new open connection as workstation, and as a user who may do everything.
+    /// A new open connection as workstation, and as a user who may do everything; both traced.
     Connessione connessione() const;
     Connessione amministratore() const;
 

@@ -1,6 +1,7 @@
 #include "reports/letters/report.h"
 
 #include "base/messaggi.h"
+#include "data/archivio.h"
 #include "reports/engine/composizione.h"
 #include "reports/engine/logo.h"
 #include "reports/letters/blocchi.h"
@@ -94,7 +95,7 @@ std::unique_ptr<DocumentoReport> Report::componi(const RichiestaDocumento& richi
     if (!prosegue())
         return nullptr;
     Connessione connessione;
-    connessione.apri(richiesta.percorsoDatabase);
+    connessione.apri(accessoTracciato(richiesta.percorsoDatabase));
     const std::vector<RigaReport> righe = leggiRighe(connessione, richiesta.chiave);
 
     const ParteChiave parti = separaChiave(richiesta.chiave);

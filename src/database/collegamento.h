@@ -1,0 +1,84 @@
+#pragma once
+
+#include "database/connessione.h"
+#include "database/lettura.h"
+#include "database/odbc.h"
+
+#include <vector>
+
+namespace giacenza::odbc {
+
+class Istruzione;
+
+/// A connection handle with what lives on it. The wrappers share it, so that each of them finds out that
+/// another one closed it.
+class Collegamento
+{
+public:
+    /// Connects and prepares the session. Throws ErroreDatabase.
+    Collegamento(const Accesso& accesso, const Limiti& limiti);
+    Collegamento(const Collegamento&) = delete;
+    Collegamento& operator=(const Collegamento&) = delete;
+    ~Collegamento();
+
+    /// False once closed, and once an answer told that the server is no longer there.
+    bool aperto() const noexcept { return mManiglia && !mPerduto; }
+    void chiudi() noexcept;
+
+    Dialetto dialetto() const noexcept { return mDialetto; }
+    const Limiti& limiti() const noexcept { return mLimiti; }
+    SQLHDBC maniglia() const noexcept { return mManiglia; }
+
+    void inizia();
+    void conferma();
+    /// When even rolling back fails the connection is closed: turning auto-commit on again would commit.
+    void annulla() noexcept;
+
+    /// Tells the tracer, has open readings completed, then makes the call of the driver.
+    template<class Chiamata>
+    void esegui(EventoDati evento, const QString& testo, Chiamata chiamata)
+    {
+        sorveglia([&] {
+            racconta(evento, testo);
+            completaLetture();
+            chiamata();
+        });
+    }
+
+    /// Makes a call; its failure also tells whether the connection is lost.
+    template<class Chiamata>
+    auto sorveglia(Chiamata chiamata)
+    {
+        try {
+            return chiamata();
+        } catch (const ErroreDatabase& errore) {
+            riconosciPerdita(errore);
+            throw;
+        }
+    }
+
+    void aggiungiIstruzione(Istruzione* istruzione) { mIstruzioni.push_back(istruzione); }
+    void togliIstruzione(Istruzione* istruzione) noexcept { std::erase(mIstruzioni, istruzione); }
+    void aggiungiLettura(Lettura* lettura) { mLetture.push_back(lettura); }
+    void togliLettura(Lettura* lettura) noexcept { std::erase(mLetture, lettura); }
+
+private:
+    void connetti(const QString& stringa);
+    void racconta(EventoDati evento, const QString& testo = {}) const;
+    void confermaAutomatica(bool accesa);
+    void terminaTransazione(SQLSMALLINT come);
+    void completaLetture() noexcept;
+    void riconosciPerdita(const ErroreDatabase& errore) noexcept;
+    void libera() noexcept;
+
+    SQLHDBC mManiglia = SQL_NULL_HDBC;
+    Traccia mTraccia;
+    Limiti mLimiti;
+    Dialetto mDialetto = Dialetto::altro;
+    bool mPerduto = false;
+    bool mInTransazione = false;
+    std::vector<Istruzione*> mIstruzioni; // still alive; not owned
+    std::vector<Lettura*> mLetture;       // not owned
+};
+
+} // namespace giacenza::odbc

@@ -1,0 +1,59 @@
+#include "database/nuovariga.h"
+
+#include "database/collegamento.h"
+#include "database/istruzioneodbc.h"
+
+#include <QStringList>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza {
+
+/// Only prepared and described: running the select would read the whole table on one database, and on the
+/// other take a snapshot that a write of the same transaction could no longer leave.
+NuovaRiga::NuovaRiga(Connessione& connessione, const QString& tabella)
+    : mCollegamento(connessione.collegamento()), mTabella(tabella), mIstruzione(u"select * from "_s + tabella)
+{
+    odbc::Istruzione descrizione(mCollegamento);
+    mCollegamento->esegui(EventoDati::istruzione, mIstruzione, [&] {
+        descrizione.prepara(mIstruzione);
+        mColonne = descrizione.nomiColonne();
+    });
+}
+
+void NuovaRiga::imposta(const QString& colonna, const Valore& valore)
+{
+    const auto stessa = [&](const QString& nome) { return nome.compare(colonna, Qt::CaseInsensitive) == 0; };
+    const auto trovata = std::find_if(mColonne.cbegin(), mColonne.cend(), stessa);
+    if (trovata == mColonne.cend())
+        throw ErroreDatabase(u"42S22"_s, 0, u"La colonna \"%1\" non esiste."_s.arg(colonna), mIstruzione);
+    const auto gia = std::find_if(mImpostati.begin(), mImpostati.end(),
+                                  [&](const auto& impostata) { return impostata.first == *trovata; });
+    if (gia == mImpostati.end())
+        mImpostati.emplace_back(*trovata, valore);
+    else
+        gia->second = valore;
+}
+
+void NuovaRiga::aggiungi()
+{
+    if (mImpostati.empty())
+        throw ErroreDatabase(u"HY010"_s, 0, u"Non c'è una nuova riga da scrivere."_s, mIstruzione);
+    QStringList colonne;
+    QStringList segni;
+    std::vector<Valore> valori;
+    for (const auto& [colonna, valore] : mImpostati) {
+        colonne += colonna;
+        segni += u"?"_s;
+        valori.push_back(valore);
+    }
+    odbc::Istruzione inserimento(mCollegamento);
+    inserimento.prepara(
+        u"insert into %1 (%2) values (%3)"_s.arg(mTabella, colonne.join(u", "_s), segni.join(u", "_s)));
+    inserimento.eseguiPreparata(valori);
+    mImpostati.clear();
+}
+
+} // namespace giacenza

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "database/connessione.h"
+#include "database/valori.h"
+
+#include <utility>
+#include <vector>
+
+namespace giacenza {
+
+/// A row to be added to a table: its columns take their table defaults until set.
+class NuovaRiga
+{
+public:
+    /// Opens the table ("select * from " + tabella): its columns are described, no row is read and nothing is
+    /// executed. Throws ErroreDatabase.
+    NuovaRiga(Connessione& connessione, const QString& tabella);
+
+    /// Columns are found by name without case; setting one again replaces its value. Throws ErroreDatabase
+    /// 42S22 for an unknown column.
+    void imposta(const QString& colonna, const Valore& valore);
+
+    /// Writes the row, only with the columns that were set, their values bound; the next one starts with none
+    /// set. Throws ErroreDatabase, also (HY010) when no column was set; the values then stay.
+    void aggiungi();
+
+private:
+    std::shared_ptr<odbc::Collegamento> mCollegamento;
+    QString mTabella;
+    QString mIstruzione;
+    std::vector<QString> mColonne;
+    std::vector<std::pair<QString, Valore>> mImpostati; // by the names of mColonne
+};
+
+} // namespace giacenza

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "database/connessione.h"
+#include "database/odbc.h"
+
+/// What a connection needs before its first use, and where the databases differ in it.
+namespace giacenza::odbc {
+
+/// The host's string with the limits that the drivers take from there alone. A driver ignores keywords that
+/// it does not know.
+QString conLimiti(const QString& stringa, const Limiti& limiti);
+
+/// The database behind an open connection. Throws ErroreDatabase.
+Dialetto dialettoDi(SQLHDBC collegamento);
+
+/// Sets on an open connection what the strings cannot: time-outs, and how texts are read. Throws
+/// ErroreDatabase, also for a MariaDB server that tells table names apart by their capitals.
+void preparaSessione(SQLHDBC collegamento, Dialetto dialetto, const Limiti& limiti);
+
+} // namespace giacenza::odbc

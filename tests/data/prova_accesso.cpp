@@ -1,0 +1,96 @@
+#include "base/impostazioni.h"
+#include "data/archivio.h"
+#include "support/bancadati.h"
+#include "support/stampa.h"
+
+#include <gmock/gmock.h>
+
+#include <thread>
+
+using namespace giacenza;
+using namespace giacenza::prove;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The way to the host's archive, and who traces it.
+class AccessoAllArchivio : public testing::TestWithParam<std::string>
+{
+protected:
+    AccessoAllArchivio() { impostazioni().percorsoDatabase = mBase.stringa(); }
+    ~AccessoAllArchivio() override
+    {
+        impostaTraccia({});
+        impostazioni() = {};
+    }
+
+    Traccia elenca()
+    {
+        return [this](EventoDati evento, const QString& testo) {
+            if (evento == EventoDati::istruzione)
+                mIstruzioni += testo;
+        };
+    }
+
+    BancaDati mBase{GetParam(), Contenuto::vuoto};
+    QStringList mIstruzioni;
+};
+
+INSTANTIATE_TEST_SUITE_P(Basi, AccessoAllArchivio, testing::Values("sqlite", "mariadb"),
+                         nomeBase<testing::TestParamInfo<std::string>>);
+
+TEST_P(AccessoAllArchivio, ELaStringaDellHost)
+{
+    EXPECT_EQ(accessoHost().stringa, mBase.stringa());
+    impostazioni().percorsoDatabase = u"DSN=altra"_s;
+    EXPECT_EQ(accessoHost().stringa, u"DSN=altra"_s);
+    EXPECT_EQ(accessoTracciato(u"DSN=terza"_s).stringa, u"DSN=terza"_s);
+}
+
+TEST_P(AccessoAllArchivio, LaTracciaValeAncheSeArrivaAConnessioneAperta)
+{
+    Connessione connessione;
+    connessione.apri(accessoHost());
+    connessione.esegui(u"select 1"_s);
+    impostaTraccia(elenca());
+    connessione.esegui(u"select 2"_s);
+    impostaTraccia({});
+    connessione.esegui(u"select 3"_s);
+    EXPECT_EQ(mIstruzioni, QStringList{u"select 2"_s});
+}
+
+TEST_P(AccessoAllArchivio, ChiTracciaRiceveQuelloDiPrima)
+{
+    impostaTraccia(elenca());
+    const Traccia prima = impostaTraccia({});
+    mBase.leggi(u"select 1"_s);
+    EXPECT_EQ(mIstruzioni, QStringList());
+    impostaTraccia(prima);
+    mBase.leggi(u"select 2"_s);
+    EXPECT_EQ(mIstruzioni, QStringList{u"select 2"_s});
+}
+
+TEST_P(AccessoAllArchivio, ChiTracciaPuoTogliersiMentreTraccia)
+{
+    Connessione connessione = mBase.connessione();
+    const Traccia elenco = elenca();
+    impostaTraccia([&elenco](EventoDati evento, const QString& testo) {
+        impostaTraccia({});
+        elenco(evento, testo); // reads what it captured, after it took itself away
+    });
+    connessione.esegui(u"select 1"_s);
+    connessione.esegui(u"select 2"_s);
+    EXPECT_EQ(mIstruzioni, QStringList{u"select 1"_s});
+}
+
+TEST_P(AccessoAllArchivio, OgniFiloHaLaSua)
+{
+    impostaTraccia(elenca());
+    std::thread([this] {
+        Connessione connessione = mBase.connessione();
+        connessione.esegui(u"select 1"_s);
+    }).join();
+    EXPECT_EQ(mIstruzioni, QStringList());
+}
+
+} // namespace
