@@ -2,7 +2,13 @@
 
 #include "base/impostazioni.h"
 
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStringList>
+
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
@@ -19,11 +25,51 @@ void racconta(EventoDati evento, const QString& testo)
     chiamata(evento, testo);
 }
 
+/// The value of a keyword of a connection string, without its braces; empty when it is not named.
+QString voce(const QString& stringa, const QString& chiave)
+{
+    const QRegularExpression modello(u"(?:^|;)\\s*%1\\s*=\\s*(?:\\{([^}]*)\\}|([^;]*))"_s.arg(chiave),
+                                     QRegularExpression::CaseInsensitiveOption);
+    const auto trovata = modello.match(stringa);
+    return trovata.captured(1).isEmpty() ? trovata.captured(2).trimmed() : trovata.captured(1);
+}
+
+/// The file that a connection string of SQLite's driver names; empty for another driver, and for one in
+/// memory.
+QString fileSqlite(const QString& stringa)
+{
+    if (!voce(stringa, u"DRIVER"_s).contains("sqlite"_L1, Qt::CaseInsensitive))
+        return {};
+    const QString file = voce(stringa, u"Database"_s);
+    return file.startsWith(u':') ? QString() : file;
+}
+
 } // namespace
 
 Accesso accessoHost()
 {
-    return accessoTracciato(impostazioni().percorsoDatabase);
+    const QString& stringa = impostazioni().percorsoDatabase;
+    const QString file = fileSqlite(stringa);
+    if (!file.isEmpty() && !QFileInfo::exists(file))
+        throw ErroreDatabase(u"08001"_s, 0, u"Il file dell'archivio non c'è: %1"_s.arg(file));
+    return accessoTracciato(stringa);
+}
+
+void verificaTabelle(Connessione& connessione)
+{
+    QStringList presenti = connessione.tabelle();
+    for (QString& tabella : presenti)
+        tabella = tabella.toLower();
+    QStringList mancanti;
+    for (const QString& tabella :
+         {u"letve00f"_s, u"giace00f"_s, u"clien"_s, u"filiali"_s, u"forni"_s, u"codicizona"_s,
+          u"tabfatturazione"_s, u"porto"_s, u"ekelvorqzt_tabge00f"_s})
+        if (!presenti.contains(tabella))
+            mancanti << tabella;
+    if (!mancanti.isEmpty())
+        throw ErroreDatabase(u"42S02"_s, 0,
+                             u"Nell'archivio mancano, o questo utente non le vede, le tabelle: %1"_s.arg(
+                                 mancanti.join(u", "_s)));
 }
 
 Accesso accessoTracciato(const QString& stringa)

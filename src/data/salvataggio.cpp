@@ -2,9 +2,11 @@
 
 #include "data/istruzioni.h"
 #include "data/numerazione.h"
+#include "data/verificasalvataggio.h"
 #include "database/nuovariga.h"
 #include "database/recordset.h"
 #include "database/sql.h"
+#include "database/tentativi.h"
 #include "database/transazione.h"
 
 #include <utility>
@@ -49,6 +51,45 @@ Riga componiRiga(const DatiGiacenza& dati)
     return riga;
 }
 
+/// The key of number and year is ours: that another workstation took the number first is a race, which the
+/// next number ends. That the waybill is held already is none.
+bool numeroPreso(const ErroreDatabase& errore)
+{
+    return errore.testo().contains("giace_numero"_L1, Qt::CaseInsensitive) ||
+           errore.testo().contains("giace00f.GIANGI, giace00f.GINRGI"_L1, Qt::CaseInsensitive);
+}
+
+void conferma(Transazione& transazione, const Connessione& connessione, const Accesso& accesso,
+              const ChiaveGiacenza& nuova, const DatiGiacenza& dati)
+{
+    try {
+        transazione.conferma();
+    } catch (const ErroreDatabase&) {
+        // A refusal is a refusal; an answer that never came may be a confirmation.
+        if (connessione.aperta() ||
+            !salvataggioRegistrato(accesso, nuova, {dati.filiale, dati.numeroLdv, dati.dataLdv.year()}))
+            throw;
+    }
+}
+
+/// One try, from the connection to the confirmation.
+QString inUnaTransazione(Connessione& schermo, const Accesso& accesso, const Riga& riga,
+                         const DatiGiacenza& dati)
+{
+    Connessione connessione;
+    connessione.apri(accesso);
+    Transazione transazione(connessione);
+    NuovaRiga giacenza(connessione, u"giace00f"_s);
+    for (const auto& [colonna, valore] : riga)
+        giacenza.imposta(colonna, valore);
+    const ChiaveGiacenza nuova = {ProssimoNumGiacenza(schermo), dati.dataGiacenza.year()};
+    giacenza.imposta(u"GINRGI"_s, nuova.numero);
+    giacenza.aggiungi();
+    connessione.esegui(istruzioni::collegaGiacenza(nuova, dati.numeroLdv, dati.dataLdv.year()));
+    conferma(transazione, connessione, accesso, nuova, dati);
+    return nuova.numero;
+}
+
 } // namespace
 
 Ammissione ControlloInserimento(Connessione& connessione, const QString& numeroLdv, QDate dataLdv)
@@ -68,19 +109,9 @@ Ammissione ControlloInserimento(Connessione& connessione, const QString& numeroL
 QString InserisciGiacenza(Connessione& schermo, const Accesso& accesso, const DatiGiacenza& dati)
 {
     const Riga riga = componiRiga(dati);
-    Connessione connessione;
-    connessione.apri(accesso);
-    Transazione transazione(connessione);
-    NuovaRiga giacenza(connessione, u"giace00f"_s);
-    for (const auto& [colonna, valore] : riga)
-        giacenza.imposta(colonna, valore);
-    const QString numero = ProssimoNumGiacenza(schermo);
-    giacenza.imposta(u"GINRGI"_s, numero);
-    giacenza.aggiungi();
-    connessione.esegui(
-        istruzioni::collegaGiacenza({numero, dati.dataGiacenza.year()}, dati.numeroLdv, dati.dataLdv.year()));
-    transazione.conferma();
-    return numero;
+    return conTentativi(
+        [&] { return inUnaTransazione(schermo, accesso, riga, dati); },
+        [](const ErroreDatabase& errore) { return numeroPreso(errore) || perConcorrenza(errore); });
 }
 
 } // namespace giacenza

@@ -44,7 +44,10 @@ struct DatiGiacenza
 /// both are in the database or neither.
 ///
 /// schermo: the screen's connection, on which the number is taken, outside the transaction: a failed save
-/// leaves a gap in the series. Returns the number given. Throws ErroreDatabase.
+/// leaves a gap in the series. accesso: the way to the database. Who loses the race for a number, or a
+/// deadlock, tries again with the next one (conTentativi); who loses the answer to the confirmation looks
+/// whether it was done. Returns the number given. Throws ErroreDatabase, with nothing written, and
+/// ErroreEsitoIgnoto when nobody can say.
 QString InserisciGiacenza(Connessione& schermo, const Accesso& accesso, const DatiGiacenza& dati);
 
 } // namespace giacenza

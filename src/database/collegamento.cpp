@@ -105,6 +105,17 @@ void Collegamento::terminaTransazione(SQLSMALLINT come)
     verifica(SQLEndTran(SQL_HANDLE_DBC, mManiglia, come), SQL_HANDLE_DBC, mManiglia);
 }
 
+bool Collegamento::viva() noexcept
+{
+    SQLUINTEGER morta = SQL_CD_FALSE;
+    const SQLRETURN esito =
+        SQLGetConnectAttr(mManiglia, SQL_ATTR_CONNECTION_DEAD, &morta, sizeof morta, nullptr);
+    // A driver that does not say is believed until a statement fails.
+    if (SQL_SUCCEEDED(esito) && morta == SQL_CD_TRUE)
+        mPerduto = true;
+    return aperto();
+}
+
 void Collegamento::inizia()
 {
     if (mInTransazione)

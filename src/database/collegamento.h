@@ -29,6 +29,10 @@ public:
     const Limiti& limiti() const noexcept { return mLimiti; }
     SQLHDBC maniglia() const noexcept { return mManiglia; }
 
+    /// Asks the driver whether the server is still there; a connection that is not is lost from here on.
+    bool viva() noexcept;
+
+    bool inTransazione() const noexcept { return mInTransazione; }
     void inizia();
     void conferma();
     /// When even rolling back fails the connection is closed: turning auto-commit on again would commit.

@@ -2,6 +2,9 @@
 
 #include "database/collegamento.h"
 #include "database/istruzioneodbc.h"
+#include "database/tentativi.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -45,11 +48,35 @@ void Connessione::chiudi() noexcept
     mCollegamento.reset();
 }
 
+bool Connessione::viva() noexcept
+{
+    return aperta() && mCollegamento->viva();
+}
+
 qint64 Connessione::esegui(const QString& istruzione)
 {
-    odbc::Istruzione comando(collegamento());
-    comando.esegui(istruzione);
-    return comando.finisci();
+    return conTentativi(
+        [&] {
+            odbc::Istruzione comando(collegamento());
+            comando.esegui(istruzione);
+            return comando.finisci();
+        },
+        [this](const ErroreDatabase& errore) {
+            return aperta() && !mCollegamento->inTransazione() && perConcorrenza(errore);
+        });
+}
+
+QStringList Connessione::tabelle()
+{
+    constexpr int colonnaNome = 2; // TABLE_NAME, of what SQLTables gives
+    odbc::Istruzione catalogo(collegamento());
+    catalogo.elencaTabelle();
+    QStringList nomi;
+    for (odbc::Riga riga; catalogo.leggi(riga, colonnaNome + 1);) {
+        const auto& cella = riga.celle[colonnaNome];
+        nomi << QString::fromUtf8(riga.dati.constData() + cella.inizio, std::max(cella.lunghezza, 0));
+    }
+    return nomi;
 }
 
 Dialetto Connessione::dialetto() const noexcept

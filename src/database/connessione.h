@@ -4,7 +4,7 @@
 
 #include <giacenza/Errore.h>
 
-#include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -57,12 +57,19 @@ public:
     void apri(const Accesso& accesso, const Limiti& limiti = {});
     /// Also false after an answer that told that the server is gone: apri() then opens anew.
     bool aperta() const noexcept;
+    /// Asks the driver, without a statement, whether the server is still there. False when closed.
+    bool viva() noexcept;
     /// Never fails; does nothing when closed.
     void chiudi() noexcept;
 
-    /// Runs a statement; rows that it gives are dropped. Throws ErroreDatabase, also when the connection is
+    /// Runs a statement; rows that it gives are dropped. Outside a transaction one that the database ended
+    /// because of another is run again (conTentativi). Throws ErroreDatabase, also when the connection is
     /// closed. Returns the number of rows it touched, -1 when the driver does not say.
     qint64 esegui(const QString& istruzione);
+
+    /// The tables and views that this user sees in the base, as the driver's catalog names them: no
+    /// statement, and not told to the tracer. Throws ErroreDatabase.
+    QStringList tabelle();
 
     Dialetto dialetto() const noexcept;
 

@@ -65,6 +65,13 @@ void Istruzione::esegui(const QString& testo)
     });
 }
 
+void Istruzione::elencaTabelle()
+{
+    const SQLHSTMT maniglia = viva();
+    mCollegamento->sorveglia(
+        [&] { controlla(SQLTables(maniglia, nullptr, 0, nullptr, 0, nullptr, 0, nullptr, 0)); });
+}
+
 void Istruzione::prepara(const QString& testo)
 {
     mTesto = testo;

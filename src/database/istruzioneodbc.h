@@ -36,6 +36,8 @@ public:
     const std::shared_ptr<Collegamento>& collegamento() const noexcept { return mCollegamento; }
 
     void esegui(const QString& testo);
+    /// Runs the driver's own catalog of tables and views.
+    void elencaTabelle();
     /// Sends the text without running it.
     void prepara(const QString& testo);
     void eseguiPreparata(std::span<const Valore> parametri);

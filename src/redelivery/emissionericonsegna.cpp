@@ -69,7 +69,7 @@ void EmissioneRiconsegna::leggi(LdvLetta& ldv)
         // An open result would hold back what the issuer writes, where the database is a file.
         riga.chiudi();
     } catch (const Errore& errore) {
-        mSchermata.stato(errore.testo());
+        mSchermata.statoGuasto(errore);
     }
 }
 
@@ -96,7 +96,7 @@ std::optional<ContoRiconsegne> EmissioneRiconsegna::contaGiacenza()
     try {
         return ContaRiconsegne(mSchermata.connessione(), {mParti.caso.numero(), giorno->year()});
     } catch (const Errore& errore) {
-        mSchermata.stato(u"La giacenza non si controlla: %1"_s.arg(errore.testo()));
+        mSchermata.statoGuasto(errore, u"La giacenza non si controlla. "_s);
         return std::nullopt;
     }
 }

@@ -75,7 +75,7 @@ std::function<void()> frmRiconsegna::silenzioso(std::function<void()> azione)
         try {
             azione();
         } catch (const Errore& errore) {
-            stato(errore.testo());
+            statoGuasto(errore);
         }
     });
 }

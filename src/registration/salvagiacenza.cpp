@@ -49,7 +49,7 @@ void SalvaGiacenza::salva()
             return mSchermata.stato(u"La data della lettera di vettura non è valida."_s);
         ammissione = ControlloInserimento(mSchermata.connessione(), tag(mUi.txtLDV), *giorno);
     } catch (const Errore& errore) {
-        return mSchermata.stato(errore.testo());
+        return mSchermata.statoGuasto(errore, u"Niente è stato salvato; riprovare con Salva. "_s);
     }
     if (ammessa(ammissione))
         inserisci();
@@ -100,7 +100,7 @@ void SalvaGiacenza::inserisci()
     try {
         scrivi(mUi.lblNrGia, InserisciGiacenza(mSchermata.connessione(), accessoHost(), dati()));
     } catch (const Errore& errore) {
-        mSchermata.stato(errore.testo());
+        mSchermata.statoGuasto(errore);
         mSchermata.messaggio(u"Impossibile aggiungere la nuova giacenza."_s, Stile::critico);
         return;
     }
@@ -119,7 +119,9 @@ void SalvaGiacenza::avvisa()
         mAvviso.EmettiAvvisoGiacenza(false);
     } catch (const Errore& errore) {
         // What follows a save that succeeded ends without a message: the held shipment is there.
-        mSchermata.stato(u"L'avviso non è stato emesso: %1"_s.arg(errore.testo()));
+        mSchermata.statoGuasto(
+            errore, u"La giacenza %1 è registrata, l'avviso no: emetterlo con il suo bottone. "_s.arg(
+                        mParti.caso.numero()));
     }
 }
 

@@ -104,7 +104,7 @@ Seguito CampoCliente::verifica(const QString& codice, const Seguito& errato,
         if (trovato)
             trovato(cliente.valore(0).value_or(QString()));
     } catch (const ErroreDatabase& errore) {
-        mSchermata.stato(errore.testo());
+        mSchermata.statoGuasto(errore);
     }
     return {};
 }

@@ -67,7 +67,7 @@ void CampoFiliale::leggiNome()
         if (!filiale.eof())
             scrivi(mBarra, filiale.valore(0).value_or(QString()));
     } catch (const ErroreDatabase& errore) {
-        mSchermata.stato(errore.testo());
+        mSchermata.statoGuasto(errore);
     }
 }
 

@@ -38,7 +38,7 @@ void PartiComuni::riempi()
     try {
         CaricaPorto(mControlli.cmbPorto, mSchermata.connessione());
     } catch (const ErroreDatabase& errore) {
-        mSchermata.stato(u"I termini di porto non si leggono: %1"_s.arg(errore.testo()));
+        mSchermata.statoGuasto(errore, u"I termini di porto non si leggono. "_s);
     }
     filialeGiacenza.leggiFiliali();
     oggiNelleDate();

@@ -1,8 +1,8 @@
 #include "screens/schermata.h"
 
+#include "base/spiegazioni.h"
 #include "base/testoerrore.h"
 #include "data/archivio.h"
-#include "database/recordset.h"
 #include "screens/aspetto.h"
 #include "widgets/primopiano.h"
 
@@ -22,28 +22,28 @@ struct Abbandono
 
 } // namespace
 
-Schermata::Schermata(const QString& nome) : mConvalida(new Convalida(this))
+Schermata::Schermata(const QString& nome)
+    : mConvalida(new Convalida(this)), mArchivio(new ArchivioSchermata(this))
 {
     setObjectName(nome);
     setAttribute(Qt::WA_QuitOnClose, false);
     setStyleSheet(aspettoSchermata());
 }
 
-Connessione& Schermata::connessione()
+void Schermata::carica()
 {
-    mConnessione.apri(accessoHost());
-    return mConnessione;
+    verificaTabelle(connessione());
 }
 
-void Schermata::rilasciaConnessione()
-{
-    ChiudiOggettiDB(nullptr, &mConnessione, Rilascio::si, Mantieni::no);
-}
-
-void Schermata::stato(const QString& testo)
+void Schermata::stato(const QString& testo, const QString& dettaglio)
 {
     mStato->setText(testo.section(u'\n', 0, 0));
-    mStato->setToolTip(testo);
+    mStato->setToolTip(dettaglio.isEmpty() ? testo : dettaglio);
+}
+
+void Schermata::statoGuasto(const Errore& errore, const QString& cheCosa)
+{
+    stato(cheCosa + spiega(errore), cheCosa + errore.testo());
 }
 
 std::function<void()> Schermata::gestore(std::function<void()> azione)
@@ -55,11 +55,16 @@ std::function<void()> Schermata::gestore(std::function<void()> azione)
             } catch (const Abbandono&) {
                 throw;
             } catch (const ErroreDatabase& errore) {
-                guasto(u"Operazione non riuscita: il database o un suo dato non risponde come dovrebbe."_s,
-                       errore.testo());
+                statoGuasto(errore);
+                messaggio(
+                    u"Operazione non riuscita: il database o un suo dato non risponde come dovrebbe.\n\n"_s +
+                        errore.testo(),
+                    Stile::critico, titoloGestione());
             } catch (...) {
                 // A part of the host's throws what it likes, and nothing may pass through Qt's loop.
-                guasto(u"Operazione non riuscita."_s, testoErrore());
+                stato(testoErrore());
+                messaggio(u"Operazione non riuscita.\n\n"_s + testoErrore(), Stile::critico,
+                          titoloGestione());
             }
         } catch (const Abbandono&) {
             // The screen is gone: there is nobody to tell.
@@ -82,12 +87,6 @@ Risposta Schermata::messaggio(const QString& testo, Stile stile, const QString& 
     return risposta;
 }
 
-void Schermata::guasto(const QString& cheCosa, const QString& perche)
-{
-    stato(perche);
-    messaggio(cheCosa + u"\n\n"_s + perche, Stile::critico, titoloGestione());
-}
-
 bool Schermata::event(QEvent* evento)
 {
     // Not every system activates the screen anew when a box over it has closed.
@@ -108,7 +107,7 @@ void Schermata::closeEvent(QCloseEvent* evento)
         return;
     mUscita = true;
     mConvalida->sospendi();
-    mConnessione.chiudi();
+    mArchivio->rilascia();
     hide();
     deleteLater();
     Q_EMIT Uscita();

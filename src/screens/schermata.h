@@ -2,7 +2,7 @@
 
 #include "base/messaggi.h"
 #include "base/modale.h"
-#include "database/connessione.h"
+#include "screens/archivioschermata.h"
 #include "screens/convalida.h"
 
 #include <QWidget>
@@ -20,15 +20,18 @@ class Schermata : public QWidget
 public:
     /// Opens the screen's connection and fills what does not depend on a shipment. Called once, before the
     /// screen is shown; throws ErroreDatabase unchanged.
-    virtual void carica() { connessione(); }
+    virtual void carica();
 
     /// The screen's connection, opened when it is closed. Throws ErroreDatabase.
-    Connessione& connessione();
+    Connessione& connessione() { return mArchivio->connessione(); }
     /// Closes and releases it; the next use opens it again.
-    void rilasciaConnessione();
+    void rilasciaConnessione() { mArchivio->rilascia(); }
 
-    /// What the screen says where no message box is due; empty clears it.
-    void stato(const QString& testo);
+    /// What the screen says where no message box is due; empty clears it. dettaglio: for whoever rests on it.
+    void stato(const QString& testo, const QString& dettaglio = {});
+    /// The same for a failure, in Italian; the driver's words are the detail. cheCosa: what it means, goes
+    /// before.
+    void statoGuasto(const Errore& errore, const QString& cheCosa = {});
 
     /// Makes a handler of what a control starts: whatever is thrown is told, a database failure as such, and
     /// a screen that was left under its own message or dialog ends the handler without a word.
@@ -54,7 +57,7 @@ public:
     Convalida& convalida() { return *mConvalida; }
 
     /// For the screen's parts: where stato() writes.
-    void setRigaStato(QLabel* riga) { mStato = riga; }
+    void setRigaStato(QLabel* riga) { mArchivio->setRigaStato(mStato = riga); }
 
 Q_SIGNALS:
     /// The operator has left: the connection is closed, and the screen goes by itself.
@@ -70,11 +73,9 @@ protected:
     void closeEvent(QCloseEvent* evento) override;
 
 private:
-    void guasto(const QString& cheCosa, const QString& perche);
-
     Convalida* mConvalida;
+    ArchivioSchermata* mArchivio;
     QLabel* mStato = nullptr;
-    Connessione mConnessione;
     bool mUscita = false;
 };
 

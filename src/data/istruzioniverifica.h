@@ -1,0 +1,25 @@
+#pragma once
+
+#include "data/istruzioni.h"
+
+/// The statements that find out, after a connection was cut, what of a save is in the archive.
+namespace giacenza::istruzioni {
+
+/// conBlocco waits for a transaction that still holds the row, which a database that is a file neither needs
+/// nor knows.
+enum class Lettura
+{
+    semplice,
+    conBlocco
+};
+
+/// Has the next reading on a cluster wait for what was confirmed on its other nodes.
+QString attesaDelGruppo();
+
+/// GINRGI of a held shipment, if it is there and holds that waybill.
+QString giacenzaRegistrata(const ChiaveGiacenza& nuova, const QString& numeroLdv, Lettura come);
+
+/// LERFGI of a waybill, if it is linked to that held shipment.
+QString legameRegistrato(const ChiaveGiacenza& nuova, const QString& numeroLdv, int annoLdv, Lettura come);
+
+} // namespace giacenza::istruzioni
