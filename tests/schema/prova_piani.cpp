@@ -38,6 +38,8 @@ const QStringList ammesse{
     u"ricercaSoggetti ragioneSociale"_s,
     u"ricercaSoggetti localita"_s,
     u"ricercaSoggetti provincia"_s,
+    // The highest number of a year is a text's value: the year's waybills are looked through.
+    u"ultimoNumeroLdv"_s,
 };
 
 QStringList grandiNominate(const QString& istruzione)
