@@ -41,7 +41,7 @@ struct Contesto
     /// Tells the operator something in the component's own box, over finestra, and returns when he has read
     /// it. Empty where the host that made the context has none: the part must look. A part shows no box of
     /// its own.
-    std::function<void(const Racconto& racconto)> racconta;
+    std::function<void(const Racconto& racconto)> racconta{};
 };
 
 /// What a part from outside also implements when it wants the context. The component hands it over right
