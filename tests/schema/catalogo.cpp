@@ -129,15 +129,22 @@ std::vector<VoceCatalogo> letture(const Campione& c)
     };
 }
 
-/// What the issue of a waybill sends. The waybill of the held shipment stands for the one that is issued.
+/// What the issue of a waybill sends on that database. The waybill of the held shipment stands for the one
+/// that is issued.
 std::vector<VoceCatalogo> emissione(const Campione& c, Dialetto dialetto)
 {
-    return {
+    const QString anno = QString::number(c.spedizione.anno);
+    std::vector<VoceCatalogo> voci{
         {u"indirizzoCliente"_s, indirizzoCliente(), {c.cliente}},
         {u"codaEmittenti"_s, codaEmittenti()},
-        {u"ultimoNumeroLdv"_s, ultimoNumeroLdv(dialetto), {QString::number(c.spedizione.anno)}},
+        {u"ultimoNumeroLdv"_s, ultimoNumeroLdv(dialetto), {anno}},
         {u"portoPerNumero"_s, portoPerNumero(), {u"1"_s}},
     };
+    if (dialetto == Dialetto::mariadb) {
+        voci.push_back({u"colonnaNumeroLdv"_s, colonnaNumeroLdv()});
+        voci.push_back({u"ultimoNumeroLdvDaColonna"_s, ultimoNumeroLdvDaColonna(), {anno}});
+    }
+    return voci;
 }
 
 std::vector<VoceCatalogo> scritture(const Campione& c)
