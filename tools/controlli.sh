@@ -22,7 +22,7 @@ vieta()
 
 sorgenti -name '*.cpp' -o -name '*.h' | xargs -0 -r clang-format --dry-run -Werror
 shellcheck -x -P SCRIPTDIR run test bench .ci/run tools/*.sh tools/mariadb-privato tests/comandi/prova_comandi \
-    tests/host/prova_schermo
+    tests/host/prova_schermo tests/plugins/prova_statoparti
 vieta "blanks at the end of a line." -E '[[:blank:]]+$'
 vieta "a reference to a paper that the reader of this tree does not have." \
     -E '\bParts? [1-6]\.[1-6]\b|\b[Ss]pecification\b|\bspec\.md\b'

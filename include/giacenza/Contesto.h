@@ -5,9 +5,25 @@
 #include <QDate>
 #include <QString>
 
+#include <functional>
+
 class QWidget;
 
 namespace giacenza {
+
+/// How something that a part tells the operator is meant: by the icon of the box.
+enum class Tono : int
+{
+    rifiuto = 0, ///< the part would not do it: warning
+    guasto = 1,  ///< something broke: stop
+};
+
+/// What a part tells the operator.
+struct Racconto
+{
+    QString testo; ///< plain text, as many lines as it needs
+    Tono tono = Tono::rifiuto;
+};
 
 /// What the component knows of the movement that is being issued, beyond what it hands over with it.
 struct Contesto
@@ -21,6 +37,11 @@ struct Contesto
     int riconsegne = 0;             ///< earlier re-deliveries that the check found, and the operator accepted
     QDate oggi;                     ///< the component's today
     QWidget* finestra = nullptr;    ///< over which the part's windows open; may go while one of them is open
+
+    /// Tells the operator something in the component's own box, over finestra, and returns when he has read
+    /// it. Empty where the host that made the context has none: the part must look. A part shows no box of
+    /// its own.
+    std::function<void(const Racconto& racconto)> racconta{};
 };
 
 /// What a part from outside also implements when it wants the context. The component hands it over right

@@ -30,7 +30,8 @@ public:
 /// and drives it in the order of the members: everything is set first, then the waybill is issued, then the
 /// object is released.
 ///
-/// An issuer tells the operator by itself what went wrong: the component shows no message for it.
+/// An issuer tells the operator by itself what went wrong, through the context (Contesto.h): the component
+/// shows no message of its own for it.
 class GIACENZA_EXPORT EmittenteLdv : public ParteEsterna
 {
 public:

@@ -1,46 +1,25 @@
 #include "emissione/emittente.h"
 
-#include "emissione/letteravettura.h"
-#include "stampa/archivio.h"
-#include "stampa/pdf.h"
+#include "comune/archivio.h"
+#include "comune/pdf.h"
+#include "reports/letters/letteravettura.h"
 
+#include <QDebug>
 #include <QDir>
-#include <QGuiApplication>
-#include <QMessageBox>
-#include <QPointer>
 #include <QTemporaryFile>
-#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
 namespace giacenza::emissione {
 
-namespace {
-
-bool sempreInPrimoPiano(const QWidget* finestra)
+/// The host may have none that listens; then the reason stands in its log at least.
+void EmittenteDeposito::racconta(const QString& testo) const
 {
-    const QWindow* nativa = finestra ? finestra->window()->windowHandle() : nullptr;
-    return nativa && nativa->flags().testFlag(Qt::WindowStaysOnTopHint);
+    if (mContesto.racconta)
+        mContesto.racconta({testo});
+    else
+        qWarning().noquote() << testo;
 }
-
-/// Modal over the window, which may go while the box is open. Above a window that stays on top, too.
-void racconta(QWidget* finestra, const QString& testo)
-{
-    const QPointer<QMessageBox> scatola = new QMessageBox(finestra);
-    scatola->setObjectName(u"msgEmissione"_s);
-    scatola->setWindowTitle(QGuiApplication::applicationDisplayName());
-    scatola->setIcon(QMessageBox::Warning);
-    scatola->setTextFormat(Qt::PlainText);
-    scatola->setText(testo);
-    scatola->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    scatola->setAttribute(Qt::WA_QuitOnClose, false);
-    if (sempreInPrimoPiano(finestra))
-        scatola->setWindowFlag(Qt::WindowStaysOnTopHint, true);
-    scatola->exec();
-    delete scatola;
-}
-
-} // namespace
 
 QString EmittenteDeposito::emetti(const RecordLdv& ldv)
 {
@@ -52,7 +31,7 @@ QString EmittenteDeposito::emetti(const RecordLdv& ldv)
     } catch (const std::exception& errore) {
         motivo = u"La lettera di vettura non è stata emessa: %1"_s.arg(QString::fromUtf8(errore.what()));
     }
-    racconta(mContesto.finestra, motivo);
+    racconta(motivo);
     return {};
 }
 
@@ -69,8 +48,8 @@ void EmittenteDeposito::controllaCartella() const
 /// Returns the file as the operator reads it.
 QString EmittenteDeposito::stampaLdv(Connessione& connessione, const LdvEmessa& emessa) const
 {
-    const auto byte = stampa::pdf(*componiLdv(connessione, emessa, mPercorsoLogo), nullptr);
-    const QString file = stampa::archivia(
+    const auto byte = comune::pdf(*componiLdv(connessione, emessa, mPercorsoLogo), nullptr);
+    const QString file = comune::archivia(
         mCartellaStampa, u"LDV_%1_%2_%3"_s.arg(emessa.filiale, emessa.numero, QString::number(emessa.anno)),
         byte.value());
     return QDir::toNativeSeparators(file);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "emissione/nuovaldv.h"
+#include "data/nuovaldv.h"
 
 #include <giacenza/Contesto.h>
 #include <giacenza/EmittenteLdv.h>
@@ -8,7 +8,8 @@
 namespace giacenza::emissione {
 
 /// The depot's own waybill issuer: adds the waybill of a re-delivery or of a return to the host's waybills,
-/// and prints it as a PDF into the print folder. Whatever fails is told in one box.
+/// and prints it as a PDF into the print folder. Whatever fails is told once, as a refusal, through the
+/// context; without one it is written to the log.
 class EmittenteDeposito : public EmittenteLdv, public ParteConContesto
 {
 public:
@@ -27,6 +28,7 @@ private:
     QString emettiOLancia(const RecordLdv& ldv) const;
     QString stampaLdv(Connessione& connessione, const LdvEmessa& emessa) const;
     void controllaCartella() const;
+    void racconta(const QString& testo) const;
 
     Traccia mTraccia;
     Contesto mContesto;

@@ -1,6 +1,6 @@
 #include "stampa/anteprima.h"
 
-#include "stampa/pagine.h"
+#include "comune/pagine.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -39,9 +39,9 @@ private:
 };
 
 /// The pages that the operator chose in the printing dialog.
-Pagine scelte(const QPrinter& stampante, const Documento& documento)
+comune::Pagine scelte(const QPrinter& stampante, const Documento& documento)
 {
-    const Pagine intere = tutte(documento);
+    const comune::Pagine intere = comune::tutte(documento);
     if (stampante.printRange() != QPrinter::PageRange || stampante.fromPage() < 1)
         return intere;
     const int da = std::min(stampante.fromPage() - 1, intere.a - 1);
@@ -67,7 +67,7 @@ void dipingi(Documento& documento, QPrinter& stampante, QWidget* finestra)
     if (stampante.paintEngine()->type() == QPaintEngine::Picture)
         dipingiAnteprima(documento, stampante);
     else
-        dipingiPagine(documento, scelte(stampante, documento), stampante, finestra);
+        comune::dipingiPagine(documento, scelte(stampante, documento), stampante, finestra);
 }
 
 } // namespace

@@ -1,9 +1,9 @@
 #include "stampa/modulodeposito.h"
 
+#include "comune/archivio.h"
+#include "comune/pdf.h"
 #include "stampa/anteprima.h"
-#include "stampa/archivio.h"
 #include "stampa/modalita.h"
-#include "stampa/pdf.h"
 #include "stampa/stampante.h"
 
 #include <QDir>
@@ -50,14 +50,14 @@ void ModuloDeposito::stampaDocumento(const QString& chiave, bool& nonProdotto)
 
     mRichiesta.chiave = chiave;
     const std::unique_ptr<Documento> documento = mFonte->documento(mRichiesta);
-    const std::optional<QByteArray> byte = documento ? pdf(*documento, mPadre) : std::nullopt;
+    const std::optional<QByteArray> byte = documento ? comune::pdf(*documento, mPadre) : std::nullopt;
     if (!byte) {
         nonProdotto = true;
         return;
     }
     const bool buonFine = mRichiesta.tipo == TipoDocumento::buonFine;
     const QString percorso =
-        archivia(mFonte->cartellaDocumenti(), buonFine ? chiave + u"_buonfine"_s : chiave, *byte);
+        comune::archivia(mFonte->cartellaDocumenti(), buonFine ? chiave + u"_buonfine"_s : chiave, *byte);
     mFonte->archiviato(percorso);
     try {
         consegna(*documento, mFonte->impostazione(u"Modalita"_s), mPadre);

@@ -1,6 +1,6 @@
 #include "stampa/stampante.h"
 
-#include "stampa/pagine.h"
+#include "comune/pagine.h"
 
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -25,7 +25,7 @@ bool stampaSu(QPrinter& stampante, Documento& documento, QWidget* padre)
     stampante.setDocName(documento.titolo());
     stampante.setPageLayout(documento.impaginazione());
     documento.ricomincia();
-    return dipingiPagine(documento, tutte(documento), stampante, padre);
+    return comune::dipingiPagine(documento, comune::tutte(documento), stampante, padre);
 }
 
 } // namespace giacenza::stampa

@@ -129,6 +129,11 @@ Contesto EmissioneRiconsegna::contesto(const Scelte& scelte,
 {
     const auto giorno = mParti.dataGiacenza.giorno();
     const Movimento movimento = impostazioni().movimento;
+    const QPointer<QWidget> finestra = &mSchermata;
+    const auto racconta = [finestra](const Racconto& racconto) {
+        const Stile stile = racconto.tono == Tono::guasto ? Stile::critico : Stile::avviso;
+        mostraMessaggio(finestra, {racconto.testo, stile, titoloApplicazione()});
+    };
     return {.lavoro = etichettaReso(movimento),
             .resoAMittente = movimento == Movimento::reso,
             .porto = scelte.porto.toInt(),
@@ -137,7 +142,8 @@ Contesto EmissioneRiconsegna::contesto(const Scelte& scelte,
             .controlloGiacenza = scelte.controllo,
             .riconsegne = conto ? conto->riconsegne : 0,
             .oggi = oggi(),
-            .finestra = &mSchermata};
+            .finestra = finestra,
+            .racconta = racconta};
 }
 
 void EmissioneRiconsegna::emetti(const LdvLetta& ldv, bool stampa, const Contesto& contesto)

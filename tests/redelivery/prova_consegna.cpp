@@ -6,14 +6,18 @@
 
 #include <QCoreApplication>
 #include <QLabel>
+#include <QMessageBox>
+#include <QScopeGuard>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <utility>
 
 using namespace giacenza;
 using namespace giacenza::prove;
 using namespace Qt::StringLiterals;
+using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -64,6 +68,49 @@ TEST_P(Consegna, LaSchermataDistruttaNelMezzoFinisceInSilenzio)
     cerca(u"950"_s);
     emetti();
     EXPECT_TRUE(mSchermata.isNull());
+}
+
+TEST_P(Consegna, CioCheLEmittenteRaccontaPassaDallaPortaSopraLaSchermata)
+{
+    QList<QWidget*> padri;
+    mMessaggi.mentreAperto([&](QWidget* padre, const Messaggio&) { padri << padre; });
+    mEmissioni.durante = [this] {
+        const Contesto contesto = mEmissioni.contesti.back();
+        contesto.racconta({u"non si può"_s});
+        contesto.racconta({u"carta finita"_s, Tono::guasto});
+        delete mSchermata;
+        contesto.racconta({u"la schermata non c'è più"_s});
+    };
+    cerca(u"950"_s);
+    QWidget* schermata = mSchermata;
+    emetti();
+    EXPECT_THAT(mMessaggi.prendi(),
+                ElementsAre(Messaggio{u"non si può"_s, Stile::avviso, titoloApplicazione()},
+                            Messaggio{u"carta finita"_s, Stile::critico, titoloApplicazione()},
+                            Messaggio{u"la schermata non c'è più"_s, Stile::avviso, titoloApplicazione()}));
+    EXPECT_EQ(padri, (QList<QWidget*>{schermata, schermata, nullptr}));
+}
+
+TEST_P(Consegna, LaScatolaDellEmittenteStaSopraLaSchermataInPrimoPiano)
+{
+    const PortaMessaggi registro = impostaPortaMessaggi({});
+    const auto rimetti = qScopeGuard([&] { impostaPortaMessaggi(registro); });
+    mEmissioni.durante = [this] {
+        const QuandoAperta<QMessageBox> intanto([this](QMessageBox& scatola) {
+            EXPECT_TRUE(mSchermata->windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint));
+            EXPECT_TRUE(scatola.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+            EXPECT_EQ(scatola.parentWidget(), mSchermata);
+            EXPECT_EQ(scatola.windowTitle(), titoloApplicazione());
+            EXPECT_EQ(scatola.icon(), QMessageBox::Warning);
+            EXPECT_EQ(scatola.text(), u"<b>non</b> si può"_s);
+            EXPECT_EQ(scatola.textFormat(), Qt::PlainText);
+            scatola.accept();
+        });
+        mEmissioni.contesti.back().racconta({u"<b>non</b> si può"_s});
+    };
+    cerca(u"950"_s);
+    emetti();
+    EXPECT_EQ(stato()->text(), u"Emessa da 950"_s) << "the box was read, and the issue went on";
 }
 
 TEST_P(Consegna, IlBottonePremutoDiNuovoMentreSiEmetteNonFaNulla)

@@ -1,6 +1,7 @@
 #include "reports/letters/fontedocumenti.h"
 
 #include "base/cartellaprova.h"
+#include "base/orologio.h"
 #include "reports/casodiprova.h"
 #include "reports/letters/reportcondivisi.h"
 #include "reports/pagineprova.h"
@@ -98,6 +99,22 @@ TEST_F(Fonte, ciascunTipoHaIlSuoDocumento)
     EXPECT_EQ(fonte().documento(richiestaDelCaso(base))->titolo(), u"Avviso di giacenza 1234/2015"_s);
     EXPECT_EQ(fonte().documento(richiestaDelCaso(base, TipoDocumento::buonFine))->titolo(),
               u"Buon fine della giacenza 1234/2015"_s);
+}
+
+TEST_F(Fonte, ilGiornoEQuelloDelComponente)
+{
+    const giacenza::prove::BancaDati base("sqlite");
+    giacenza::prove::aggiungiCaso(base);
+    base.esegui(u"update giace00f set GIDTAV=null, GIDTBF=null"_s);
+    for (const QDate giorno : {QDate(2015, 4, 1), QDate(2015, 4, 2)}) {
+        impostaOggi(giorno);
+        for (const TipoDocumento tipo : {TipoDocumento::avviso, TipoDocumento::buonFine}) {
+            const auto documento = fonte().documento(giacenza::prove::richiestaDelCaso(base, tipo));
+            const auto& report = dynamic_cast<const DocumentoReport&>(*documento);
+            EXPECT_EQ(testo(report.pagina(0), u"txtData"_s), dataBreve(giorno));
+        }
+    }
+    impostaOggi({});
 }
 
 TEST_F(Fonte, unImportoCheNonENumeroSiMostraENonDaDocumento)

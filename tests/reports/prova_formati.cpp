@@ -18,7 +18,7 @@ class Formati : public testing::Test
 protected:
     QString con(const Formato& formato, const Valore& valore)
     {
-        return formato({valore, mRiga, mConnessione});
+        return formato({valore, mRiga, mConnessione, QDate(2015, 4, 1)});
     }
 
     RigaReport mRiga;

@@ -1,6 +1,5 @@
 #include "reports/letters/rptavviso.h"
 
-#include "base/orologio.h"
 #include "reports/casodiprova.h"
 #include "reports/pagineprova.h"
 #include "support/registromessaggi.h"
@@ -20,9 +19,8 @@ class Avviso : public testing::TestWithParam<std::string>
 {
 protected:
     Avviso() { giacenza::prove::aggiungiCaso(mBase); }
-    ~Avviso() override { impostaOggi({}); }
 
-    std::unique_ptr<DocumentoReport> componi() { return mAvviso.componi(mRichiesta, nullptr); }
+    std::unique_ptr<DocumentoReport> componi() { return mAvviso.componi(mRichiesta, mOggi, nullptr); }
     PaginaReport pagina() { return componi()->pagina(0); }
 
     void esegui(const QString& istruzione) { mBase.esegui(istruzione); }
@@ -31,6 +29,7 @@ protected:
     RichiestaDocumento mRichiesta = giacenza::prove::richiestaDelCaso(mBase);
     giacenza::prove::RegistroMessaggi mRegistro;
     RptAvviso mAvviso;
+    QDate mOggi{2015, 4, 1};
 };
 
 INSTANTIATE_TEST_SUITE_P(Basi, Avviso, testing::Values("sqlite", "mariadb"),
@@ -88,7 +87,6 @@ TEST_P(Avviso, diceTuttoDellaGiacenza)
 
 TEST_P(Avviso, conTuttoNullEsceLoStesso)
 {
-    impostaOggi(QDate(2015, 4, 1));
     esegui(
         u"update giace00f set GICODI=null, GIFIGI=null, GIDTGI=null, GIGGSO=null, GINRAV=null, GIDTAV=null, "
         "GIDES1=null, GIDTBF=null, GIIMGI=null, FissoGiacenza=null"_s);
@@ -157,7 +155,7 @@ TEST_P(Avviso, unErroreNelMagazzinoSiMostraENonStampa)
 
 TEST_P(Avviso, giorniDiSostaFinoAllAvvisoESoloSePositivi)
 {
-    impostaOggi(QDate(2015, 3, 30));
+    mOggi = QDate(2015, 3, 30);
     esegui(u"update giace00f set GIDTAV=null"_s);
     EXPECT_EQ(testo(pagina(), u"txtGiorniSosta"_s), u"25"_s);
     esegui(u"update giace00f set GIDTAV='2015-03-05'"_s);
@@ -274,7 +272,7 @@ TEST_P(Avviso, laSecondaStampaContaDaZero)
         secondi = 0;
         return [&] { return secondi; };
     });
-    const auto documento = mAvviso.componi(mRichiesta, nullptr);
+    const auto documento = mAvviso.componi(mRichiesta, mOggi, nullptr);
     ASSERT_TRUE(documento);
     QImage carta(210, 297, QImage::Format_RGB32);
     QPainter pittore(&carta);

@@ -22,7 +22,7 @@ class BuonFine : public testing::TestWithParam<std::string>
 protected:
     BuonFine() { giacenza::prove::aggiungiCaso(mBase); }
 
-    PaginaReport pagina() { return mBuonFine.componi(mRichiesta, nullptr)->pagina(0); }
+    PaginaReport pagina() { return mBuonFine.componi(mRichiesta, QDate(2015, 4, 1), nullptr)->pagina(0); }
 
     void nascondi(const QStringList& nomi)
     {
@@ -41,7 +41,7 @@ INSTANTIATE_TEST_SUITE_P(Basi, BuonFine, testing::Values("sqlite", "mariadb"),
 
 TEST_P(BuonFine, diceLaChiusuraEICosti)
 {
-    const auto documento = mBuonFine.componi(mRichiesta, nullptr);
+    const auto documento = mBuonFine.componi(mRichiesta, QDate(2015, 4, 1), nullptr);
     EXPECT_EQ(documento->titolo(), u"Buon fine della giacenza 1234/2015"_s);
     ASSERT_EQ(documento->pagine(), 1);
     const PaginaReport& p = documento->pagina(0);

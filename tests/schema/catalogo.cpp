@@ -1,6 +1,7 @@
 #include "catalogo.h"
 
 #include "data/istruzioni.h"
+#include "data/istruzioniemissione.h"
 #include "data/istruzionireport.h"
 #include "data/istruzioniricerca.h"
 #include "data/istruzionisoggetti.h"
@@ -128,6 +129,24 @@ std::vector<VoceCatalogo> letture(const Campione& c)
     };
 }
 
+/// What the issue of a waybill sends on that database. The waybill of the held shipment stands for the one
+/// that is issued.
+std::vector<VoceCatalogo> emissione(const Campione& c, Dialetto dialetto)
+{
+    const QString anno = QString::number(c.spedizione.anno);
+    std::vector<VoceCatalogo> voci{
+        {u"indirizzoCliente"_s, indirizzoCliente(), {c.cliente}},
+        {u"codaEmittenti"_s, codaEmittenti()},
+        {u"ultimoNumeroLdv"_s, ultimoNumeroLdv(dialetto), {anno}},
+        {u"portoPerNumero"_s, portoPerNumero(), {u"1"_s}},
+    };
+    if (dialetto == Dialetto::mariadb) {
+        voci.push_back({u"colonnaNumeroLdv"_s, colonnaNumeroLdv()});
+        voci.push_back({u"ultimoNumeroLdvDaColonna"_s, ultimoNumeroLdvDaColonna(), {anno}});
+    }
+    return voci;
+}
+
 std::vector<VoceCatalogo> scritture(const Campione& c)
 {
     const QDate oggi = c.dataGiacenza.addDays(1);
@@ -150,7 +169,8 @@ std::vector<VoceCatalogo> catalogo(const BancaDati& base)
 {
     const Campione c = campione(base);
     std::vector<VoceCatalogo> tutte = letture(c);
-    for (const auto& altre : {scritture(c), ricerche(c), soggetti(c)})
+    const Dialetto dialetto = base.connessione().dialetto();
+    for (const auto& altre : {scritture(c), ricerche(c), soggetti(c), emissione(c, dialetto)})
         tutte.insert(tutte.end(), altre.begin(), altre.end());
     return tutte;
 }

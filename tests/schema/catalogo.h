@@ -19,7 +19,7 @@ inline void PrintTo(const VoceCatalogo& voce, std::ostream* uscita)
     *uscita << voce.nome.toStdString();
 }
 
-/// Every statement of the component, with the values of a held shipment of the database.
+/// Every statement that the component sends to this database, with the values of a held shipment of it.
 std::vector<VoceCatalogo> catalogo(const BancaDati& base);
 
 } // namespace giacenza::prove

@@ -48,6 +48,8 @@ void leggiMariadb(Piano& piano, const QJsonValue& valore)
             accesso.colonne << colonna.toString().toLower();
         piano.accessi << accesso;
     }
+    piano.soloDaIndice =
+        piano.soloDaIndice || oggetto.value("message"_L1).toString() == "Select tables optimized away"_L1;
     for (auto membro = oggetto.begin(); membro != oggetto.end(); ++membro) {
         piano.ordina = piano.ordina || membro.key() == "filesort"_L1;
         leggiMariadb(piano, membro.value());

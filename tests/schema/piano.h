@@ -17,7 +17,9 @@ struct Piano
 {
     QList<Accesso> accessi;
     bool ordina = false; ///< it gathers the rows and sorts them before it gives the first
-    QString testo;       ///< as the database tells it
+    /// The answer is one end of an index, taken before anything is read: no table is named. MariaDB only.
+    bool soloDaIndice = false;
+    QString testo; ///< as the database tells it
 
     /// Tables that are read, and those that are read whole.
     QStringList tabelle() const;

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 
@@ -38,6 +39,8 @@ const QStringList ammesse{
     u"ricercaSoggetti ragioneSociale"_s,
     u"ricercaSoggetti localita"_s,
     u"ricercaSoggetti provincia"_s,
+    // On MariaDB without the column of the number; on SQLite the index of the year holds the number too.
+    u"ultimoNumeroLdv"_s,
 };
 
 QStringList grandiNominate(const QString& istruzione)
@@ -72,6 +75,8 @@ TEST_P(Piani, ogniIstruzioneEntraNelleTabelleGrandiConUnIndice)
 {
     for (const VoceCatalogo& voce : catalogo(mBase)) {
         const Piano piano = leggiPiano(mConnessione, voce.testo, voce.parametri);
+        if (piano.soloDaIndice)
+            continue;
         EXPECT_THAT(piano.tabelle(), IsSupersetOf(grandiNominate(voce.testo)))
             << "the plan of " << voce.nome.toStdString() << " says too little:\n"
             << piano.testo.toStdString();
@@ -161,9 +166,13 @@ INSTANTIATE_TEST_SUITE_P(Basi, PianoSenzaIndice, testing::Values("sqlite", "mari
 /// A statement that is added without a line in the catalogue would not be looked at.
 TEST(Catalogo, haOgniIstruzioneDelComponente)
 {
+    QSet<QString> voci;
+    for (const char* base : {"sqlite", "mariadb"})
+        for (const VoceCatalogo& voce : catalogo(basePiena(base)))
+            voci << voce.nome;
     QStringList inCatalogo;
-    for (const VoceCatalogo& voce : catalogo(basePiena("sqlite")))
-        inCatalogo << voce.nome.section(u' ', 0, 0);
+    for (const QString& voce : voci)
+        inCatalogo << voce.section(u' ', 0, 0);
     static const QRegularExpression dichiarazione(u"^QString (\\w+)\\("_s,
                                                   QRegularExpression::MultilineOption);
     QHash<QString, int> forme;

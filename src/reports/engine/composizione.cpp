@@ -29,8 +29,8 @@ std::optional<Primitiva> entro(const Primitiva& primitiva, double da, double a)
 
 } // namespace
 
-Composizione::Composizione(Definizione definizione, const QString& titolo, const QImage& logo)
-    : mDefinizione(std::move(definizione)), mTitolo(titolo), mLogo(logo)
+Composizione::Composizione(Definizione definizione, const QString& titolo, const QImage& logo, QDate oggi)
+    : mDefinizione(std::move(definizione)), mTitolo(titolo), mLogo(logo), mOggi(oggi)
 {
     const auto testi = testiDi(mDefinizione.intestazione, [](const Controllo& c) { return c.testo; });
     mIntestazione = componiBanda(mDefinizione.intestazione, testi, mLogo, mMisuratore);
@@ -46,7 +46,7 @@ void Composizione::aggiungi(const RigaReport& riga, Connessione& connessione)
     const TestiSezione testi = testiDi(mDefinizione.dettaglio, [&](const Controllo& controllo) {
         if (controllo.genere == Genere::etichetta)
             return controllo.testo;
-        const Contesto contesto{riga.valore(controllo.colonna), riga, connessione};
+        const Contesto contesto{riga.valore(controllo.colonna), riga, connessione, mOggi};
         return controllo.formato ? controllo.formato(contesto) : contesto.valore.value_or(QString());
     });
     const auto banda = [&](double riduzione) {

@@ -10,7 +10,8 @@ class Composizione
 {
 public:
     /// definizione: as it is to be printed, kept. titolo: the document's, for the footer. logo: may be null.
-    Composizione(Definizione definizione, const QString& titolo, const QImage& logo);
+    /// oggi: the day on which the report is made, for the formats.
+    Composizione(Definizione definizione, const QString& titolo, const QImage& logo, QDate oggi);
 
     /// Adds a row: on one page, with its reducible texts smaller if need be, else with all texts in their own
     /// size on as many pages as they take. Throws Errore when a field's format fails.
@@ -27,6 +28,7 @@ private:
     Definizione mDefinizione;
     QString mTitolo;
     QImage mLogo;
+    QDate mOggi;
     Misuratore mMisuratore;
     Banda mIntestazione;
     std::vector<Banda> mBande;

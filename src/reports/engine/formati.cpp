@@ -1,19 +1,12 @@
 #include "reports/engine/formati.h"
 
+#include "database/indirizzo.h"
+
 #include <QLocale>
 
 using namespace Qt::StringLiterals;
 
 namespace giacenza::report::formati {
-
-QString unisci(const QStringList& parti, const QString& provincia)
-{
-    QStringList piene = parti;
-    if (!provincia.trimmed().isEmpty())
-        piene << u'(' + provincia + u')';
-    piene.removeIf([](const QString& parte) { return parte.trimmed().isEmpty(); });
-    return piene.join(u' ');
-}
 
 QString data(const Contesto& contesto)
 {
@@ -48,8 +41,8 @@ Formato quantita(const QString& unita)
 Formato localita(const QString& cap, const QString& localita, const QString& provincia)
 {
     return [=](const Contesto& contesto) {
-        return unisci({contesto.riga.testo(cap), contesto.riga.testo(localita)},
-                      contesto.riga.testo(provincia));
+        return inUnaRiga({contesto.riga.testo(cap), contesto.riga.testo(localita)},
+                         contesto.riga.testo(provincia));
     };
 }
 

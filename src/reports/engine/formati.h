@@ -6,10 +6,6 @@
 /// Formats that fields share. Null shows as empty; a value that is not of its kind shows as it is.
 namespace giacenza::report::formati {
 
-/// The parts that are not empty, a blank between them, and the province in brackets: "Via Roma 1 Milano
-/// (MI)".
-QString unisci(const QStringList& parti, const QString& provincia);
-
 /// "dd/mm/yyyy".
 QString data(const Contesto& contesto);
 /// Italian currency: "1.234,50 €".

@@ -2,6 +2,8 @@
 
 #include "database/valori.h"
 
+#include <QDate>
+
 #include <utility>
 #include <vector>
 
@@ -26,12 +28,14 @@ private:
     std::vector<std::pair<QString, Valore>> mValori;
 };
 
-/// What a format sees: the field's value, the row, and the database for what must be looked up.
+/// What a format sees: the field's value, the row, the database for what must be looked up, and the day on
+/// which the report is made: it asks no clock.
 struct Contesto
 {
     Valore valore;
     const RigaReport& riga;
     Connessione& connessione;
+    QDate oggi;
 };
 
 } // namespace giacenza::report

@@ -2,8 +2,6 @@
 
 #include "reports/engine/formati.h"
 
-#include "base/orologio.h"
-
 using namespace Qt::StringLiterals;
 
 namespace giacenza::report::blocchi {
@@ -131,7 +129,7 @@ void completaIntestazione(Sezione& intestazione, const std::array<QString, 4>& d
 double indirizzo(Sezione& sezione, double y, const QString& campoData)
 {
     Controllo data = campoCon(u"txtData"_s, campoData, [](const Contesto& contesto) {
-        return contesto.valore ? formati::data(contesto) : dataBreve(oggi());
+        return contesto.valore ? formati::data(contesto) : dataBreve(contesto.oggi);
     });
     constexpr double primaRiga = 5;
     voce(sezione, y + primaRiga, Posto::sinistro, u"Data"_s, std::move(data));

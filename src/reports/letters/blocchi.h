@@ -21,7 +21,7 @@ Definizione lettera(const QString& nome);
 void completaIntestazione(Sezione& intestazione, const std::array<QString, 4>& didascalie, bool conLogo);
 
 /// The customer at the place of an envelope's window, and beside him who writes and when.
-/// campoData: the column with the letter's date.
+/// campoData: the column with the letter's date; where it has none, the day on which the letter is made.
 double indirizzo(Sezione& sezione, double y, const QString& campoData);
 
 /// The document's title with number and year of the held shipment, and the waybill's barcode.

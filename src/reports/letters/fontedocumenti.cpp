@@ -1,6 +1,7 @@
 #include "reports/letters/fontedocumenti.h"
 
 #include "base/impostazioni.h"
+#include "base/orologio.h"
 #include "base/percorsi.h"
 #include "base/servizi.h"
 #include "reports/letters/reportcondivisi.h"
@@ -31,7 +32,7 @@ public:
         report::Report& report = richiesta.tipo == TipoDocumento::buonFine
                                      ? static_cast<report::Report&>(rptBuonFine())
                                      : rptAvviso();
-        return report.componi(richiesta, mPadre);
+        return report.componi(richiesta, oggi(), mPadre);
     }
 
     QString cartellaDocumenti() const override

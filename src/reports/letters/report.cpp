@@ -88,7 +88,8 @@ bool Report::prosegue()
     return !annulla;
 }
 
-std::unique_ptr<DocumentoReport> Report::componi(const RichiestaDocumento& richiesta, QWidget* padre)
+std::unique_ptr<DocumentoReport> Report::componi(const RichiestaDocumento& richiesta, QDate oggi,
+                                                 QWidget* padre)
 {
     mPadre = padre;
     ricomincia();
@@ -103,7 +104,7 @@ std::unique_ptr<DocumentoReport> Report::componi(const RichiestaDocumento& richi
     const QImage logo = leggiLogo(richiesta.percorsoLogo);
     Definizione definizione = mDefinizione;
     blocchi::completaIntestazione(definizione.intestazione, richiesta.didascalie, !logo.isNull());
-    Composizione composizione(definizione, nome, logo);
+    Composizione composizione(definizione, nome, logo, oggi);
     try {
         for (const RigaReport& riga : righe) {
             if (!prosegue())

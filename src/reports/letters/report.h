@@ -38,10 +38,11 @@ public:
 
     /// Reads the rows and lays the report out.
     ///
-    /// padre: over which questions and errors open; may be null. Nothing when the operator gave the print up,
-    /// or when a field could not be formatted, which Error() has then shown. Throws Errore when the key names
-    /// no held shipment, ErroreDatabase when the rows cannot be read.
-    std::unique_ptr<DocumentoReport> componi(const RichiestaDocumento& richiesta, QWidget* padre);
+    /// oggi: the day on which the report is made. padre: over which questions and errors open; may be null.
+    /// Nothing when the operator gave the print up, or when a field could not be formatted, which Error() has
+    /// then shown. Throws Errore when the key names no held shipment, ErroreDatabase when the rows cannot be
+    /// read.
+    std::unique_ptr<DocumentoReport> componi(const RichiestaDocumento& richiesta, QDate oggi, QWidget* padre);
 
     /// Who counts the seconds; an empty function is the real clock.
     void setCronometro(std::function<Cronometro()> fabbrica) { mFabbricaCronometro = std::move(fabbrica); }

@@ -1,7 +1,7 @@
 #include "reports/letters/rptavviso.h"
 
-#include "base/orologio.h"
 #include "data/istruzioni.h"
+#include "database/indirizzo.h"
 #include "database/recordset.h"
 #include "reports/engine/formati.h"
 #include "reports/letters/blocchi.h"
@@ -26,7 +26,7 @@ QString giorniDiSosta(const Contesto& contesto)
     const auto arrivo = leggiData(contesto.valore.value_or(QString()));
     if (!arrivo)
         return {};
-    const auto avviso = leggiData(contesto.riga.testo(u"GIDTAV"_s)).value_or(oggi());
+    const auto avviso = leggiData(contesto.riga.testo(u"GIDTAV"_s)).value_or(contesto.oggi);
     const qint64 giorni = arrivo->daysTo(avviso);
     return giorni > 0 ? QString::number(giorni) : QString();
 }
@@ -34,8 +34,8 @@ QString giorniDiSosta(const Contesto& contesto)
 QString numeroAvviso(const Contesto& contesto)
 {
     const QString numero = contesto.valore.value_or(QString());
-    const QString data =
-        formati::data({contesto.riga.valore(u"GIDTAV"_s), contesto.riga, contesto.connessione});
+    const QString data = formati::data(
+        {contesto.riga.valore(u"GIDTAV"_s), contesto.riga, contesto.connessione, contesto.oggi});
     return data.isEmpty() || numero.isEmpty() ? numero : u"%1 del %2"_s.arg(numero, data);
 }
 
@@ -106,7 +106,7 @@ QString indirizzoFiliale(const Contesto& contesto)
     if (recordset.eof())
         return codice;
     const auto testo = [&](const QString& colonna) { return recordset.valore(colonna).value_or(QString()); };
-    return formati::unisci({testo(u"Indirizzo"_s), testo(u"Località"_s)}, testo(u"Provincia"_s));
+    return inUnaRiga({testo(u"Indirizzo"_s), testo(u"Località"_s)}, testo(u"Provincia"_s));
 }
 
 } // namespace

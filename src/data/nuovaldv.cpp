@@ -1,15 +1,16 @@
-#include "emissione/nuovaldv.h"
+#include "data/nuovaldv.h"
 
+#include "data/istruzioniemissione.h"
 #include "data/riconsegne.h"
+#include "database/indirizzo.h"
 #include "database/nuovariga.h"
 #include "database/recordset.h"
 #include "database/transazione.h"
 #include "database/valori.h"
-#include "reports/engine/formati.h"
 
 using namespace Qt::StringLiterals;
 
-namespace giacenza::emissione {
+namespace giacenza {
 
 namespace {
 
@@ -32,20 +33,18 @@ Luogo destinatario(const RecordLdv& originale)
             originale.valore(u"lelocd"_s), originale.valore(u"leprod"_s)};
 }
 
-QString inUnaRiga(const Luogo& luogo)
+QString suUnaRiga(const Luogo& luogo)
 {
-    return report::formati::unisci({luogo.nome.value_or(QString()), luogo.indirizzo.value_or(QString()),
-                                    luogo.cap.value_or(QString()), luogo.localita.value_or(QString())},
-                                   luogo.provincia.value_or(QString()));
+    return inUnaRiga({luogo.nome.value_or(QString()), luogo.indirizzo.value_or(QString()),
+                      luogo.cap.value_or(QString()), luogo.localita.value_or(QString())},
+                     luogo.provincia.value_or(QString()));
 }
 
 Luogo mittente(Connessione& connessione, const RecordLdv& originale)
 {
     const Valore codice = originale.valore(u"lecodi"_s);
     Recordset cliente;
-    cliente.apri(connessione,
-                 u"select RagioneSociale, Indirizzo, CLCAP, Localita, Provincia from clien where Codice=?"_s,
-                 Recordset::Cursore::soloAvanti, {{codice}});
+    cliente.apri(connessione, istruzioni::indirizzoCliente(), Recordset::Cursore::soloAvanti, {{codice}});
     if (cliente.eof())
         throw Errore(
             u"Il mittente, cliente %1, non è in archivio: nessuna lettera di vettura è stata emessa."_s.arg(
@@ -58,7 +57,7 @@ Luogo mittente(Connessione& connessione, const RecordLdv& originale)
 /// write after another one's commit, on MariaDB it would go on seeing the waybills as they were.
 void mettiInFila(Connessione& connessione)
 {
-    connessione.esegui(u"update ekelvorqzt_tabge00f set UltimoNumGiacenza=UltimoNumGiacenza"_s);
+    connessione.esegui(istruzioni::codaEmittenti());
 }
 
 void ricontrolla(Connessione& connessione, const Contesto& contesto)
@@ -80,40 +79,22 @@ void ricontrolla(Connessione& connessione, const Contesto& contesto)
             "nessun'altra è stata emessa. Riaprire la schermata e ripetere, se serve."_s.arg(giacenza));
 }
 
-/// A number that is digits only, and short enough to count on from.
-QString soloNumeri(Dialetto dialetto)
-{
-    if (dialetto == Dialetto::sqlite)
-        return u"lenrlv not glob '*[^0-9]*' and length(lenrlv) between 1 and 18"_s;
-    return u"lenrlv regexp '^[0-9]{1,18}$'"_s;
-}
-
-/// True where the waybills have the generated and indexed column of schema/mariadb.sql. Another column of the
-/// name is none. Asked before the transaction: it sees the catalog and no waybill.
+/// Asked before the transaction: it sees the catalog and no waybill.
 bool haColonnaNumero(Connessione& connessione)
 {
     if (connessione.dialetto() != Dialetto::mariadb)
         return false;
     Recordset colonna;
-    colonna.apri(connessione,
-                 u"select 1 from information_schema.columns where table_schema=database() and "
-                 "table_name='letve00f' and column_name='lenrlv_numero' and is_generated='ALWAYS'"_s,
-                 Recordset::Cursore::soloAvanti);
+    colonna.apri(connessione, istruzioni::colonnaNumeroLdv(), Recordset::Cursore::soloAvanti);
     return !colonna.eof();
-}
-
-QString massimoNumero(Dialetto dialetto, bool colonnaNumero)
-{
-    if (colonnaNumero)
-        return u"select coalesce(max(lenrlv_numero),0) from letve00f where leanlv=?"_s;
-    return u"select coalesce(max(cast(lenrlv as unsigned)),0) from letve00f where leanlv=? and "_s +
-           soloNumeri(dialetto);
 }
 
 QString prossimoNumero(Connessione& connessione, int anno, bool colonnaNumero)
 {
     Recordset massimo;
-    massimo.apri(connessione, massimoNumero(connessione.dialetto(), colonnaNumero),
+    massimo.apri(connessione,
+                 colonnaNumero ? istruzioni::ultimoNumeroLdvDaColonna()
+                               : istruzioni::ultimoNumeroLdv(connessione.dialetto()),
                  Recordset::Cursore::soloAvanti, {{QString::number(anno)}});
     return somma(massimo.valore(0).value_or(u"0"_s), u"1"_s);
 }
@@ -176,7 +157,7 @@ LdvEmessa inUnaTransazione(Connessione& connessione, const RecordLdv& originale,
     const int anno = contesto.oggi.year();
     const LdvEmessa chiave = {originale.valore(u"lefili"_s).value_or(QString()),
                               prossimoNumero(connessione, anno, colonnaNumero), anno, contesto.oggi,
-                              contesto.resoAMittente ? inUnaRiga(destinatario(originale)) : QString()};
+                              contesto.resoAMittente ? suUnaRiga(destinatario(originale)) : QString()};
     aggiungi(connessione, originale, contesto, chiave);
     transazione.conferma();
     return chiave;
@@ -209,4 +190,4 @@ LdvEmessa emettiLdv(Connessione& connessione, const RecordLdv& originale, const 
     }
 }
 
-} // namespace giacenza::emissione
+} // namespace giacenza

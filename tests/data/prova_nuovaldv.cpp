@@ -1,23 +1,18 @@
+#include "data/nuovaldv.h"
+
 #include "data/archivio.h"
-#include "emissione/emittente.h"
-#include "emissione/nuovaldv.h"
-#include "plugins/ldvdiprova.h"
 #include "support/bancadati.h"
-#include "support/modale.h"
+#include "support/ldvdiprova.h"
 #include "support/spedizioni.h"
 #include "support/stampa.h"
 
 #include <gmock/gmock.h>
-
-#include <QMessageBox>
-#include <QTemporaryDir>
 
 #include <set>
 #include <thread>
 
 using namespace giacenza;
 using namespace giacenza::prove;
-using namespace giacenza::emissione;
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -376,31 +371,6 @@ TEST_P(NuovaLdv, UnGuastoInOgniPuntoNonLasciaNiente)
     impostaTraccia({});
     EXPECT_THAT(nuove(), IsEmpty());
     EXPECT_EQ(tutto(), mPrima);
-}
-
-TEST_P(NuovaLdv, CioCheSiRompeDopoLEmissioneDiceIlNumero)
-{
-    // Not one of the component's own errors, and after the commit: the waybill is there all the same.
-    const QTemporaryDir cartella;
-    EmittenteDeposito emittente([](EventoDati evento, const QString& testo) {
-        if (evento == EventoDati::istruzione && testo.startsWith(u"SELECT letve00f.*"_s))
-            throw std::runtime_error("memoria finita");
-    });
-    emittente.setContesto(contestoDiProva());
-    emittente.setPercorsoDatabase(mBase.stringa());
-    emittente.setCartellaStampa(cartella.path());
-    emittente.setStampa(true);
-    emittente.setDefinitiva(true);
-    QString testo;
-    const QuandoAperta<QMessageBox> intanto([&](QMessageBox& aperta) {
-        testo = aperta.text();
-        aperta.accept();
-    });
-    EXPECT_EQ(emittente.emetti(LdvDiProva(mConnessione, u"4711"_s)), QString());
-    EXPECT_EQ(
-        testo,
-        u"La lettera di vettura 4716/2026 è stata emessa, ma non è stata stampata.\n\nmemoria finita"_s);
-    EXPECT_THAT(nuove(), SizeIs(1));
 }
 
 TEST_P(NuovaLdv, UnRecordVuotoSiRifiuta)

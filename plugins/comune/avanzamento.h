@@ -5,7 +5,7 @@
 
 #include <memory>
 
-namespace giacenza::stampa {
+namespace giacenza::comune {
 
 /// How far a long print has come, in a window with a button that gives it up. It shows itself only when the
 /// whole is going to take more than about a second, and never for a single page.
@@ -25,4 +25,4 @@ private:
     QPointer<QProgressDialog> mFinestra; ///< gone with padre: the print then goes on without it
 };
 
-} // namespace giacenza::stampa
+} // namespace giacenza::comune

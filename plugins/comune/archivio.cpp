@@ -1,4 +1,4 @@
-#include "stampa/archivio.h"
+#include "comune/archivio.h"
 
 #include <giacenza/Errore.h>
 
@@ -14,7 +14,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace giacenza::stampa {
+namespace giacenza::comune {
 
 namespace {
 
@@ -119,4 +119,4 @@ QString archivia(const QString& cartella, const QString& nome, const QByteArray&
     return percorso;
 }
 
-} // namespace giacenza::stampa
+} // namespace giacenza::comune

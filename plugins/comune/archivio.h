@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QString>
 
-namespace giacenza::stampa {
+namespace giacenza::comune {
 
 /// A document's name as a file name, without folder and ending: what is not a letter, a digit, a blank or one
 /// of
@@ -17,4 +17,4 @@ QString nomeSicuro(const QString& nome);
 /// Errore, which names folder or file.
 QString archivia(const QString& cartella, const QString& nome, const QByteArray& byte);
 
-} // namespace giacenza::stampa
+} // namespace giacenza::comune

@@ -1,4 +1,4 @@
-#include "stampa/archivio.h"
+#include "comune/archivio.h"
 
 #include "base/limitefile.h"
 #include "support/stampa.h"
@@ -12,7 +12,7 @@
 #include <gmock/gmock.h>
 
 using namespace giacenza;
-using namespace giacenza::stampa;
+using namespace giacenza::comune;
 using namespace Qt::StringLiterals;
 
 namespace {

@@ -1,6 +1,6 @@
-#include "stampa/pdf.h"
+#include "comune/pdf.h"
 
-#include "stampa/pagine.h"
+#include "comune/pagine.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace giacenza::stampa {
+namespace giacenza::comune {
 
 std::optional<QByteArray> pdf(Documento& documento, QWidget* padre)
 {
@@ -30,4 +30,4 @@ std::optional<QByteArray> pdf(Documento& documento, QWidget* padre)
     return memoria.data();
 }
 
-} // namespace giacenza::stampa
+} // namespace giacenza::comune

@@ -4,7 +4,7 @@
 
 class QPagedPaintDevice;
 
-namespace giacenza::stampa {
+namespace giacenza::comune {
 
 /// Pages of a document, counted from 0; the last one is not among them.
 struct Pagine
@@ -22,4 +22,4 @@ Pagine tutte(const Documento& documento);
 /// Errore when the device takes no more.
 bool dipingiPagine(Documento& documento, Pagine pagine, QPagedPaintDevice& dispositivo, QWidget* padre);
 
-} // namespace giacenza::stampa
+} // namespace giacenza::comune

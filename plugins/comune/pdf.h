@@ -6,7 +6,7 @@
 
 #include <optional>
 
-namespace giacenza::stampa {
+namespace giacenza::comune {
 
 /// A document as PDF/A-1b, whole in memory: a document is small, and a file is then written in one go or not
 /// at all.
@@ -15,4 +15,4 @@ namespace giacenza::stampa {
 /// the print up. Throws Errore when it cannot be made.
 std::optional<QByteArray> pdf(Documento& documento, QWidget* padre);
 
-} // namespace giacenza::stampa
+} // namespace giacenza::comune

@@ -1,10 +1,10 @@
-#include "stampa/avanzamento.h"
+#include "comune/avanzamento.h"
 
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
-namespace giacenza::stampa {
+namespace giacenza::comune {
 
 Avanzamento::Avanzamento(QWidget* padre, const QString& titolo, int pagine)
 {
@@ -40,4 +40,4 @@ bool Avanzamento::prosegue(int fatte)
     return !mFinestra || !mFinestra->wasCanceled();
 }
 
-} // namespace giacenza::stampa
+} // namespace giacenza::comune

@@ -5,7 +5,7 @@
 #include <giacenza/Contesto.h>
 #include <giacenza/EmittenteLdv.h>
 
-namespace giacenza::emissione {
+namespace giacenza {
 
 /// A waybill that was issued: its key, and what its row has no column for.
 struct LdvEmessa
@@ -26,4 +26,4 @@ struct LdvEmessa
 /// among the customers, and when another workstation was faster; ErroreDatabase for the rest.
 LdvEmessa emettiLdv(Connessione& connessione, const RecordLdv& originale, const Contesto& contesto);
 
-} // namespace giacenza::emissione
+} // namespace giacenza

@@ -1,6 +1,8 @@
-#include "emissione/letteravettura.h"
+#include "reports/letters/letteravettura.h"
 
 #include "data/istruzioni.h"
+#include "data/istruzioniemissione.h"
+#include "database/indirizzo.h"
 #include "database/recordset.h"
 #include "reports/engine/composizione.h"
 #include "reports/engine/documentoreport.h"
@@ -10,7 +12,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace giacenza::emissione {
+namespace giacenza {
 
 namespace {
 
@@ -44,9 +46,9 @@ double mittente(Sezione& sezione, double y, bool reso)
     }
     Controllo nome = report::campo(u"txtMittente"_s, {}, u"RagioneSociale"_s, {10, true});
     nome.formato = [](const Contesto& contesto) {
-        return formati::unisci({contesto.riga.testo(u"RagioneSociale"_s), contesto.riga.testo(u"Indirizzo"_s),
-                                contesto.riga.testo(u"CLCAP"_s), contesto.riga.testo(u"Localita"_s)},
-                               contesto.riga.testo(u"Provincia"_s));
+        return inUnaRiga({contesto.riga.testo(u"RagioneSociale"_s), contesto.riga.testo(u"Indirizzo"_s),
+                          contesto.riga.testo(u"CLCAP"_s), contesto.riga.testo(u"Localita"_s)},
+                         contesto.riga.testo(u"Provincia"_s));
     };
     blocchi::voce(sezione, y, Posto::intero, u"Cliente"_s, std::move(nome));
     return y + blocchi::passoVoce + blocchi::dopoCapitolo;
@@ -114,11 +116,10 @@ RigaReport leggi(Connessione& connessione, const LdvEmessa& ldv)
     if (righe.eof())
         throw Errore(u"La lettera di vettura %1 non si rilegge dall'archivio."_s.arg(ldv.numero));
     aggiungiColonne(riga, righe);
-    righe.apri(connessione,
-               u"select RagioneSociale, Indirizzo, CLCAP, Localita, Provincia from clien where Codice=?"_s,
-               Recordset::Cursore::soloAvanti, {{riga.valore(u"lecodi"_s)}});
+    righe.apri(connessione, istruzioni::indirizzoCliente(), Recordset::Cursore::soloAvanti,
+               {{riga.valore(u"lecodi"_s)}});
     aggiungiColonne(riga, righe);
-    righe.apri(connessione, u"select * from porto where idPorto=?"_s, Recordset::Cursore::soloAvanti,
+    righe.apri(connessione, istruzioni::portoPerNumero(), Recordset::Cursore::soloAvanti,
                {{riga.valore(u"leport"_s)}});
     riga.aggiungi(u"porto"_s, righe.eof() || righe.colonne() < 2 ? Valore() : righe.valore(1));
     return riga;
@@ -132,10 +133,10 @@ std::unique_ptr<Documento> componiLdv(Connessione& connessione, const LdvEmessa&
     const QImage immagine = report::leggiLogo(logo);
     report::Definizione lettera = definizione(!ldv.mittente.isEmpty());
     blocchi::completaIntestazione(lettera.intestazione, {}, !immagine.isNull());
-    report::Composizione composizione(lettera, titolo, immagine);
+    report::Composizione composizione(lettera, titolo, immagine, ldv.data);
     composizione.aggiungi(leggi(connessione, ldv), connessione);
     return std::make_unique<report::DocumentoReport>(titolo, lettera.carta, composizione.pagine(),
                                                      report::Ascoltatore{[] { return true; }});
 }
 
-} // namespace giacenza::emissione
+} // namespace giacenza

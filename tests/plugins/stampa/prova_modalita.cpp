@@ -1,4 +1,4 @@
-#include "plugins/documentofinto.h"
+#include "plugins/stampa/documentofinto.h"
 #include "stampa/stampante.h"
 
 #include "base/cartellaprova.h"

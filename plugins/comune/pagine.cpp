@@ -1,6 +1,6 @@
-#include "stampa/pagine.h"
+#include "comune/pagine.h"
 
-#include "stampa/avanzamento.h"
+#include "comune/avanzamento.h"
 
 #include <QPagedPaintDevice>
 #include <QPainter>
@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace giacenza::stampa {
+namespace giacenza::comune {
 
 Pagine tutte(const Documento& documento)
 {
@@ -43,4 +43,4 @@ bool dipingiPagine(Documento& documento, Pagine pagine, QPagedPaintDevice& dispo
     return avanzamento.prosegue(pagine.a - pagine.da) || abbandona(dispositivo);
 }
 
-} // namespace giacenza::stampa
+} // namespace giacenza::comune

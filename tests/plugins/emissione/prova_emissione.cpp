@@ -1,23 +1,37 @@
 #include "base/parti.h"
-#include "plugins/ldvdiprova.h"
 #include "support/bancadati.h"
-#include "support/modale.h"
+#include "support/ldvdiprova.h"
 #include "support/spedizioni.h"
 #include "support/stampa.h"
 
 #include <gmock/gmock.h>
 
 #include <QDir>
-#include <QMessageBox>
 #include <QProcess>
 #include <QTemporaryDir>
 
 using namespace giacenza;
 using namespace giacenza::prove;
 using namespace Qt::StringLiterals;
+using testing::ElementsAre;
 using testing::SizeIs;
 
 namespace {
+
+/// The warnings that are written to the log meanwhile.
+QStringList avvertimenti(const std::function<void()>& azione)
+{
+    static QStringList scritti;
+    scritti.clear();
+    const auto prima =
+        qInstallMessageHandler([](QtMsgType tipo, const QMessageLogContext&, const QString& testo) {
+            if (tipo == QtWarningMsg)
+                scritti << testo;
+        });
+    azione();
+    qInstallMessageHandler(prima);
+    return scritti;
+}
 
 /// The issuer as the component finds it: by its name, in its file.
 class Emissione : public testing::TestWithParam<std::string>
@@ -50,16 +64,18 @@ protected:
         Connessione connessione = mBase.connessione();
         return emetti(LdvDiProva(connessione, u"4711"_s), stampa);
     }
-    /// The text of the one box, when the issue fails.
-    QString scatola(const std::function<QString()>& emissione)
+    /// What the operator is told, when the issue fails: one refusal.
+    QString racconto(const std::function<QString()>& emissione)
     {
-        QString testo;
-        const QuandoAperta<QMessageBox> intanto([&](QMessageBox& aperta) {
-            testo = aperta.text();
-            aperta.accept();
-        });
+        std::vector<Racconto> racconti;
+        mContesto.racconta = [&](const Racconto& racconto) { racconti.push_back(racconto); };
         EXPECT_EQ(emissione(), QString());
-        return testo;
+        mContesto.racconta = {};
+        EXPECT_THAT(racconti, SizeIs(1));
+        if (racconti.empty())
+            return {};
+        EXPECT_EQ(racconti.front().tono, Tono::rifiuto);
+        return racconti.front().testo;
     }
     static QString pagina(const QString& file)
     {
@@ -125,27 +141,28 @@ TEST_P(Emissione, UnaCartellaCheNonSiScriveFermaPrima)
     ASSERT_TRUE(occupata.open(QIODevice::WriteOnly));
     mImp = occupata.fileName() + u"/imp"_s;
     EXPECT_EQ(
-        scatola([this] { return emetti(); }),
+        racconto([this] { return emetti(); }),
         u"Nella cartella \"%1\" non si può scrivere: nessuna lettera di vettura è stata emessa."_s.arg(mImp));
     EXPECT_EQ(emesse(), u"0"_s);
     EXPECT_EQ(emetti(false), u"Emessa la lettera di vettura 4716/2026."_s)
         << "without printing it is not needed";
 }
 
-TEST_P(Emissione, UnRecordVuotoSiDiceInUnaScatola)
+TEST_P(Emissione, UnRecordVuotoSiDice)
 {
     const LdvDiProva vuota;
-    EXPECT_TRUE(scatola([&] { return emetti(vuota); }).startsWith(u"La lettera di vettura da cui partire"_s));
+    EXPECT_TRUE(
+        racconto([&] { return emetti(vuota); }).startsWith(u"La lettera di vettura da cui partire"_s));
     EXPECT_EQ(emesse(), u"0"_s);
 }
 
-TEST_P(Emissione, UnDatabaseCheNonRispondeSiDiceInUnaScatola)
+TEST_P(Emissione, UnDatabaseCheNonRispondeSiDice)
 {
     Connessione connessione = mBase.connessione();
     const LdvDiProva ldv(connessione, u"4711"_s);
     mStringa = u"DRIVER={Inesistente}"_s;
     EXPECT_TRUE(
-        scatola([&] { return emetti(ldv); })
+        racconto([&] { return emetti(ldv); })
             .startsWith(u"La nuova lettera di vettura non è stata emessa: il database non ha accettato "
                         "l'operazione.\n\n"_s));
 }
@@ -158,11 +175,20 @@ TEST_P(Emissione, UnaStampaFallitaDiceIlNumeroEmesso)
                                         : u"drop table filiali;"_s);
     const LdvDiProva ldv(connessione, u"4711"_s);
     EXPECT_TRUE(
-        scatola([&] {
+        racconto([&] {
             return emetti(ldv);
         }).startsWith(u"La lettera di vettura 4716/2026 è stata emessa, ma non è stata stampata.\n\n"_s));
     EXPECT_EQ(emesse(), u"1"_s);
     EXPECT_TRUE(QDir(mImp).entryList(QDir::Files).isEmpty());
+}
+
+TEST_P(Emissione, ChiNonAscoltaNonFermaNienteEIlMotivoStaNelRegistro)
+{
+    const LdvDiProva vuota;
+    EXPECT_THAT(avvertimenti([&] { EXPECT_EQ(emetti(vuota), QString()); }),
+                ElementsAre(u"La lettera di vettura da cui partire non è stata trovata in archivio: nessuna "
+                            "lettera di vettura è stata emessa."_s));
+    EXPECT_EQ(emesse(), u"0"_s);
 }
 
 } // namespace

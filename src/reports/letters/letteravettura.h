@@ -1,0 +1,15 @@
+#pragma once
+
+#include "data/nuovaldv.h"
+
+#include <giacenza/Documento.h>
+
+namespace giacenza {
+
+/// A waybill of the database, laid out like the depot's letters, with its number as Code 128. The day on
+/// which it is made is the waybill's own.
+///
+/// logo: a file; none is no logo. Throws Errore.
+std::unique_ptr<Documento> componiLdv(Connessione& connessione, const LdvEmessa& ldv, const QString& logo);
+
+} // namespace giacenza
