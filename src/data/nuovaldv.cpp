@@ -5,6 +5,7 @@
 #include "database/indirizzo.h"
 #include "database/nuovariga.h"
 #include "database/recordset.h"
+#include "database/tentativi.h"
 #include "database/transazione.h"
 #include "database/valori.h"
 
@@ -13,10 +14,6 @@ using namespace Qt::StringLiterals;
 namespace giacenza {
 
 namespace {
-
-/// How often an issue is tried when another program took its number, or the database ended one of two that
-/// waited for each other.
-constexpr int tentativi = 5;
 
 struct Luogo
 {
@@ -99,8 +96,9 @@ QString prossimoNumero(Connessione& connessione, int anno, bool colonnaNumero)
     return somma(massimo.valore(0).value_or(u"0"_s), u"1"_s);
 }
 
-/// Where the waybill comes from, before what the original's clerk noted.
-QString note(const RecordLdv& originale, const Contesto& contesto)
+/// Where the waybill comes from, before what the original's clerk noted, which gives way where both do not
+/// fit. larghezza: the column's, 0 for any length.
+QString note(const RecordLdv& originale, const Contesto& contesto, qint64 larghezza)
 {
     QStringList origine = {contesto.resoAMittente ? u"Reso a Mittente"_s : u"Riconsegna a Destinatario"_s};
     const Valore giacenza = originale.valore(u"LERFGI"_s);
@@ -108,7 +106,10 @@ QString note(const RecordLdv& originale, const Contesto& contesto)
         origine << u"giacenza %1/%2"_s.arg(*giacenza, originale.valore(u"LEANGI"_s).value_or(QString()));
     origine << u"LDV originale %1"_s.arg(originale.valore(u"lenrlv"_s).value_or(QString()));
     const QString prima = originale.valore(u"lenote"_s).value_or(QString());
-    return origine.join(u", "_s) + (prima.isEmpty() ? QString() : u"\r\n"_s + prima);
+    const QString tutte = origine.join(u", "_s) + (prima.isEmpty() ? QString() : u"\r\n"_s + prima);
+    if (larghezza <= 0 || tutte.size() <= larghezza)
+        return tutte;
+    return tutte.left(larghezza - 1).trimmed() + u'…';
 }
 
 void imposta(NuovaRiga& riga, const QString& colonna, const Valore& valore)
@@ -143,8 +144,47 @@ void aggiungi(Connessione& connessione, const RecordLdv& originale, const Contes
         const QString colonna = QString::fromUtf16(importo);
         imposta(nuova, colonna, contesto.resoAMittente ? Valore(u"0"_s) : originale.valore(colonna));
     }
-    nuova.imposta(u"lenote"_s, note(originale, contesto));
+    nuova.imposta(u"lenote"_s, note(originale, contesto, nuova.larghezza(u"lenote"_s)));
     nuova.aggiungi();
+}
+
+void conferma(Transazione& transazione, const Connessione& connessione, const LdvEmessa& chiave)
+{
+    try {
+        transazione.conferma();
+    } catch (const ErroreDatabase&) {
+        if (connessione.aperta())
+            throw;
+        throw Errore(
+            u"Non si sa se la lettera di vettura %1/%2 è stata emessa: la connessione è caduta mentre "
+            u"l'archivio "
+            "la confermava. Cercarla prima di ripetere."_s.arg(chiave.numero, QString::number(chiave.anno)));
+    }
+}
+
+/// What the screen names must be what the waybill holds: a number typed over another case is nobody's
+/// mandate.
+void rifiutaSeDiAltraGiacenza(const RecordLdv& originale, const Contesto& contesto)
+{
+    const auto valore = [&](const QString& colonna) { return originale.valore(colonna).value_or(QString()); };
+    if (contesto.numeroGiacenza.isEmpty() || (valore(u"LERFGI"_s) == contesto.numeroGiacenza &&
+                                              valore(u"LEANGI"_s).toInt() == contesto.annoGiacenza))
+        return;
+    throw Errore(
+        u"La lettera di vettura %1 non è della giacenza %2/%3: nessuna lettera di vettura è stata emessa."_s
+            .arg(valore(u"lenrlv"_s), contesto.numeroGiacenza, QString::number(contesto.annoGiacenza)));
+}
+
+void rifiutaSeVuoto(const RecordLdv& originale)
+{
+    if (!originale.vuoto())
+        return;
+    if (originale.colonne().isEmpty())
+        throw Errore(
+            u"La lettera di vettura da cui partire non si è potuta leggere dall'archivio: nessuna lettera di "
+            "vettura è stata emessa."_s);
+    throw Errore(u"La lettera di vettura da cui partire non è stata trovata in archivio: nessuna lettera di "
+                 "vettura è stata emessa."_s);
 }
 
 LdvEmessa inUnaTransazione(Connessione& connessione, const RecordLdv& originale, const Contesto& contesto,
@@ -159,35 +199,27 @@ LdvEmessa inUnaTransazione(Connessione& connessione, const RecordLdv& originale,
                               prossimoNumero(connessione, anno, colonnaNumero), anno, contesto.oggi,
                               contesto.resoAMittente ? suUnaRiga(destinatario(originale)) : QString()};
     aggiungi(connessione, originale, contesto, chiave);
-    transazione.conferma();
+    conferma(transazione, connessione, chiave);
     return chiave;
 }
 
-/// A number that is taken, or a wait that the database broke off.
-bool daRitentare(const ErroreDatabase& errore)
+/// A number that another program took: the key of the waybill is the only one that the row can meet.
+bool numeroPreso(const ErroreDatabase& errore)
 {
     constexpr int vincoloSqlite = 19;
-    return errore.sqlstate() == u"23000"_s || errore.sqlstate() == u"40001"_s ||
-           errore.codiceNativo() == vincoloSqlite;
+    return errore.sqlstate() == u"23000"_s || errore.codiceNativo() == vincoloSqlite;
 }
 
 } // namespace
 
 LdvEmessa emettiLdv(Connessione& connessione, const RecordLdv& originale, const Contesto& contesto)
 {
-    if (originale.vuoto())
-        throw Errore(
-            u"La lettera di vettura da cui partire non è stata trovata in archivio: nessuna lettera di "
-            "vettura è stata emessa."_s);
+    rifiutaSeVuoto(originale);
+    rifiutaSeDiAltraGiacenza(originale, contesto);
     const bool colonnaNumero = haColonnaNumero(connessione);
-    for (int tentativo = 1;; ++tentativo) {
-        try {
-            return inUnaTransazione(connessione, originale, contesto, colonnaNumero);
-        } catch (const ErroreDatabase& errore) {
-            if (tentativo == tentativi || !daRitentare(errore))
-                throw;
-        }
-    }
+    return conTentativi(
+        [&] { return inUnaTransazione(connessione, originale, contesto, colonnaNumero); },
+        [](const ErroreDatabase& errore) { return numeroPreso(errore) || perConcorrenza(errore); });
 }
 
 } // namespace giacenza

@@ -134,15 +134,15 @@ qint64 Istruzione::finisci()
     return righe;
 }
 
-std::vector<QString> Istruzione::nomiColonne()
+std::vector<Colonna> Istruzione::colonne()
 {
     constexpr qsizetype byteDiUnNome =
         1025; // 256 characters, the longest alias of MariaDB; drivers give fewer
     const SQLHSTMT maniglia = viva();
     SQLSMALLINT quante = 0;
     controlla(SQLNumResultCols(maniglia, &quante));
-    std::vector<QString> nomi;
-    nomi.reserve(static_cast<std::size_t>(quante));
+    std::vector<Colonna> descritte;
+    descritte.reserve(static_cast<std::size_t>(quante));
     QByteArray nome(byteDiUnNome, '\0');
     for (SQLSMALLINT colonna = 1; colonna <= quante; ++colonna) {
         SQLSMALLINT lunghezza = 0;
@@ -153,8 +153,18 @@ std::vector<QString> Istruzione::nomiColonne()
         controlla(SQLDescribeCol(maniglia, static_cast<SQLUSMALLINT>(colonna), testoOdbc(nome),
                                  static_cast<SQLSMALLINT>(nome.size()), &lunghezza, &tipo, &larghezza, &cifre,
                                  &annullabile));
-        nomi.push_back(QString::fromUtf8(nome.constData(), std::min<qsizetype>(lunghezza, nome.size() - 1)));
+        descritte.push_back(
+            {QString::fromUtf8(nome.constData(), std::min<qsizetype>(lunghezza, nome.size() - 1)),
+             static_cast<qint64>(larghezza)});
     }
+    return descritte;
+}
+
+std::vector<QString> Istruzione::nomiColonne()
+{
+    std::vector<QString> nomi;
+    for (Colonna& colonna : colonne())
+        nomi.push_back(std::move(colonna.nome));
     return nomi;
 }
 

@@ -23,6 +23,13 @@ struct Riga
     std::vector<Cella> celle;
 };
 
+/// A column of a result as the driver describes it.
+struct Colonna
+{
+    QString nome;
+    qint64 larghezza = 0; ///< the most characters that it holds; 0 where the driver does not say
+};
+
 /// A statement handle. Its connection frees the handle when it closes; every later call then throws 08003.
 class Istruzione
 {
@@ -46,6 +53,7 @@ public:
     /// ("pragma") only as far as they are read. Returns the rows touched, -1 when the driver does not say.
     qint64 finisci();
 
+    std::vector<Colonna> colonne();
     std::vector<QString> nomiColonne();
     /// False behind the last row.
     bool leggi(Riga& riga, int colonne);

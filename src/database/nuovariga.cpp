@@ -19,20 +19,33 @@ NuovaRiga::NuovaRiga(Connessione& connessione, const QString& tabella)
     odbc::Istruzione descrizione(mCollegamento);
     mCollegamento->esegui(EventoDati::istruzione, mIstruzione, [&] {
         descrizione.prepara(mIstruzione);
-        mColonne = descrizione.nomiColonne();
+        for (const odbc::Colonna& colonna : descrizione.colonne())
+            mColonne.emplace_back(colonna.nome, colonna.larghezza);
     });
+}
+
+const std::pair<QString, qint64>& NuovaRiga::trova(const QString& colonna) const
+{
+    const auto trovata = std::find_if(mColonne.cbegin(), mColonne.cend(), [&](const auto& questa) {
+        return questa.first.compare(colonna, Qt::CaseInsensitive) == 0;
+    });
+    if (trovata == mColonne.cend())
+        throw ErroreDatabase(u"42S22"_s, 0, u"La colonna \"%1\" non esiste."_s.arg(colonna), mIstruzione);
+    return *trovata;
+}
+
+qint64 NuovaRiga::larghezza(const QString& colonna) const
+{
+    return trova(colonna).second;
 }
 
 void NuovaRiga::imposta(const QString& colonna, const Valore& valore)
 {
-    const auto stessa = [&](const QString& nome) { return nome.compare(colonna, Qt::CaseInsensitive) == 0; };
-    const auto trovata = std::find_if(mColonne.cbegin(), mColonne.cend(), stessa);
-    if (trovata == mColonne.cend())
-        throw ErroreDatabase(u"42S22"_s, 0, u"La colonna \"%1\" non esiste."_s.arg(colonna), mIstruzione);
+    const QString& nome = trova(colonna).first;
     const auto gia = std::find_if(mImpostati.begin(), mImpostati.end(),
-                                  [&](const auto& impostata) { return impostata.first == *trovata; });
+                                  [&](const auto& impostata) { return impostata.first == nome; });
     if (gia == mImpostati.end())
-        mImpostati.emplace_back(*trovata, valore);
+        mImpostati.emplace_back(nome, valore);
     else
         gia->second = valore;
 }

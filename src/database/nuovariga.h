@@ -16,6 +16,10 @@ public:
     /// executed. Throws ErroreDatabase.
     NuovaRiga(Connessione& connessione, const QString& tabella);
 
+    /// The most characters that a column holds, as the driver tells; 0 where it does not. Throws
+    /// ErroreDatabase 42S22 for an unknown column.
+    qint64 larghezza(const QString& colonna) const;
+
     /// Columns are found by name without case; setting one again replaces its value. Throws ErroreDatabase
     /// 42S22 for an unknown column.
     void imposta(const QString& colonna, const Valore& valore);
@@ -25,10 +29,12 @@ public:
     void aggiungi();
 
 private:
+    const std::pair<QString, qint64>& trova(const QString& colonna) const;
+
     std::shared_ptr<odbc::Collegamento> mCollegamento;
     QString mTabella;
     QString mIstruzione;
-    std::vector<QString> mColonne;
+    std::vector<std::pair<QString, qint64>> mColonne;   // name, width
     std::vector<std::pair<QString, Valore>> mImpostati; // by the names of mColonne
 };
 
