@@ -8,10 +8,10 @@ std::shared_ptr<Forme> Forme::delThread()
     return forme;
 }
 
-void Forme::registra(const QString& nome, Creatore creatore)
+void Forme::registra(const QString& nome, const Creatore& creatore)
 {
     if (creatore)
-        mCreatori.insert(nome, std::move(creatore));
+        mCreatori.insert(nome, creatore);
     else
         mCreatori.remove(nome);
 }
