@@ -8,10 +8,10 @@ std::shared_ptr<Forme> Forme::delThread()
     return forme;
 }
 
-void Forme::registra(const QString& nome, const Creatore& creatore)
+void Forme::registra(const QString& nome, Creatore creatore)
 {
     if (creatore)
-        mCreatori.insert(nome, creatore);
+        mCreatori[nome] = std::move(creatore);
     else
         mCreatori.remove(nome);
 }

@@ -32,7 +32,7 @@ public:
     void registra(const QString& nome);
     /// The same for a form that raises no Uscita(). creatore: may throw; an empty one takes the
     /// registration away.
-    void registra(const QString& nome, const Creatore& creatore);
+    void registra(const QString& nome, Creatore creatore);
     bool registrata(const QString& nome) const;
 
     /// The shared instance, made if it is not loaded; null when the name is not registered. What its making
