@@ -1,5 +1,5 @@
 #include "base/impostazioni.h"
-#include "database/traccia.h"
+#include "data/archivio.h"
 #include "redelivery/schermatariconsegna.h"
 #include "screens/campi.h"
 #include "support/stampa.h"

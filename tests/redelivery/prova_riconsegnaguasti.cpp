@@ -1,7 +1,7 @@
 // What fails, or goes, while the re-delivery screen issues.
 
 #include "base/impostazioni.h"
-#include "database/traccia.h"
+#include "data/archivio.h"
 #include "dialogs/frmPorto.h"
 #include "redelivery/emissionediprova.h"
 #include "support/modale.h"

@@ -1,6 +1,6 @@
 #include "registration/registrazionediprova.h"
 
-#include "database/traccia.h"
+#include "data/archivio.h"
 #include "support/stampa.h"
 
 #include <QRegularExpression>
