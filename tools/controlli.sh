@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Checks of the source that need no build: formatting, the shell scripts, blanks, and that the tree explains itself.
+# Checks of the source that need no build: formatting, the shell scripts, who includes what,
+# sizes, blanks, and that the tree explains itself.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 
@@ -21,8 +22,11 @@ vieta()
 }
 
 sorgenti -name '*.cpp' -o -name '*.h' | xargs -0 -r clang-format --dry-run -Werror
-shellcheck -x -P SCRIPTDIR run test bench .ci/run tools/*.sh tools/mariadb-privato tests/comandi/prova_comandi \
-    tests/host/prova_schermo tests/plugins/prova_statoparti
+grep -rlIZ --exclude-dir=.git --exclude-dir=build -E '^#!/usr/bin/env bash|^# shellcheck shell=bash' . |
+    xargs -0 shellcheck -x -P SCRIPTDIR
+tools/controlli-stanze
+tools/controlli-limiti
+vieta "what a merge left." -E '^(<<<<<<<|>>>>>>>)( |$)'
 vieta "blanks at the end of a line." -E '[[:blank:]]+$'
 vieta "a reference to a paper that the reader of this tree does not have." \
     -E '\bParts? [1-6]\.[1-6]\b|\b[Ss]pecification\b|\bspec\.md\b'

@@ -130,6 +130,7 @@ std::vector<Riga> righeFornitori()
 std::vector<Riga> righeClienti(const std::vector<Cliente>& clienti)
 {
     std::vector<Riga> righe;
+    righe.reserve(clienti.size());
     for (const Cliente& c : clienti) {
         righe.push_back({QString::number(c.codice), c.ragione, c.indirizzo, c.comune->nome.toString(),
                          c.comune->provincia.toString(), c.comune->cap.toString(), c.iva});

@@ -14,7 +14,7 @@ struct Comune
     QStringView nome;
     QStringView cap;
     QStringView provincia;
-    int filiale; ///< position of the branch that serves it
+    int filiale = 0; ///< position of the branch that serves it
 };
 
 /// Words with a blank between them.

@@ -11,7 +11,7 @@ std::shared_ptr<Forme> Forme::delThread()
 void Forme::registra(const QString& nome, Creatore creatore)
 {
     if (creatore)
-        mCreatori.insert(nome, std::move(creatore));
+        mCreatori[nome] = std::move(creatore);
     else
         mCreatori.remove(nome);
 }

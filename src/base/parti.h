@@ -41,12 +41,13 @@ struct ParteDi
 template<class Interfaccia>
 ParteDi<Interfaccia> creaParteDi(const QString& nomeClasse)
 {
+    using namespace Qt::StringLiterals;
     ParteCreata creata = creaParte(nomeClasse);
     if (!creata.parte)
         return {nullptr, creata.motivo};
     auto* voluta = dynamic_cast<Interfaccia*>(creata.parte.get());
     if (!voluta)
-        return {nullptr, QStringLiteral("La classe %1 non offre ciò che serve.").arg(nomeClasse)};
+        return {nullptr, u"La classe %1 non offre ciò che serve."_s.arg(nomeClasse)};
     creata.parte.release();
     return {std::unique_ptr<Interfaccia>(voluta), {}};
 }

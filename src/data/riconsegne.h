@@ -16,7 +16,7 @@ enum class EsitoRiconsegne : qint16
 
 struct ContoRiconsegne
 {
-    EsitoRiconsegne esito;
+    EsitoRiconsegne esito = EsitoRiconsegne::inesistente;
     qint16 riconsegne = 0; ///< the linked waybills less the first; 0 unless giaRiconsegnata
 };
 

@@ -1,13 +1,8 @@
-#include "base/formafinta.h"
-#include "base/forme.h"
-#include "base/impostazioni.h"
-#include "component/registraforme.h"
+#include "component/componentediprova.h"
+
 #include "support/registromessaggi.h"
 #include "support/stampa.h"
 
-#include <giacenza/cGiacenza.h>
-
-#include <QApplication>
 #include <QMetaMethod>
 #include <QSignalSpy>
 
@@ -15,7 +10,7 @@
 
 #include <thread>
 
-using namespace Qt::StringLiterals;
+using namespace giacenza::prove;
 
 using giacenza::cGiacenza;
 using giacenza::Forme;
@@ -23,64 +18,16 @@ using giacenza::impostazioni;
 
 namespace {
 
-constexpr char nomeGiacenza[] = "frmGiacenza";
-constexpr char nomeRiconsegna[] = "frmRiconsegna";
-constexpr char nomeGestione[] = "frmGestGia";
-
-const QString frmGiacenza = QString::fromLatin1(nomeGiacenza);
-const QString frmRiconsegna = QString::fromLatin1(nomeRiconsegna);
-const QString frmGestGia = QString::fromLatin1(nomeGestione);
-
 class NonRaggiungibile : public SchermataFinta<nomeGestione>
 {
 public:
     void carica() { throw giacenza::ErroreDatabase(u"08S01"_s, 2002, u"rete"_s); }
 };
 
-QStringList eventi(const QString& forma, const QStringList& quali)
-{
-    QStringList tutti;
-    for (const QString& quale : quali)
-        tutti.append(forma + u' ' + quale);
-    return tutti;
-}
-
-const QString creata = u"creata"_s;
-const QString mostrata = u"mostrata"_s;
-const QString chiusa = u"chiusa"_s;
-const QString distrutta = u"distrutta"_s;
-
-class Componente : public ::testing::Test
-{
-protected:
-    Componente()
-    {
-        impostazioni() = {};
-        giacenza::registraForme(*mForme);
-        accaduto().clear();
-    }
-    ~Componente() override
-    {
-        mClasse.reset();
-        svuota();
-        impostazioni() = {};
-    }
-
-    static void svuota() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
-
-    std::shared_ptr<Forme> mForme = Forme::delThread();
-    std::unique_ptr<cGiacenza> mClasse = std::make_unique<cGiacenza>();
-};
-
 } // namespace
 
-// The forms that the class under test finds, in place of the component's own.
-void giacenza::registraForme(Forme& forme)
-{
-    forme.registra<SchermataFinta<nomeGiacenza>>(frmGiacenza);
-    forme.registra<SchermataFinta<nomeRiconsegna>>(frmRiconsegna);
-    forme.registra<SchermataFinta<nomeGestione>>(frmGestGia);
-}
+class Componente : public ComponenteDiProva
+{};
 
 TEST_F(Componente, iPercorsiRestanoTaliEQuali)
 {
@@ -179,148 +126,6 @@ TEST_F(Componente, leQuattroProprietaNelLoroOrdineEPrimaDiMostrare)
     mClasse->NuovaGiacenzaEXT({}, {}, {}, {});
     EXPECT_EQ(accaduto(), (QStringList{u"frmGiacenza.NLettVett="_s, u"frmGiacenza.DataLdv="_s,
                                        u"frmGiacenza.Filiale="_s, u"frmGiacenza.CodiceCliente="_s}));
-}
-
-TEST_F(Componente, riaprireMostraLaStessa)
-{
-    mClasse->ConsultaGiacenza();
-    QWidget* schermata = mForme->caricata(frmGestGia);
-    mClasse->ConsultaGiacenza();
-    EXPECT_EQ(mForme->caricata(frmGestGia), schermata);
-    schermata->showMinimized();
-    mClasse->ConsultaGiacenza();
-    EXPECT_FALSE(schermata->isMinimized());
-    const QSignalSpy fine(mClasse.get(), &cGiacenza::fine);
-    schermata->close();
-    EXPECT_EQ(fine.size(), 1);
-}
-
-TEST_F(Componente, unaFinePerOgniChiusura)
-{
-    const QSignalSpy fine(mClasse.get(), &cGiacenza::fine);
-    mClasse->NuovaGiacenza();
-    mClasse->MostraRiconsegna();
-    mClasse->ConsultaGiacenza();
-    EXPECT_EQ(fine.size(), 0);
-    mForme->caricata(frmRiconsegna)->close();
-    EXPECT_EQ(fine.size(), 1);
-    mForme->caricata(frmGiacenza)->close();
-    EXPECT_EQ(fine.size(), 2);
-    mClasse->NuovaGiacenza();
-    mForme->caricata(frmGiacenza)->close();
-    EXPECT_EQ(fine.size(), 3);
-    svuota();
-    mForme->caricata(frmGestGia)->close();
-    EXPECT_EQ(fine.size(), 4);
-}
-
-TEST_F(Componente, chiNonHaApertoNonSenteLaFine)
-{
-    cGiacenza altra;
-    const QSignalSpy mia(mClasse.get(), &cGiacenza::fine);
-    const QSignalSpy sua(&altra, &cGiacenza::fine);
-    mClasse->NuovaGiacenza();
-    mForme->caricata(frmGiacenza)->close();
-    EXPECT_EQ(mia.size(), 1);
-    EXPECT_EQ(sua.size(), 0);
-}
-
-TEST_F(Componente, dueOggettiAllaStessaSchermata)
-{
-    cGiacenza altra;
-    const QSignalSpy mia(mClasse.get(), &cGiacenza::fine);
-    const QSignalSpy sua(&altra, &cGiacenza::fine);
-    mClasse->NuovaGiacenza();
-    altra.NuovaGiacenza();
-    EXPECT_EQ(accaduto(), eventi(frmGiacenza, {creata, mostrata}));
-    mForme->caricata(frmGiacenza)->close();
-    EXPECT_EQ(mia.size(), 1);
-    EXPECT_EQ(sua.size(), 1);
-}
-
-TEST_F(Componente, unaSchermataDistruttaDaAltriNonLegaAllaProssima)
-{
-    cGiacenza altra;
-    const QSignalSpy mia(mClasse.get(), &cGiacenza::fine);
-    mClasse->NuovaGiacenza();
-    delete mForme->caricata(frmGiacenza);
-    altra.NuovaGiacenza();
-    mForme->caricata(frmGiacenza)->close();
-    EXPECT_EQ(mia.size(), 0);
-}
-
-TEST_F(Componente, laDistruzioneScaricaNelSuoOrdineESenzaFine)
-{
-    const QSignalSpy fine(mClasse.get(), &cGiacenza::fine);
-    mClasse->MostraRiconsegna();
-    mClasse->NuovaGiacenza();
-    mClasse->ConsultaGiacenza();
-    std::vector<std::unique_ptr<FormaFinta>> dialoghi;
-    for (const char* nome :
-         {"rptBuonFine", "rptAvviso", "frmRicercaGia", "frmRicerca", "frmPorto", "frmCalendario"}) {
-        dialoghi.push_back(std::make_unique<FormaFinta>(QString::fromLatin1(nome)));
-        mForme->annota(QString::fromLatin1(nome), dialoghi.back().get());
-        dialoghi.back()->show();
-    }
-    accaduto().clear();
-    mClasse.reset();
-    EXPECT_EQ(accaduto(),
-              (QStringList{u"frmGestGia chiusa"_s, u"frmGiacenza chiusa"_s, u"frmPorto chiusa"_s,
-                           u"frmRicerca chiusa"_s, u"frmRicercaGia chiusa"_s, u"frmRiconsegna chiusa"_s,
-                           u"rptAvviso chiusa"_s, u"rptBuonFine chiusa"_s}));
-    EXPECT_EQ(fine.size(), 0);
-}
-
-TEST_F(Componente, laDistruzioneNonCaricaNulla)
-{
-    mClasse.reset();
-    EXPECT_EQ(accaduto(), QStringList());
-}
-
-TEST_F(Componente, laDistruzioneDiUnaSiSenteDallAltra)
-{
-    cGiacenza altra;
-    const QSignalSpy sua(&altra, &cGiacenza::fine);
-    altra.NuovaGiacenza();
-    mClasse.reset();
-    EXPECT_EQ(sua.size(), 1);
-    EXPECT_EQ(mForme->caricata(frmGiacenza), nullptr);
-}
-
-TEST_F(Componente, lOspitePuoDistruggereLaClasseDentroFine)
-{
-    int volte = 0;
-    QObject::connect(mClasse.get(), &cGiacenza::fine, mClasse.get(), [&] {
-        ++volte;
-        mClasse.reset();
-    });
-    mClasse->NuovaGiacenza();
-    mClasse->ConsultaGiacenza();
-    accaduto().clear();
-    mForme->caricata(frmGiacenza)->close();
-    EXPECT_EQ(volte, 1);
-    EXPECT_EQ(mClasse, nullptr);
-    svuota();
-    EXPECT_EQ(accaduto(), (QStringList{u"frmGiacenza chiusa"_s, u"frmGestGia chiusa"_s,
-                                       u"frmGestGia distrutta"_s, u"frmGiacenza distrutta"_s}));
-}
-
-TEST_F(Componente, lOspitePuoRiaprireDentroFine)
-{
-    int volte = 0;
-    QObject::connect(mClasse.get(), &cGiacenza::fine, mClasse.get(), [&] {
-        if (++volte == 1)
-            mClasse->NuovaGiacenza();
-    });
-    mClasse->NuovaGiacenza();
-    const QPointer<QWidget> prima = mForme->caricata(frmGiacenza);
-    prima->close();
-    svuota();
-    EXPECT_FALSE(prima);
-    ASSERT_NE(mForme->caricata(frmGiacenza), nullptr);
-    EXPECT_TRUE(mForme->caricata(frmGiacenza)->isVisible());
-    mForme->caricata(frmGiacenza)->close();
-    EXPECT_EQ(volte, 2);
 }
 
 TEST_F(Componente, ilCaricamentoFallitoTornaAllOspiteENonMostraNulla)

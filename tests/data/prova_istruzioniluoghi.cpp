@@ -51,133 +51,135 @@ std::function<QString(const QString&)> ricerca(QString (*istruzione)(ModoRicerca
     };
 }
 
-std::vector<Luogo> luoghiDiTesto()
-{
-    using namespace istruzioni;
-    using V = const QString&;
-    using M = ModoRicerca;
-    using D = DatiRicerca;
-    return {
-        {"NumeroDataFiliale_numero", [](V v) { return spedizionePerNumeroDataFiliale(v, giorno, u"MI"_s); }},
-        {"NumeroDataFiliale_filiale", [](V v) { return spedizionePerNumeroDataFiliale(u"1"_s, giorno, v); }},
-        {"NumeroData_esterna", [](V v) { return spedizionePerNumeroData(v, giorno, Giunzione::esterna); }},
-        {"NumeroData_minuscola",
-         [](V v) { return spedizionePerNumeroData(v, giorno, Giunzione::esternaMinuscola); }},
-        {"NumeroData_interna", [](V v) { return spedizionePerNumeroData(v, giorno, Giunzione::interna); }},
-        {"Riferimento_riferimento", [](V v) { return spedizionePerRiferimento(v, giorno, u"MI"_s); }},
-        {"Riferimento_filiale", [](V v) { return spedizionePerRiferimento(u"R"_s, giorno, v); }},
-        {"Giacenza_numero", [](V v) { return spedizionePerGiacenza(v, giorno); }},
-        {"Intera_filiale",
-         [](V v) {
-             return spedizioneIntera({v, u"1"_s, 2024});
-         }},
-        {"Intera_numero",
-         [](V v) {
-             return spedizioneIntera({u"MI"_s, v, 2024});
-         }},
-        {"DescrizioneFiliale", [](V v) { return descrizioneFiliale(v); }},
-        {"FilialeIntera", [](V v) { return filialeIntera(v); }},
-        {"Ammissione", [](V v) { return ammissione(v, giorno); }},
-        {"Collega_giacenza",
-         [](V v) {
-             return collegaGiacenza({v, 2024}, u"1"_s, 2024);
-         }},
-        {"Collega_lettera",
-         [](V v) {
-             return collegaGiacenza({u"42"_s, 2024}, v, 2024);
-         }},
-        {"StatoAvviso_giacenza",
-         [](V v) {
-             return statoAvviso(ChiaveGiacenza{v, 2024});
-         }},
-        {"StatoAvviso_filiale",
-         [](V v) {
-             return statoAvviso(ChiaveSpedizione{v, u"1"_s, 2024});
-         }},
-        {"StatoAvviso_numero",
-         [](V v) {
-             return statoAvviso(ChiaveSpedizione{u"MI"_s, v, 2024});
-         }},
-        {"PrimoAvviso_giacenza",
-         [](V v) {
-             return primoAvviso(ChiaveGiacenza{v, 2024}, giorno);
-         }},
-        {"PrimoAvviso_filiale",
-         [](V v) {
-             return primoAvviso(ChiaveSpedizione{v, u"1"_s, 2024}, giorno);
-         }},
-        {"PrimoAvviso_numero",
-         [](V v) {
-             return primoAvviso(ChiaveSpedizione{u"MI"_s, v, 2024}, giorno);
-         }},
-        {"Successivo_giacenza",
-         [](V v) {
-             return avvisoSuccessivo({v, 2024}, 2, giorno, u"x"_s);
-         }},
-        {"Successivo_descrizione",
-         [](V v) {
-             return avvisoSuccessivo({u"42"_s, 2024}, 2, giorno, v);
-         }},
-        {"Successivo_filiale",
-         [](V v) {
-             return avvisoSuccessivo({v, u"1"_s, 2024}, 2, giorno);
-         }},
-        {"Successivo_numero",
-         [](V v) {
-             return avvisoSuccessivo({u"MI"_s, v, 2024}, 2, giorno);
-         }},
-        {"DataBuonFine_giacenza",
-         [](V v) {
-             return dataBuonFine(ChiaveGiacenza{v, 2024});
-         }},
-        {"DataBuonFine_filiale",
-         [](V v) {
-             return dataBuonFine(ChiaveSpedizione{v, u"1"_s, 2024});
-         }},
-        {"DataBuonFine_numero",
-         [](V v) {
-             return dataBuonFine(ChiaveSpedizione{u"MI"_s, v, 2024});
-         }},
-        {"Chiusura",
-         [](V v) {
-             return chiusura({v, 2024}, giorno, u"3"_s);
-         }},
-        {"ChiusuraRipetuta",
-         [](V v) {
-             return chiusuraRipetuta({v, 2024}, u"3"_s);
-         }},
-        {"Condizioni_anno", [](V v) { return condizioniFatturazione(v, 2024); }},
-        {"Condizioni_data", [](V v) { return condizioniFatturazione(v, giorno); }},
-        {"SalvaCosti_filiale",
-         [](V v) {
-             return salvaCosti({v, u"1"_s, 2024}, Decimale(u"1"_s), Decimale(u"2"_s));
-         }},
-        {"SalvaCosti_numero",
-         [](V v) {
-             return salvaCosti({u"MI"_s, v, 2024}, Decimale(u"1"_s), Decimale(u"2"_s));
-         }},
-        {"Riconsegne",
-         [](V v) {
-             return riconsegne({v, 2024});
-         }},
-        {"Apertura1_riferimento", ricerca(ricercaApertura, M::riferimento, &D::riferimento)},
-        {"Apertura1_filiale", ricerca(ricercaApertura, M::riferimento, &D::filiale)},
-        {"Apertura1Anno_riferimento", ricerca(ricercaApertura, M::riferimento, &D::riferimento, u"2024"_s)},
-        {"Apertura1Anno_filiale", ricerca(ricercaApertura, M::riferimento, &D::filiale, u"2024"_s)},
-        {"Apertura7_numero", ricerca(ricercaApertura, M::letteraVettura, &D::numero)},
-        {"Apertura7_filiale", ricerca(ricercaApertura, M::letteraVettura, &D::filiale)},
-        {"Apertura7Anno_numero", ricerca(ricercaApertura, M::letteraVettura, &D::numero, u"2024"_s)},
-        {"Apertura7Anno_filiale", ricerca(ricercaApertura, M::letteraVettura, &D::filiale, u"2024"_s)},
-        {"Apertura10_giacenza", ricerca(ricercaApertura, M::riconsegne, &D::giacenza)},
-        {"Apertura11_cliente", ricerca(ricercaApertura, M::giacenze, &D::cliente)},
-        {"Visualizza1_valore", ricerca(ricercaVisualizza, M::riferimento, &D::valore)},
-        {"Visualizza1_filiale", ricerca(ricercaVisualizza, M::riferimento, &D::filiale)},
-        {"Visualizza7_filiale", ricerca(ricercaVisualizza, M::letteraVettura, &D::filiale)},
-        {"Visualizza7_anno", ricerca(ricercaVisualizza, M::letteraVettura, &D::annoOData)},
-        {"Visualizza7Anno_filiale", ricerca(ricercaVisualizza, M::letteraVettura, &D::filiale, u"2024"_s)},
-        {"Visualizza11_cliente", ricerca(ricercaVisualizza, M::giacenze, &D::cliente, u"05/03/2024"_s)},
-    };
-}
+namespace luoghi {
+
+using namespace istruzioni;
+using V = const QString&;
+using M = ModoRicerca;
+using D = DatiRicerca;
+
+const std::vector<Luogo> diTesto = {
+    {"NumeroDataFiliale_numero", [](V v) { return spedizionePerNumeroDataFiliale(v, giorno, u"MI"_s); }},
+    {"NumeroDataFiliale_filiale", [](V v) { return spedizionePerNumeroDataFiliale(u"1"_s, giorno, v); }},
+    {"NumeroData_esterna", [](V v) { return spedizionePerNumeroData(v, giorno, Giunzione::esterna); }},
+    {"NumeroData_minuscola",
+     [](V v) { return spedizionePerNumeroData(v, giorno, Giunzione::esternaMinuscola); }},
+    {"NumeroData_interna", [](V v) { return spedizionePerNumeroData(v, giorno, Giunzione::interna); }},
+    {"Riferimento_riferimento", [](V v) { return spedizionePerRiferimento(v, giorno, u"MI"_s); }},
+    {"Riferimento_filiale", [](V v) { return spedizionePerRiferimento(u"R"_s, giorno, v); }},
+    {"Giacenza_numero", [](V v) { return spedizionePerGiacenza(v, giorno); }},
+    {"Intera_filiale",
+     [](V v) {
+         return spedizioneIntera({v, u"1"_s, 2024});
+     }},
+    {"Intera_numero",
+     [](V v) {
+         return spedizioneIntera({u"MI"_s, v, 2024});
+     }},
+    {"DescrizioneFiliale", [](V v) { return descrizioneFiliale(v); }},
+    {"FilialeIntera", [](V v) { return filialeIntera(v); }},
+    {"Ammissione", [](V v) { return ammissione(v, giorno); }},
+    {"Collega_giacenza",
+     [](V v) {
+         return collegaGiacenza({v, 2024}, u"1"_s, 2024);
+     }},
+    {"Collega_lettera",
+     [](V v) {
+         return collegaGiacenza({u"42"_s, 2024}, v, 2024);
+     }},
+    {"StatoAvviso_giacenza",
+     [](V v) {
+         return statoAvviso(ChiaveGiacenza{v, 2024});
+     }},
+    {"StatoAvviso_filiale",
+     [](V v) {
+         return statoAvviso(ChiaveSpedizione{v, u"1"_s, 2024});
+     }},
+    {"StatoAvviso_numero",
+     [](V v) {
+         return statoAvviso(ChiaveSpedizione{u"MI"_s, v, 2024});
+     }},
+    {"PrimoAvviso_giacenza",
+     [](V v) {
+         return primoAvviso(ChiaveGiacenza{v, 2024}, giorno);
+     }},
+    {"PrimoAvviso_filiale",
+     [](V v) {
+         return primoAvviso(ChiaveSpedizione{v, u"1"_s, 2024}, giorno);
+     }},
+    {"PrimoAvviso_numero",
+     [](V v) {
+         return primoAvviso(ChiaveSpedizione{u"MI"_s, v, 2024}, giorno);
+     }},
+    {"Successivo_giacenza",
+     [](V v) {
+         return avvisoSuccessivo({v, 2024}, 2, giorno, u"x"_s);
+     }},
+    {"Successivo_descrizione",
+     [](V v) {
+         return avvisoSuccessivo({u"42"_s, 2024}, 2, giorno, v);
+     }},
+    {"Successivo_filiale",
+     [](V v) {
+         return avvisoSuccessivo({v, u"1"_s, 2024}, 2, giorno);
+     }},
+    {"Successivo_numero",
+     [](V v) {
+         return avvisoSuccessivo({u"MI"_s, v, 2024}, 2, giorno);
+     }},
+    {"DataBuonFine_giacenza",
+     [](V v) {
+         return dataBuonFine(ChiaveGiacenza{v, 2024});
+     }},
+    {"DataBuonFine_filiale",
+     [](V v) {
+         return dataBuonFine(ChiaveSpedizione{v, u"1"_s, 2024});
+     }},
+    {"DataBuonFine_numero",
+     [](V v) {
+         return dataBuonFine(ChiaveSpedizione{u"MI"_s, v, 2024});
+     }},
+    {"Chiusura",
+     [](V v) {
+         return chiusura({v, 2024}, giorno, u"3"_s);
+     }},
+    {"ChiusuraRipetuta",
+     [](V v) {
+         return chiusuraRipetuta({v, 2024}, u"3"_s);
+     }},
+    {"Condizioni_anno", [](V v) { return condizioniFatturazione(v, 2024); }},
+    {"Condizioni_data", [](V v) { return condizioniFatturazione(v, giorno); }},
+    {"SalvaCosti_filiale",
+     [](V v) {
+         return salvaCosti({v, u"1"_s, 2024}, Decimale(u"1"_s), Decimale(u"2"_s));
+     }},
+    {"SalvaCosti_numero",
+     [](V v) {
+         return salvaCosti({u"MI"_s, v, 2024}, Decimale(u"1"_s), Decimale(u"2"_s));
+     }},
+    {"Riconsegne",
+     [](V v) {
+         return riconsegne({v, 2024});
+     }},
+    {"Apertura1_riferimento", ricerca(ricercaApertura, M::riferimento, &D::riferimento)},
+    {"Apertura1_filiale", ricerca(ricercaApertura, M::riferimento, &D::filiale)},
+    {"Apertura1Anno_riferimento", ricerca(ricercaApertura, M::riferimento, &D::riferimento, u"2024"_s)},
+    {"Apertura1Anno_filiale", ricerca(ricercaApertura, M::riferimento, &D::filiale, u"2024"_s)},
+    {"Apertura7_numero", ricerca(ricercaApertura, M::letteraVettura, &D::numero)},
+    {"Apertura7_filiale", ricerca(ricercaApertura, M::letteraVettura, &D::filiale)},
+    {"Apertura7Anno_numero", ricerca(ricercaApertura, M::letteraVettura, &D::numero, u"2024"_s)},
+    {"Apertura7Anno_filiale", ricerca(ricercaApertura, M::letteraVettura, &D::filiale, u"2024"_s)},
+    {"Apertura10_giacenza", ricerca(ricercaApertura, M::riconsegne, &D::giacenza)},
+    {"Apertura11_cliente", ricerca(ricercaApertura, M::giacenze, &D::cliente)},
+    {"Visualizza1_valore", ricerca(ricercaVisualizza, M::riferimento, &D::valore)},
+    {"Visualizza1_filiale", ricerca(ricercaVisualizza, M::riferimento, &D::filiale)},
+    {"Visualizza7_filiale", ricerca(ricercaVisualizza, M::letteraVettura, &D::filiale)},
+    {"Visualizza7_anno", ricerca(ricercaVisualizza, M::letteraVettura, &D::annoOData)},
+    {"Visualizza7Anno_filiale", ricerca(ricercaVisualizza, M::letteraVettura, &D::filiale, u"2024"_s)},
+    {"Visualizza11_cliente", ricerca(ricercaVisualizza, M::giacenze, &D::cliente, u"05/03/2024"_s)},
+};
+
+} // namespace luoghi
 
 class LuogoDiTesto : public testing::TestWithParam<Luogo>
 {};
@@ -200,7 +202,7 @@ TEST_P(LuogoDiTesto, unApostrofoSoloNonPassa)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Tutti, LuogoDiTesto, testing::ValuesIn(luoghiDiTesto()), nomeDi);
+INSTANTIATE_TEST_SUITE_P(Tutti, LuogoDiTesto, testing::ValuesIn(luoghi::diTesto), nomeDi);
 
 std::vector<Luogo> luoghiDiCifre()
 {

@@ -2,6 +2,7 @@
 #include "base/orologio.h"
 #include "dialogs/frmPorto.h"
 #include "dialogs/frmRifiuto.h"
+#include "e2e/tabelle.h"
 #include "emissione/emittente.h"
 #include "management/frmGestGia.h"
 #include "redelivery/frmRiconsegna.h"
@@ -18,8 +19,6 @@
 #include <QRadioButton>
 #include <QTest>
 
-#include <map>
-
 using namespace giacenza;
 using namespace giacenza::prove;
 using namespace Qt::StringLiterals;
@@ -27,11 +26,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
-
-/// A row by its columns in lower case; a decimal without idle zeros, null as "NULL".
-using Riga = std::map<QString, QString>;
-/// The rows of a table by their key.
-using Tabella = std::map<QString, Riga>;
 
 /// One shipment from the day it is held to the day its case is closed, on all three screens.
 class Vita : public SchermataDiProva
@@ -97,24 +91,7 @@ protected:
     Tabella leggi(const QString& nome, const QStringList& chiave) const
     {
         Connessione connessione = mBase.amministratore();
-        Recordset righe;
-        righe.apri(connessione, u"select * from "_s + nome);
-        Tabella tabella;
-        for (; !righe.eof(); righe.successivo()) {
-            Riga riga;
-            for (int i = 0; i < righe.colonne(); ++i) {
-                QString valore = righe.valore(i).value_or(u"NULL"_s);
-                while (eNumero(valore) && valore.contains(u'.') &&
-                       (valore.endsWith(u'0') || valore.endsWith(u'.')))
-                    valore.chop(1);
-                riga[righe.nomeColonna(i).toLower()] = valore;
-            }
-            QStringList parti;
-            for (const QString& colonna : chiave)
-                parti << riga.at(colonna);
-            tabella[parti.join(u'/')] = riga;
-        }
-        return tabella;
+        return leggiTabella(connessione, nome, chiave);
     }
 
     /// Every column of every row is what it was, but for what the test has written into the two tables.
@@ -123,16 +100,14 @@ protected:
         confronta(leggi(u"letve00f"_s, {u"lefili"_s, u"lenrlv"_s, u"leanlv"_s}), mLettere, quando);
         confronta(leggi(u"giace00f"_s, {u"ginrgi"_s, u"giangi"_s}), mGiacenze, quando);
     }
-    static void confronta(const Tabella& trovata, const Tabella& attesa, const char* quando)
-    {
-        EXPECT_EQ(trovata.size(), attesa.size()) << quando;
-        for (const auto& [chiave, riga] : attesa) {
-            ASSERT_TRUE(trovata.contains(chiave)) << quando << ": manca " << chiave.toStdString();
-            for (const auto& [colonna, valore] : riga)
-                EXPECT_EQ(trovata.at(chiave).at(colonna), valore)
-                    << quando << ": " << chiave.toStdString() << ' ' << colonna.toStdString();
-        }
-    }
+
+    /// The days of one case, each on its screen; each writes into the two tables what it should have done.
+    void registra();
+    void rifiuta();
+    void riconsegna(const Riga& originale);
+    void rende();
+    void chiude();
+    void nonSiRiconsegnaPiu();
 
     QString mQuale;
     Tabella mLettere;
@@ -142,11 +117,9 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Basi, Vita, testing::Values("sqlite", "mariadb"),
                          nomeBase<testing::TestParamInfo<std::string>>);
 
-TEST_P(Vita, DallaRegistrazioneAllaChiusura)
+void Vita::registra()
 {
     Riga& ldv = mLettere.at(u"MI/4711/2026"_s);
-    const Riga originale = ldv;
-
     apri(u"frmGiacenza"_s, QDate(2026, 11, 21));
     cercaLdv();
     scrivi("txtFilialeGia", u"BO"_s);
@@ -175,7 +148,10 @@ TEST_P(Vita, DallaRegistrazioneAllaChiusura)
     verifica("registrata e avvisata");
     EXPECT_EQ(mBase.leggi(u"select UltimoNumGiacenza from ekelvorqzt_tabge00f"_s), u"42"_s);
     EXPECT_EQ(mStampe.last(), u"documento 42_2026"_s);
+}
 
+void Vita::rifiuta()
+{
     apri(u"frmGestGia"_s, QDate(2026, 11, 25));
     richiamaGiacenza();
     {
@@ -187,17 +163,22 @@ TEST_P(Vita, DallaRegistrazioneAllaChiusura)
         });
         clicca("cmdAvvisoGia");
     }
+    Riga& giacenza = mGiacenze.at(u"42/2026"_s);
     giacenza[u"ginrav"_s] = u"2"_s;
     giacenza[u"gidtav"_s] = u"2026-11-25"_s;
     giacenza[u"gides1"_s] = u"21/11/2026 - Assente\r\n25/11/2026 - Imballo bagnato"_s;
     verifica("rifiutata e avvisata di nuovo");
     EXPECT_EQ(mStampe.filter(u"documento"_s), QStringList({u"documento 42_2026"_s, u"documento 42_2026"_s}));
+}
 
+void Vita::riconsegna(const Riga& originale)
+{
     impostazioni().movimento = Movimento::riconsegna;
     apri(u"frmRiconsegna"_s, QDate(2026, 11, 26));
     cercaLdv();
     emetti();
-    Riga nuova = originale;
+    Riga& nuova = mLettere[u"MI/4716/2026"_s];
+    nuova = originale;
     nuova[u"lenrlv"_s] = u"4716"_s;
     nuova[u"ledtlv"_s] = u"2026-11-26"_s;
     nuova[u"lerico"_s] = u"R"_s;
@@ -207,9 +188,11 @@ TEST_P(Vita, DallaRegistrazioneAllaChiusura)
     nuova[u"lerfgi"_s] = u"42"_s;
     nuova[u"leangi"_s] = u"2026"_s;
     nuova[u"ledtco"_s] = u"NULL"_s;
-    mLettere[u"MI/4716/2026"_s] = nuova;
     verifica("riconsegnata");
+}
 
+void Vita::rende()
+{
     impostazioni().movimento = Movimento::reso;
     apri(u"frmRiconsegna"_s, QDate(2026, 11, 27));
     cercaLdv();
@@ -218,6 +201,8 @@ TEST_P(Vita, DallaRegistrazioneAllaChiusura)
     EXPECT_THAT(mMessaggi.prendi(),
                 ElementsAre(Messaggio{u"Sono presenti n.1 riconsegne emettere una nuova riconsegna?"_s,
                                       Stile::domandaInformazione, titoloApplicazione()}));
+    Riga& nuova = mLettere[u"MI/4717/2026"_s];
+    nuova = mLettere.at(u"MI/4716/2026"_s);
     nuova[u"lenrlv"_s] = u"4717"_s;
     nuova[u"ledtlv"_s] = u"2026-11-27"_s;
     nuova[u"ledest"_s] = u"Ferramenta Lombarda S.r.l."_s;
@@ -229,19 +214,25 @@ TEST_P(Vita, DallaRegistrazioneAllaChiusura)
     nuova[u"lecnss"_s] = u"0"_s;
     nuova[u"leanpc"_s] = u"0"_s;
     nuova[u"lenote"_s] = u"Reso a Mittente, giacenza 42/2026, LDV originale 4711\r\nSolo al mattino"_s;
-    mLettere[u"MI/4717/2026"_s] = nuova;
     verifica("resa");
+}
 
+void Vita::chiude()
+{
     apri(u"frmGestGia"_s, QDate(2026, 11, 30));
     richiamaGiacenza();
     clicca("cmdBuonFine");
+    Riga& giacenza = mGiacenze.at(u"42/2026"_s);
     giacenza[u"gidtbf"_s] = u"2026-11-30"_s;
     giacenza[u"giggso"_s] = u"9"_s;
     giacenza[u"fissogiacenza"_s] = u"7.5"_s;
     giacenza[u"giimgi"_s] = u"15"_s; // four days at 1.50 make 6.00, the minimum is 15.00
     verifica("chiusa");
     EXPECT_EQ(mStampe.filter(u"tipo"_s).last(), u"tipo 6"_s);
+}
 
+void Vita::nonSiRiconsegnaPiu()
+{
     apri(u"frmRiconsegna"_s, QDate(2026, 12, 1));
     cercaLdv();
     emetti();
@@ -250,6 +241,17 @@ TEST_P(Vita, DallaRegistrazioneAllaChiusura)
         ElementsAre(Messaggio{u"la Giacenza è stata chiusa con avviso di buon fine in data: 30/11/2026."_s,
                               Stile::avviso, titoloApplicazione()}));
     verifica("una giacenza chiusa non si riconsegna");
+}
+
+TEST_P(Vita, DallaRegistrazioneAllaChiusura)
+{
+    const Riga originale = mLettere.at(u"MI/4711/2026"_s);
+    registra();
+    rifiuta();
+    riconsegna(originale);
+    rende();
+    chiude();
+    nonSiRiconsegnaPiu();
 }
 
 TEST_P(Vita, UnaRiconsegnaNonSiMetteInGiacenza)

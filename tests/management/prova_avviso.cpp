@@ -1,13 +1,7 @@
-#include "management/gestionediprova.h"
+#include "management/avvisodiprova.h"
 
-#include "base/impostazioni.h"
 #include "base/orologio.h"
 #include "support/stampa.h"
-
-#include <QCoreApplication>
-#include <QPlainTextEdit>
-
-using namespace Qt::StringLiterals;
 
 using namespace giacenza;
 using namespace giacenza::prove;
@@ -16,28 +10,8 @@ using testing::IsEmpty;
 
 namespace {
 
-class Avviso : public GestioneDiProva
-{
-protected:
-    QStringList stampata(int tipo, const QString& chiave) const
-    {
-        return {u"database "_s + mBase.stringa(),
-                u"logo /logo"_s,
-                u"didascalie uno|due|tre|quattro"_s,
-                u"stampa 1"_s,
-                u"tipo %1"_s.arg(tipo),
-                u"documento "_s + chiave};
-    }
-    void descrivi(const QString& testo)
-    {
-        qobject_cast<QPlainTextEdit*>(c("txtDescGia"))->setPlainText(testo);
-    }
-    /// The notices of case 39 as the database has them.
-    void avvisi(const QString& numero, const QString& data)
-    {
-        mBase.esegui(u"update giace00f set GINRAV=%1, GIDTAV=%2 where GINRGI='39';"_s.arg(numero, data));
-    }
-};
+class Avviso : public AvvisoDiProva
+{};
 
 INSTANTIATE_TEST_SUITE_P(Basi, Avviso, testing::Values("sqlite", "mariadb"),
                          nomeBase<testing::TestParamInfo<std::string>>);
@@ -230,122 +204,6 @@ TEST_P(Avviso, SenzaUnCasoSiDiceESiSta)
     }
     EXPECT_THAT(mStampe, IsEmpty());
     EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
-}
-
-TEST_P(Avviso, LaStampaCheNonRiesceSiDiceEIlContoResta)
-{
-    const std::string inizio = "L'avviso di giacenza non è stato stampato; la giacenza resta registrata.\n\n";
-    richiamaAvvisato();
-    mGuastoStampa = u"Il disco è pieno."_s;
-    avvisa(u"uno"_s);
-    EXPECT_THAT(mMessaggi.prendi(),
-                ElementsAre(Messaggio{QString::fromStdString(inizio + "Il disco è pieno."), Stile::avviso,
-                                      titoloApplicazione()}));
-    EXPECT_EQ(caso(u"GINRAV"_s, u"39"_s), u"4"_s);
-    mGuastoStampa.clear();
-    mStampaNonProdotta = true;
-    clicca("cmdRistampa");
-    EXPECT_EQ(mMessaggi.prendi().front().testo.toStdString(),
-              inizio + "Il modulo di stampa non ha prodotto il documento.");
-    mDuranteStampa = [] { throw 42; };
-    clicca("cmdRistampa");
-    EXPECT_EQ(mMessaggi.prendi().front().testo.toStdString(), inizio + "errore sconosciuto");
-    impostazioni().percorsoFileIni = u"/non/ce.ini"_s;
-    clicca("cmdRistampa");
-    EXPECT_THAT(mMessaggi.prendi().front().testo.toStdString(),
-                testing::StartsWith(inizio + "Manca la voce IdentificativoDll"));
-}
-
-TEST_P(Avviso, CollegamentoPersoPrimaDiOgniIstruzione)
-{
-    richiamaAvvisato();
-    const QString prima = tutto(u"39"_s);
-    for (const char16_t* punto : {u"select GINRAV", u"UPDATE giace00f SET GINRAV"}) {
-        fallisce(QString::fromUtf16(punto), u"08S01"_s);
-        avvisa(u"motivo"_s);
-        guarisce();
-        EXPECT_THAT(
-            mMessaggi.prendi(),
-            ElementsAre(Messaggio{u"Operazione non riuscita: il database o un suo dato non risponde come "
-                                  "dovrebbe.\n\nguasto di prova"_s,
-                                  Stile::critico, u"Gestione Trasporti"_s}));
-        EXPECT_EQ(tutto(u"39"_s), prima);
-        EXPECT_EQ(mostrato("lblDataAvviso"), u"20/11/2026"_s);
-        EXPECT_EQ(mostrato("lblStatoCaso"), u"APERTA · 3 AVVISI"_s);
-        EXPECT_THAT(mStampe, IsEmpty());
-    }
-    avvisa(u"motivo"_s);
-    EXPECT_EQ(caso(u"GINRAV"_s, u"39"_s), u"4"_s) << "and then it works";
-}
-
-TEST_P(Avviso, LaSchermataCheSeNeVaSottoIlRifiutoAbbandona)
-{
-    for (const bool distrutta : {false, true}) {
-        richiamaAvvisato();
-        const QString prima = tutto(u"39"_s);
-        nelDialogo([&](QDialog&) {
-            if (distrutta)
-                delete mSchermata;
-            else
-                mSchermata->close();
-        });
-        clicca("cmdAvvisoGia");
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        EXPECT_TRUE(mSchermata.isNull());
-        EXPECT_EQ(tutto(u"39"_s), prima);
-        EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
-        EXPECT_THAT(mStampe, IsEmpty());
-    }
-}
-
-TEST_P(Avviso, LaSchermataPuoSparireSottoLaStampa)
-{
-    mDuranteStampa = [this] { delete mSchermata; };
-    for (const char* bottone : {"cmdRistampa", "cmdBuonFine"}) {
-        richiamaAvvisato();
-        clicca(bottone);
-        EXPECT_TRUE(mSchermata.isNull()) << bottone;
-        EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
-    }
-    EXPECT_EQ(mStampe.filter(u"documento 39_2026"_s).size(), 2);
-    EXPECT_EQ(caso(u"GIDTBF,GIGGSO"_s, u"39"_s), u"2026-11-21|16"_s);
-}
-
-TEST_P(Avviso, LaSchermataPuoSparireSottoOgniSuoMessaggio)
-{
-    mMessaggi.mentreAperto([this](QWidget*, const Messaggio&) { delete mSchermata; });
-    const std::pair<std::function<void()>, QString> modi[] = {
-        {[this] {
-             apri();
-             clicca("cmdRicGiac");
-         },
-         u"Manca il numero della giacenza."_s},
-        {[this] { richiama(u"41"_s, {}); }, u"Manca la data della giacenza."_s},
-        {[this] { richiama(u"77"_s, u"10112026"_s); }, u"Giacenza: 77 del 10/11/2026 non trovata."_s},
-        {[this] {
-             richiamaChiuso();
-             clicca("cmdAvvisoGia");
-         },
-         u"La giacenza risulta chiusa,in data: 18/11/2026."_s},
-        {[this] {
-             richiamaMaiAvvisato();
-             clicca("cmdBuonFine");
-         },
-         u"Non è stato ancora emesso un avviso di giacenza."_s},
-        {[this] {
-             richiamaChiuso();
-             mGuastoStampa = u"guasto"_s;
-             clicca("cmdRistampa");
-         },
-         u"L'avviso di giacenza non è stato stampato; la giacenza resta "
-         "registrata.\n\nguasto"_s},
-    };
-    for (const auto& [modo, messaggio] : modi) {
-        modo();
-        EXPECT_TRUE(mSchermata.isNull()) << messaggio.toStdString();
-        EXPECT_EQ(mMessaggi.testi(), QStringList{messaggio});
-        mMessaggi.prendi();
-    }
 }
 
 } // namespace

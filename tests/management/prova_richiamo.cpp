@@ -1,18 +1,10 @@
-#include "management/gestionediprova.h"
+#include "management/richiamodiprova.h"
 
 #include "screens/campi.h"
 #include "support/stampa.h"
-#include "support/trova.h"
 
-#include <QCheckBox>
 #include <QComboBox>
-#include <QDialog>
-#include <QLabel>
 #include <QLineEdit>
-#include <QTableView>
-#include <QTest>
-
-using namespace Qt::StringLiterals;
 
 using namespace giacenza;
 using namespace giacenza::prove;
@@ -21,28 +13,8 @@ using testing::IsEmpty;
 
 namespace {
 
-class Richiamo : public GestioneDiProva
-{
-protected:
-    static Messaggio deiTrasporti(const QString& testo)
-    {
-        return {testo, Stile::avviso, u"Gestione Trasporti"_s};
-    }
-    QString blocco() const
-    {
-        return u"SELECT letve00f.*, giace00f.*, forni.RagioneSociale as Vettore, filiali.Descrizione as "
-               u"filiale, "
-               "codicizona.Descrizione as linea from (((letve00f LEFT JOIN giace00f on lefili=gifili and "
-               "lenrlv=ginrlv and leanlv=gianlv) inner JOIN filiali ON lefili=filiali.codice) INNER JOIN "
-               "codicizona on lelin1=codicizona.Codice) INNER join forni ON forni.Codice=lecdve"_s;
-    }
-    bool attivo(const char* nome) const { return c(nome)->isEnabled(); }
-    void riattiva()
-    {
-        QEvent attivata(QEvent::WindowActivate);
-        QCoreApplication::sendEvent(mSchermata, &attivata);
-    }
-};
+class Richiamo : public RichiamoDiProva
+{};
 
 INSTANTIATE_TEST_SUITE_P(Basi, Richiamo, testing::Values("sqlite", "mariadb"),
                          nomeBase<testing::TestParamInfo<std::string>>);
@@ -192,99 +164,6 @@ TEST_P(Richiamo, IlCasoDiPrimaNonPrestaNiente)
     EXPECT_EQ(mostrato("barGiorniSosta"), u"11"_s);
     for (const char* nome : {"txtDataFatt", "txtImponibile", "txtGiaOld"})
         EXPECT_TRUE(avanzo(nome)) << nome;
-}
-
-TEST_P(Richiamo, LaCasellaSceglieIlModo)
-{
-    apri();
-    auto* casella = qobject_cast<QCheckBox*>(c("chkRicerca"));
-    EXPECT_EQ(casella->text(), u"Ric. per n. giacenza"_s);
-    c("chkRicerca")->setFocus();
-    QTest::keyClick(casella, Qt::Key_Space);
-    EXPECT_EQ(casella->text(), u"Ric. cod. cliente"_s);
-    for (const char* nome : {"lblGiace", "lblDataGiace", "txtNGiace", "txtDataGiace"})
-        EXPECT_FALSE(attivo(nome)) << nome;
-    for (const char* nome : {"lblCliente", "txtCodiceCli", "barCliente", "cmdCercaCliente"})
-        EXPECT_TRUE(attivo(nome)) << nome;
-    const QColor bianco = c("txtCodiceCli")->palette().color(QPalette::Base);
-    EXPECT_EQ(bianco, QColor(Qt::white));
-    EXPECT_NE(c("txtNGiace")->grab().toImage().pixelColor(20, 4), bianco);
-    QTest::keyClick(casella, Qt::Key_Space);
-    EXPECT_TRUE(attivo("txtNGiace"));
-    EXPECT_FALSE(attivo("txtCodiceCli"));
-    EXPECT_EQ(c("txtNGiace")->grab().toImage().pixelColor(20, 4), bianco);
-}
-
-TEST_P(Richiamo, OgniAttivazioneTornaAiCampiDelNumeroELaCasellaResta)
-{
-    apri();
-    clicca("chkRicerca");
-    scrivi("txtCodiceCli", u"1001"_s);
-    riattiva();
-    EXPECT_TRUE(qobject_cast<QCheckBox*>(c("chkRicerca"))->isChecked());
-    EXPECT_EQ(qobject_cast<QCheckBox*>(c("chkRicerca"))->text(), u"Ric. per n. giacenza"_s);
-    EXPECT_TRUE(attivo("txtNGiace"));
-    EXPECT_FALSE(attivo("txtCodiceCli"));
-    bool venuta = false;
-    nelDialogo([&](QDialog& dialogo) {
-        venuta = dialogo.objectName() == u"frmRicercaGia"_s;
-        QTest::keyClick(&dialogo, Qt::Key_Escape);
-    });
-    clicca("cmdRicGiac");
-    EXPECT_TRUE(venuta) << "the retrieval follows the check box";
-    EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
-    EXPECT_EQ(mostrato("lblNrGia"), QString());
-}
-
-TEST_P(Richiamo, PerClienteSiPrendeLaRigaConITasti)
-{
-    apri();
-    clicca("chkRicerca");
-    scrivi("txtCodiceCli", u"1001"_s);
-    lascia("txtCodiceCli");
-    EXPECT_EQ(mostrato("barCliente"), u"Ferramenta Lombarda S.r.l."_s);
-    QString ldv;
-    nelDialogo([&](QDialog& dialogo) {
-        EXPECT_EQ(trova<QLabel>(dialogo, u"lblCliente"_s)->text(), u"Ferramenta Lombarda S.r.l."_s);
-        auto* griglia = trova<QTableView>(dialogo, u"Griglia"_s);
-        ASSERT_EQ(griglia->model()->rowCount(), 3);
-        griglia->setFocus();
-        QTest::keyClick(griglia, Qt::Key_Down);
-        ldv = griglia->currentIndex().siblingAtColumn(0).data().toString();
-        QTest::keyClick(griglia, Qt::Key_Return);
-    });
-    const QStringList inviate = istruzioni([&] { clicca("cmdRicGiac"); });
-    EXPECT_THAT(inviate, testing::Contains(blocco() + u" WHERE lenrlv='%1' and "
-                                                      "ledtlv='2026-11-12';"_s.arg(ldv)));
-    ASSERT_FALSE(ldv.isEmpty());
-    EXPECT_EQ(mostrato("txtLDV"), ldv);
-    EXPECT_EQ(mostrato("lblNrGia"), mBase.leggi(u"select GINRGI from giace00f where GINRLV='%1'"_s.arg(ldv)));
-    // The offscreen platform leaves it to us to wake the screen under a dialog that closed.
-    mSchermata->activateWindow();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return c("txtFilSped")->hasFocus(); }));
-}
-
-TEST_P(Richiamo, IlCodiceClienteSiControllaComeAllaRegistrazione)
-{
-    apri();
-    clicca("chkRicerca");
-    scrivi("txtCodiceCli", u"abc"_s);
-    const auto attesa = Messaggio{u"Codice cliente assente o errato"_s, Stile::avviso, titoloApplicazione()};
-    EXPECT_THAT(istruzioni([&] { lascia("txtCodiceCli"); }), IsEmpty());
-    EXPECT_THAT(mMessaggi.prendi(), ElementsAre(attesa));
-    scorciatoia(Qt::Key_H);
-    EXPECT_THAT(mMessaggi.prendi(), ElementsAre(attesa)) << "a shortcut moves no focus";
-    scrivi("txtCodiceCli", u"77"_s);
-    EXPECT_THAT(istruzioni([&] { lascia("txtCodiceCli"); }),
-                ElementsAre(u"select RagioneSociale from clien where Codice=77;"_s));
-    EXPECT_THAT(mMessaggi.prendi(), ElementsAre(Messaggio{u"Codice Cliente Inesistente"_s,
-                                                          Stile::informazione, u"Gestione Trasporti"_s}));
-    scrivi("txtCodiceCli", u"1001"_s);
-    lascia("txtCodiceCli");
-    EXPECT_TRUE(qobject_cast<QLineEdit*>(c("txtCodiceCli"))->isReadOnly());
-    clicca("chkRicerca");
-    clicca("chkRicerca");
-    EXPECT_FALSE(qobject_cast<QLineEdit*>(c("txtCodiceCli"))->isReadOnly()) << "another customer may come";
 }
 
 TEST_P(Richiamo, LaDataDellaGiacenzaSiControllaSoloSenzaUnCaso)

@@ -1,13 +1,7 @@
 #include "base/impostazioni.h"
 #include "data/archivio.h"
-#include "dialogs/frmPorto.h"
-#include "redelivery/riconsegnadiprova.h"
-#include "support/modale.h"
+#include "redelivery/emissionediprova.h"
 #include "support/stampa.h"
-
-#include <QCoreApplication>
-#include <QLabel>
-#include <QTest>
 
 using namespace giacenza;
 using namespace giacenza::prove;
@@ -17,25 +11,10 @@ using testing::IsEmpty;
 
 namespace {
 
-class Riconsegna : public RiconsegnaDiProva
+class Riconsegna : public EmissioneDiProva
 {
 protected:
     ~Riconsegna() override { impostaTraccia({}); }
-
-    QStringList consegnaIntera(const QString& numero, bool stampa = true) const
-    {
-        const QString cartella = QCoreApplication::applicationDirPath();
-        return {u"contesto"_s,
-                u"database "_s + mBase.stringa(),
-                u"cartella "_s + cartella + u"/imp"_s,
-                u"logo "_s + cartella + u"/logo.gif"_s,
-                u"stampa %1"_s.arg(stampa),
-                u"definitiva 1"_s,
-                u"emetti "_s + numero};
-    }
-
-    /// Every statement that begins so fails, the connection with it.
-    void fallisce(const QString& inizio) { SchermataDiProva::fallisce(inizio, u"08S01"_s); }
 
     static Messaggio dellApplicazione(const QString& testo, Stile stile = Stile::avviso)
     {
@@ -197,38 +176,6 @@ TEST_P(Riconsegna, IlNumeroScrittoVincePerLaLdvELaGiacenzaRestaQuellaMostrata)
     EXPECT_EQ(mEmissioni.contesti.back().numeroGiacenza, u"50"_s);
 }
 
-TEST_P(Riconsegna, LaLetturaFallitaConsegnaUnRecordVuoto)
-{
-    cerca(u"950"_s);
-    fallisce(u"select * from letve00f"_s);
-    EXPECT_EQ(emetti(), consegnaIntera(u"(vuota)"_s)) << "the count opens the connection again";
-    EXPECT_FALSE(bottoneAcceso());
-}
-
-TEST_P(Riconsegna, IlConteggioFallitoNonEmetteELasciaIlBottone)
-{
-    cerca(u"950"_s);
-    fallisce(u"SELECT letve00f.*, giace00f.*"_s);
-    EXPECT_THAT(emetti(), IsEmpty());
-    EXPECT_EQ(stato()->text(), u"La giacenza non si controlla: guasto di prova"_s);
-    EXPECT_TRUE(bottoneAcceso());
-    impostaTraccia({});
-    EXPECT_EQ(emetti(), consegnaIntera(u"950"_s)) << "and then it works";
-}
-
-TEST_P(Riconsegna, SenzaDatabaseIlPortoSiChiedeLoStesso)
-{
-    cerca(u"950"_s);
-    impostazioni().percorsoDatabase = u"DRIVER={Inesistente}"_s;
-    // The screen's connection is open since it was loaded: an issue that is given up releases it.
-    emetti({.chiude = Porto::Chiude::annulla});
-    EXPECT_THAT(emetti(), IsEmpty()) << "it cannot be checked";
-    EXPECT_TRUE(bottoneAcceso());
-    const QStringList chiamate = emetti({.controllo = false});
-    EXPECT_EQ(chiamate.last(), u"emetti (vuota)"_s);
-    EXPECT_FALSE(bottoneAcceso());
-}
-
 TEST_P(Riconsegna, DopoOgniGiroLaConnessioneEChiusaESiRiapre)
 {
     cerca(u"950"_s);
@@ -244,57 +191,6 @@ TEST_P(Riconsegna, DopoOgniGiroLaConnessioneEChiusaESiRiapre)
     impostaTraccia({});
     cerca(u"951"_s);
     EXPECT_EQ(mostrato("lblNrGia"), u"51"_s);
-}
-
-TEST_P(Riconsegna, SenzaEmittenteLoDiceLaRigaDiStatoEIlBottoneSiSpegne)
-{
-    registraParte(QString::fromUtf16(classeEmittenteLdv), {});
-    qputenv("GIACENZA_PARTI", mCartella.path().toUtf8());
-    cerca(u"950"_s);
-    EXPECT_THAT(emetti(), IsEmpty());
-    qunsetenv("GIACENZA_PARTI");
-    EXPECT_TRUE(stato()->text().contains(u"EmissioneLdv.cEmittente"_s)) << stato()->text().toStdString();
-    EXPECT_FALSE(bottoneAcceso());
-}
-
-TEST_P(Riconsegna, UnEmittenteCheLanciaNonFermaLaSchermata)
-{
-    mEmissioni.durante = [] { throw Errore(u"carta finita"_s); };
-    cerca(u"950"_s);
-    emetti();
-    EXPECT_EQ(stato()->text(), u"carta finita"_s);
-    EXPECT_FALSE(bottoneAcceso());
-    EXPECT_EQ(mEmissioni.vivi, 0);
-}
-
-TEST_P(Riconsegna, UnaEccezioneEstraneaNonEsceDalGestore)
-{
-    mEmissioni.durante = [] { throw std::runtime_error("ignota"); };
-    cerca(u"950"_s);
-    emetti();
-    EXPECT_EQ(stato()->text(), u"ignota"_s);
-    EXPECT_FALSE(bottoneAcceso());
-}
-
-TEST_P(Riconsegna, ChiusaSottoIlDialogoONelMezzoDellEmissioneFinisceInSilenzio)
-{
-    cerca(u"950"_s);
-    {
-        const QuandoAperta<frmPorto> intanto([&](frmPorto&) {
-            mSchermata->close();
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        });
-        clicca("cmdRiconsegna");
-    }
-    EXPECT_THAT(mEmissioni.chiamate, IsEmpty());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_TRUE(mSchermata.isNull());
-
-    mEmissioni.durante = [this] { mSchermata->close(); };
-    cerca(u"950"_s);
-    emetti();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_TRUE(mSchermata.isNull());
 }
 
 TEST_P(Riconsegna, UnaDataGiacenzaErrataSiRifiutaAncheConLaScorciatoia)
