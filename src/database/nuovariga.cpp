@@ -19,20 +19,19 @@ NuovaRiga::NuovaRiga(Connessione& connessione, const QString& tabella)
     odbc::Istruzione descrizione(mCollegamento);
     mCollegamento->esegui(EventoDati::istruzione, mIstruzione, [&] {
         descrizione.prepara(mIstruzione);
-        mColonne = descrizione.nomiColonne();
+        mColonne = NomiColonne(descrizione.nomiColonne());
     });
 }
 
 void NuovaRiga::imposta(const QString& colonna, const Valore& valore)
 {
-    const auto stessa = [&](const QString& nome) { return nome.compare(colonna, Qt::CaseInsensitive) == 0; };
-    const auto trovata = std::find_if(mColonne.cbegin(), mColonne.cend(), stessa);
-    if (trovata == mColonne.cend())
+    const qsizetype posto = mColonne.posto(colonna);
+    if (posto < 0)
         throw ErroreDatabase(u"42S22"_s, 0, u"La colonna \"%1\" non esiste."_s.arg(colonna), mIstruzione);
     const auto gia = std::find_if(mImpostati.begin(), mImpostati.end(),
-                                  [&](const auto& impostata) { return impostata.first == *trovata; });
+                                  [posto](const auto& impostata) { return impostata.first == posto; });
     if (gia == mImpostati.end())
-        mImpostati.emplace_back(*trovata, valore);
+        mImpostati.emplace_back(posto, valore);
     else
         gia->second = valore;
 }
@@ -45,14 +44,14 @@ void NuovaRiga::aggiungi()
     QStringList segni;
     std::vector<Valore> valori;
     for (const auto& [colonna, valore] : mImpostati) {
-        colonne += colonna;
+        colonne += mColonne[colonna];
         segni += u"?"_s;
         valori.push_back(valore);
     }
     odbc::Istruzione inserimento(mCollegamento);
-    inserimento.prepara(
-        u"insert into %1 (%2) values (%3)"_s.arg(mTabella, colonne.join(u", "_s), segni.join(u", "_s)));
-    inserimento.eseguiPreparata(valori);
+    inserimento.eseguiConValori(
+        u"insert into %1 (%2) values (%3)"_s.arg(mTabella, colonne.join(u", "_s), segni.join(u", "_s)),
+        valori);
     mImpostati.clear();
 }
 

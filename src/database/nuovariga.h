@@ -1,6 +1,7 @@
 #pragma once
 
 #include "database/connessione.h"
+#include "database/nomicolonne.h"
 #include "database/valori.h"
 
 #include <utility>
@@ -28,8 +29,8 @@ private:
     std::shared_ptr<odbc::Collegamento> mCollegamento;
     QString mTabella;
     QString mIstruzione;
-    std::vector<QString> mColonne;
-    std::vector<std::pair<QString, Valore>> mImpostati; // by the names of mColonne
+    NomiColonne mColonne;
+    std::vector<std::pair<qsizetype, Valore>> mImpostati; // by their place in mColonne
 };
 
 } // namespace giacenza
