@@ -80,7 +80,8 @@ create table ekelvorqzt_tabge00f (
 ) engine = InnoDB default charset = utf8mb4 collate = utf8mb4_general_nopad_ci;
 
 -- The number leads every key in which the branch stands too: a depot may have but one branch, and a key that
--- starts with it would then pass for a way to the row while it reads the table.
+-- starts with it would then pass for a way to the row while it reads the table. letve_cliente_lettera is for the
+-- list of a customer's held shipments: without it all of the depot's are read for a customer with many waybills.
 --
 -- lenrlv_numero is the number of a waybill whose number is digits only: with its index, who issues a waybill
 -- finds the highest of the year without reading the year. It is invisible, so that no "select *" and no insert
@@ -125,6 +126,7 @@ create table letve00f (
     key letve_numero (lenrlv, ledtlv, lefili),
     key letve_riferimento (lerife, lerifd, lefili),
     key letve_cliente (lecodi, lefili, lerife, ledtlv),
+    key letve_cliente_lettera (lecodi, lenrlv, leanlv, lefili),
     key letve_giacenza (LERFGI, LEANGI, lefili),
     key letve_anno (leanlv, lenrlv),
     key letve_numerico (leanlv, lenrlv_numero)

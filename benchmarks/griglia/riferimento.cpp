@@ -59,6 +59,11 @@ long leggi(SQLHSTMT istruzione, long attese)
     return righe;
 }
 
+bool esegui(SQLHSTMT istruzione, std::string testo)
+{
+    return riuscita(SQLExecDirect(istruzione, byte(testo), SQL_NTS), "SQLExecDirect");
+}
+
 SQLHDBC collega(SQLHENV ambiente, std::string stringa)
 {
     SQLHDBC collegamento = SQL_NULL_HDBC;
@@ -75,7 +80,7 @@ SQLHDBC collega(SQLHENV ambiente, std::string stringa)
 int main(int argc, char* argv[])
 {
     const char* connessione = std::getenv(banco::variabileConnessione);
-    if (argc != 3 || !connessione)
+    if (argc != 4 || !connessione)
         return EXIT_FAILURE;
     const long attese = std::atol(argv[2]);
     SQLHENV ambiente = SQL_NULL_HENV;
@@ -89,8 +94,9 @@ int main(int argc, char* argv[])
         return EXIT_FAILURE;
     SQLHSTMT istruzione = SQL_NULL_HSTMT;
     SQLAllocHandle(SQL_HANDLE_STMT, ricerca, &istruzione);
-    std::string testo = argv[1];
-    if (!riuscita(SQLExecDirect(istruzione, byte(testo), SQL_NTS), "SQLExecDirect"))
+    const std::string limite = argv[3];
+    if ((limite != "0" && !esegui(istruzione, "SET SESSION sql_select_limit=" + limite)) ||
+        !esegui(istruzione, argv[1]))
         return EXIT_FAILURE;
     const long righe = leggi(istruzione, attese);
     const double millisecondi = cronometro.millisecondi();

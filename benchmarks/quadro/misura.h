@@ -36,8 +36,8 @@ struct Misura
     double piccoRiferimentoMb;
 };
 
-/// Runs both programs in turns, once to warm up and then corse times, and takes the medians. Throws
-/// giacenza::Errore when a run fails.
+/// Runs both programs in turns, once to warm up and then corse times, one time this first and one time that,
+/// and takes the medians. Throws giacenza::Errore when a run fails.
 Misura misura(const Confronto& confronto, int corse);
 
 /// The middle of an odd number of values, the mean of the two in the middle of an even one.

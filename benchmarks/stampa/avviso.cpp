@@ -1,35 +1,85 @@
-// One run: so many storage notices, one after another, from the database to the PDF in the archive. The
-// screen that prints has a connection already, and so has this program.
+// One run: so many storage notices, each from the press of its button to the PDF in the archive, on the way
+// that an operator's press takes: the management screen, the print module that the settings name, found as a
+// plug-in. The case is on the screen already; looking it up is not the notice's time.
 
-#include "base/impostazioni.h"
 #include "benchmarks/quadro/esito.h"
-#include "database/connessione.h"
-#include "reports/letters/fontedocumenti.h"
-#include "stampa/modulodeposito.h"
+
+#include <giacenza/cGiacenza.h>
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QTemporaryDir>
+#include <QTimer>
+
+#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
-using namespace giacenza;
-
 namespace {
 
-/// As the screens do it: a module for each document.
-void stampaAvviso(const QString& stringa, const QString& logo, int numero)
+const QByteArray impostazioni = "[DLLStampe]\nIdentificativoDll=Deposito\n[Bord]\n"
+                                "CaptionLbl1=Trasporti del Ponte S.r.l.\n"
+                                "CaptionLbl2=Via dell'Industria 14 - 10148 Torino (TO)\n"
+                                "CaptionLbl3=Tel. 011 000000 - Fax 011 000001\n"
+                                "CaptionLbl4=giacenze@trasportidelponte.example\n";
+
+/// The screen as the operator has it: controls by their names.
+class Schermata
 {
-    stampa::ModuloDeposito modulo;
-    collegaFonte(modulo, nullptr);
-    modulo.setPercorsoDatabase(stringa);
-    modulo.setPercorsoLogo(logo);
-    modulo.setDidascalie({u"Trasporti del Ponte S.r.l."_s, u"Via dell'Industria 14 - 10148 Torino (TO)"_s,
-                          u"Tel. 011 000000 - Fax 011 000001"_s, u"giacenze@trasportidelponte.example"_s});
-    modulo.setStampa(true);
-    modulo.setTipoDocumento(TipoDocumento::avviso);
-    bool nonProdotto = false;
-    modulo.stampaDocumento(u"%1_2015"_s.arg(numero), nonProdotto);
+public:
+    Schermata()
+    {
+        for (QWidget* finestra : QApplication::topLevelWidgets())
+            if (finestra->objectName() == u"frmGestGia"_s)
+                mFinestra = finestra;
+        if (!mFinestra)
+            throw std::runtime_error("the management screen did not open");
+    }
+
+    template<class Controllo>
+    Controllo* controllo(const QString& nome) const
+    {
+        auto* trovato = mFinestra->findChild<Controllo*>(nome);
+        if (!trovato)
+            throw std::runtime_error("no control " + nome.toStdString());
+        return trovato;
+    }
+
+    void richiama(int numero) const
+    {
+        controllo<QLineEdit>(u"txtNGiace"_s)->setText(QString::number(numero));
+        controllo<QLineEdit>(u"txtDataGiace"_s)->setText(u"05/03/2015"_s);
+        controllo<QPushButton>(u"cmdRicGiac"_s)->click();
+    }
+
+    /// In milliseconds.
+    double stampa(int numero) const
+    {
+        const banco::Cronometro cronometro;
+        controllo<QPushButton>(u"cmdRistampa"_s)->click();
+        const double millisecondi = cronometro.millisecondi();
+        const QString detto = controllo<QLabel>(u"lblStato"_s)->text();
+        if (detto != u"Avviso di giacenza %1_2015 prodotto."_s.arg(numero))
+            throw std::runtime_error("the screen says: " + detto.toStdString());
+        return millisecondi;
+    }
+
+private:
+    QWidget* mFinestra = nullptr;
+};
+
+/// A message box would wait for somebody who is not there.
+void chiudiMessaggi(QTimer& timer)
+{
+    QObject::connect(&timer, &QTimer::timeout, [] {
+        if (QWidget* aperto = QApplication::activeModalWidget())
+            aperto->close();
+    });
+    timer.start(std::chrono::seconds(1));
 }
 
 } // namespace
@@ -39,16 +89,26 @@ int main(int argc, char* argv[])
     const QApplication applicazione(argc, argv);
     const QStringList argomenti = QCoreApplication::arguments();
     const int quante = argomenti.value(1).toInt();
-    const QString stringa = qEnvironmentVariable(banco::variabileConnessione);
     const QTemporaryDir cartella(argomenti.value(2) + u"/avvisi-XXXXXX"_s);
-    impostazioni().percorsoFileIni = cartella.filePath(u"giacenza.ini"_s);
+    QFile ini(cartella.filePath(u"giacenza.ini"_s));
+    if (!ini.open(QIODevice::WriteOnly) || ini.write(impostazioni) != impostazioni.size())
+        return EXIT_FAILURE;
+    ini.close();
+    QTimer timer;
+    chiudiMessaggi(timer);
     try {
-        Connessione schermata;
-        schermata.apri(stringa);
-        const banco::Cronometro cronometro;
-        for (int numero = 1; numero <= quante; ++numero)
-            stampaAvviso(stringa, argomenti.value(3), numero);
-        const double millisecondi = cronometro.millisecondi();
+        giacenza::cGiacenza giacenze;
+        giacenze.setPercorsoDatabase(qEnvironmentVariable(banco::variabileConnessione));
+        giacenze.setPercorsoFileIni(ini.fileName());
+        giacenze.setPercorsoLogoIntestazione(argomenti.value(3));
+        giacenze.ConsultaGiacenza();
+        QApplication::processEvents();
+        const Schermata schermata;
+        double millisecondi = 0;
+        for (int numero = 1; numero <= quante; ++numero) {
+            schermata.richiama(numero);
+            millisecondi += schermata.stampa(numero);
+        }
         const QDir documenti(cartella.filePath(u"documenti"_s));
         return banco::stampaEsito(millisecondi, documenti.entryList({u"*.pdf"_s}).size(), quante);
     } catch (const std::exception& errore) {

@@ -13,6 +13,13 @@ enum class ModoRicerca : int
     giacenze = 11       ///< a customer's held shipments
 };
 
+/// Whether the lists of a mode come in an order. The others come as the database finds the rows, and a part
+/// of one is not the beginning of the whole.
+constexpr bool inOrdine(ModoRicerca modo)
+{
+    return modo == ModoRicerca::riferimento || modo == ModoRicerca::letteraVettura;
+}
+
 /// What the statements of the shipment search are made of; a mode reads only what it needs.
 struct DatiRicerca
 {

@@ -55,13 +55,17 @@ void Istruzione::controlla(SQLRETURN esito)
 void Istruzione::esegui(const QString& testo)
 {
     mTesto = testo;
-    const SQLHSTMT maniglia = viva();
+    viva();
+    mCollegamento->esegui(EventoDati::istruzione, testo, [&] { invia(testo); });
+}
+
+void Istruzione::eseguiConValori(const QString& testo, std::span<const Valore> parametri)
+{
+    mTesto = testo;
+    viva();
     mCollegamento->esegui(EventoDati::istruzione, testo, [&] {
-        QByteArray utf8 = testo.toUtf8();
-        const SQLRETURN esito =
-            SQLExecDirect(maniglia, testoOdbc(utf8), static_cast<SQLINTEGER>(utf8.size()));
-        if (esito != SQL_NO_DATA) // an update that touched no row
-            controlla(esito);
+        lega(parametri);
+        invia(testo);
     });
 }
 
@@ -70,6 +74,14 @@ void Istruzione::elencaTabelle()
     const SQLHSTMT maniglia = viva();
     mCollegamento->sorveglia(
         [&] { controlla(SQLTables(maniglia, nullptr, 0, nullptr, 0, nullptr, 0, nullptr, 0)); });
+}
+
+void Istruzione::invia(const QString& testo)
+{
+    QByteArray utf8 = testo.toUtf8();
+    const SQLRETURN esito = SQLExecDirect(mManiglia, testoOdbc(utf8), static_cast<SQLINTEGER>(utf8.size()));
+    if (esito != SQL_NO_DATA) // an update that touched no row
+        controlla(esito);
 }
 
 void Istruzione::prepara(const QString& testo)
@@ -82,16 +94,20 @@ void Istruzione::prepara(const QString& testo)
     });
 }
 
-void Istruzione::lega(std::span<const Valore> parametri)
+void Istruzione::contaParametri(std::span<const Valore> parametri)
 {
-    const auto quanti = parametri.size();
     SQLSMALLINT segni = 0;
     controlla(SQLNumParams(mManiglia, &segni));
     // The drivers would take null for what is missing.
-    if (static_cast<std::size_t>(segni) != quanti)
-        throw ErroreDatabase(u"07002"_s, 0,
-                             u"L'istruzione aspetta %1 valori e ne riceve %2."_s.arg(segni).arg(quanti),
-                             mTesto);
+    if (static_cast<std::size_t>(segni) != parametri.size())
+        throw ErroreDatabase(
+            u"07002"_s, 0,
+            u"L'istruzione aspetta %1 valori e ne riceve %2."_s.arg(segni).arg(parametri.size()), mTesto);
+}
+
+void Istruzione::lega(std::span<const Valore> parametri)
+{
+    const auto quanti = parametri.size();
     mValori.resize(quanti);
     mLunghezze.resize(quanti);
     controlla(SQLFreeStmt(mManiglia, SQL_RESET_PARAMS));
@@ -112,6 +128,7 @@ void Istruzione::eseguiPreparata(std::span<const Valore> parametri)
 {
     const SQLHSTMT maniglia = viva();
     mCollegamento->esegui(EventoDati::istruzione, mTesto, [&] {
+        contaParametri(parametri);
         lega(parametri);
         const SQLRETURN esito = SQLExecute(maniglia);
         if (esito != SQL_NO_DATA)

@@ -19,33 +19,35 @@ NuovaRiga::NuovaRiga(Connessione& connessione, const QString& tabella)
     odbc::Istruzione descrizione(mCollegamento);
     mCollegamento->esegui(EventoDati::istruzione, mIstruzione, [&] {
         descrizione.prepara(mIstruzione);
-        for (const odbc::Colonna& colonna : descrizione.colonne())
-            mColonne.emplace_back(colonna.nome, colonna.larghezza);
+        std::vector<QString> nomi;
+        for (odbc::Colonna& colonna : descrizione.colonne()) {
+            nomi.push_back(std::move(colonna.nome));
+            mLarghezze.push_back(colonna.larghezza);
+        }
+        mColonne = NomiColonne(std::move(nomi));
     });
 }
 
-const std::pair<QString, qint64>& NuovaRiga::trova(const QString& colonna) const
+qsizetype NuovaRiga::trova(const QString& colonna) const
 {
-    const auto trovata = std::find_if(mColonne.cbegin(), mColonne.cend(), [&](const auto& questa) {
-        return questa.first.compare(colonna, Qt::CaseInsensitive) == 0;
-    });
-    if (trovata == mColonne.cend())
+    const qsizetype posto = mColonne.posto(colonna);
+    if (posto < 0)
         throw ErroreDatabase(u"42S22"_s, 0, u"La colonna \"%1\" non esiste."_s.arg(colonna), mIstruzione);
-    return *trovata;
+    return posto;
 }
 
 qint64 NuovaRiga::larghezza(const QString& colonna) const
 {
-    return trova(colonna).second;
+    return mLarghezze[static_cast<std::size_t>(trova(colonna))];
 }
 
 void NuovaRiga::imposta(const QString& colonna, const Valore& valore)
 {
-    const QString& nome = trova(colonna).first;
+    const qsizetype posto = trova(colonna);
     const auto gia = std::find_if(mImpostati.begin(), mImpostati.end(),
-                                  [&](const auto& impostata) { return impostata.first == nome; });
+                                  [posto](const auto& impostata) { return impostata.first == posto; });
     if (gia == mImpostati.end())
-        mImpostati.emplace_back(nome, valore);
+        mImpostati.emplace_back(posto, valore);
     else
         gia->second = valore;
 }
@@ -58,14 +60,14 @@ void NuovaRiga::aggiungi()
     QStringList segni;
     std::vector<Valore> valori;
     for (const auto& [colonna, valore] : mImpostati) {
-        colonne += colonna;
+        colonne += mColonne[colonna];
         segni += u"?"_s;
         valori.push_back(valore);
     }
     odbc::Istruzione inserimento(mCollegamento);
-    inserimento.prepara(
-        u"insert into %1 (%2) values (%3)"_s.arg(mTabella, colonne.join(u", "_s), segni.join(u", "_s)));
-    inserimento.eseguiPreparata(valori);
+    inserimento.eseguiConValori(
+        u"insert into %1 (%2) values (%3)"_s.arg(mTabella, colonne.join(u", "_s), segni.join(u", "_s)),
+        valori);
     mImpostati.clear();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "database/connessione.h"
+#include "database/nomicolonne.h"
 #include "database/valori.h"
 
 #include <utility>
@@ -29,13 +30,14 @@ public:
     void aggiungi();
 
 private:
-    const std::pair<QString, qint64>& trova(const QString& colonna) const;
+    qsizetype trova(const QString& colonna) const;
 
     std::shared_ptr<odbc::Collegamento> mCollegamento;
     QString mTabella;
     QString mIstruzione;
-    std::vector<std::pair<QString, qint64>> mColonne;   // name, width
-    std::vector<std::pair<QString, Valore>> mImpostati; // by the names of mColonne
+    NomiColonne mColonne;
+    std::vector<qint64> mLarghezze; // by their place in mColonne, as mImpostati
+    std::vector<std::pair<qsizetype, Valore>> mImpostati;
 };
 
 } // namespace giacenza

@@ -1,9 +1,9 @@
 #include "database/recordset.h"
 
 #include "database/collegamento.h"
+#include "database/nomicolonne.h"
 #include "database/righe.h"
 
-#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -15,12 +15,11 @@ class Recordset::Interno
 public:
     std::shared_ptr<odbc::Collegamento> collegamento;
     QString istruzione;
-    std::vector<QString> nomi;
+    NomiColonne nomi;
     std::unique_ptr<Righe> righe;
 
     void apri(const QString& testo, Cursore cursore, std::span<const Valore> parametri);
     const odbc::Riga& corrente() const;
-    qsizetype indice(const QString& nome) const;
     qsizetype indiceCerto(const QString& nome) const;
     [[noreturn]] void fallisci(const char* stato, const QString& testo) const;
 };
@@ -40,10 +39,10 @@ void Recordset::Interno::apri(const QString& testo, Cursore cursore, std::span<c
         lettura->prepara(testo);
         lettura->eseguiPreparata(parametri);
     }
-    nomi = lettura->nomiColonne();
-    if (nomi.empty())
+    nomi = NomiColonne(lettura->nomiColonne());
+    if (nomi.vuoti())
         fallisci("07005", u"L'istruzione non dà righe."_s);
-    righe = std::make_unique<Righe>(std::move(lettura), static_cast<int>(nomi.size()), cursore);
+    righe = std::make_unique<Righe>(std::move(lettura), nomi.quanti(), cursore);
 }
 
 const odbc::Riga& Recordset::Interno::corrente() const
@@ -53,17 +52,9 @@ const odbc::Riga& Recordset::Interno::corrente() const
     return righe->corrente();
 }
 
-qsizetype Recordset::Interno::indice(const QString& nome) const
-{
-    const auto trovato = std::find_if(nomi.begin(), nomi.end(), [&](const QString& altro) {
-        return altro.compare(nome, Qt::CaseInsensitive) == 0;
-    });
-    return trovato == nomi.end() ? -1 : trovato - nomi.begin();
-}
-
 qsizetype Recordset::Interno::indiceCerto(const QString& nome) const
 {
-    const qsizetype trovato = indice(nome);
+    const qsizetype trovato = nomi.posto(nome);
     if (trovato < 0)
         fallisci("42S22", u"La colonna \"%1\" non esiste."_s.arg(nome));
     return trovato;
@@ -125,7 +116,7 @@ void Recordset::successivo()
 
 int Recordset::colonne() const noexcept
 {
-    return aperto() ? static_cast<int>(mInterno->nomi.size()) : 0;
+    return aperto() ? mInterno->nomi.quanti() : 0;
 }
 
 QString Recordset::nomeColonna(int colonna) const
@@ -133,12 +124,12 @@ QString Recordset::nomeColonna(int colonna) const
     const Interno& i = interno();
     if (colonna < 0 || colonna >= colonne())
         i.fallisci("42S22", u"La colonna %1 non esiste."_s.arg(colonna));
-    return i.nomi[static_cast<std::size_t>(colonna)];
+    return i.nomi[colonna];
 }
 
 int Recordset::indice(const QString& nome) const
 {
-    return static_cast<int>(interno().indice(nome));
+    return static_cast<int>(interno().nomi.posto(nome));
 }
 
 std::optional<QByteArrayView> Recordset::utf8(int colonna) const

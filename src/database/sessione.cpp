@@ -119,4 +119,11 @@ void preparaSessione(SQLHDBC collegamento, Dialetto dialetto, const Limiti& limi
                 "max_statement_time=%1"_s.arg(limiti.comando));
 }
 
+void limitaRighe(SQLHDBC collegamento, std::optional<int> righe)
+{
+    // Not told to the tracer either: like the rest of the session it changes no statement.
+    Passaggio(collegamento)
+        .esegui(u"SET SESSION sql_select_limit=%1"_s.arg(righe ? QString::number(*righe) : u"default"_s));
+}
+
 } // namespace giacenza::odbc

@@ -3,6 +3,8 @@
 #include "database/connessione.h"
 #include "database/odbc.h"
 
+#include <optional>
+
 /// What a connection needs before its first use, and where the databases differ in it.
 namespace giacenza::odbc {
 
@@ -16,5 +18,9 @@ Dialetto dialettoDi(SQLHDBC collegamento);
 /// Sets on an open connection what the strings cannot: time-outs, and how texts are read. Throws
 /// ErroreDatabase, also for a MariaDB server that tells table names apart by their capitals.
 void preparaSessione(SQLHDBC collegamento, Dialetto dialetto, const Limiti& limiti);
+
+/// The most rows that a select of an open MariaDB session gives; nothing: the server's default. Throws
+/// ErroreDatabase.
+void limitaRighe(SQLHDBC collegamento, std::optional<int> righe);
 
 } // namespace giacenza::odbc

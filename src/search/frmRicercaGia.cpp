@@ -61,7 +61,7 @@ void frmRicercaGia::collega()
         if (postiScelta(mModo))
             seleziona();
     });
-    connect(mModello, &ModelloRicerca::rowsInserted, this, &frmRicercaGia::contaRighe);
+    connect(mModello, &ModelloRicerca::continuata, this, &frmRicercaGia::contaRighe);
     connect(mModello, &ModelloRicerca::interrotta, this, &frmRicercaGia::interrotta);
 }
 
@@ -153,7 +153,7 @@ void frmRicercaGia::elenca(const std::function<QString()>& istruzione)
     try {
         if (!esiste(mModo))
             throw Errore(u"Il tipo di ricerca %1 non esiste."_s.arg(TipoRicerca()));
-        mModello->apri(accessoHost(), istruzione());
+        mModello->apri(accessoHost(), istruzione(), inOrdine(mModo) ? postiScelta(mModo) : std::nullopt);
     } catch (const Errore& errore) {
         mModello->svuota(false);
         mGuasto = errore.testo();

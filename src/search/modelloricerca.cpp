@@ -1,6 +1,9 @@
 #include "search/modelloricerca.h"
 
+#include "database/limiterighe.h"
 #include "widgets/attesa.h"
+
+#include <utility>
 
 namespace giacenza {
 
@@ -12,27 +15,48 @@ Qt::Alignment allineamento(Aspetto aspetto)
     return aspetto == Aspetto::testo ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignCenter;
 }
 
+/// A row to be known again by. valore: of a column, as Recordset and RigheLette give it.
+template<class DaiValore>
+Ripresa::Riga rigaDi(int colonne, DaiValore valore)
+{
+    Ripresa::Riga riga;
+    riga.reserve(static_cast<std::size_t>(colonne));
+    for (int colonna = 0; colonna < colonne; ++colonna) {
+        const std::optional<QByteArrayView> byte = valore(colonna);
+        riga.push_back(byte ? std::optional(byte->toByteArray()) : std::nullopt);
+    }
+    return riga;
+}
+
 } // namespace
 
 ModelloRicerca::ModelloRicerca(QObject* padre) : QAbstractTableModel(padre) {}
 
-void ModelloRicerca::apri(const Accesso& accesso, const QString& istruzione)
+void ModelloRicerca::apri(const Accesso& accesso, const QString& istruzione,
+                          const std::optional<PostiScelta>& chiave)
 {
     const Attesa attesa;
     svuota(false);
+    QString motivo;
+    bool unaPagina = false;
     try {
         mConnessione.apri(accesso);
+        unaPagina = chiave && mConnessione.dialetto() == Dialetto::mariadb;
+        std::optional<LimiteRighe> limite;
+        if (unaPagina) // and one row more, which tells whether there are others
+            limite.emplace(mConnessione, RigheLette::righePagina + 1);
         mRecordset.apri(mConnessione, istruzione, Recordset::Cursore::soloAvanti);
+        mAccesso = accesso;
+        mIstruzione = istruzione;
+        motivo = leggiPrima();
     } catch (const ErroreDatabase&) {
         chiudi();
         throw;
     }
-    beginResetModel();
-    mIstruzione = istruzione;
-    leggiColonne();
-    const QString motivo = leggiPagina();
-    mMostrate = mLette.righe();
-    endResetModel();
+    if (unaPagina && !mCompleto && motivo.isEmpty()) {
+        chiudi();
+        mDaRileggere = chiave;
+    }
     if (!motivo.isEmpty())
         Q_EMIT interrotta(motivo);
 }
@@ -40,6 +64,8 @@ void ModelloRicerca::apri(const Accesso& accesso, const QString& istruzione)
 void ModelloRicerca::chiudi() noexcept
 {
     ChiudiOggettiDB(&mRecordset, &mConnessione, Rilascio::si, Mantieni::no);
+    mDaRileggere.reset();
+    mRipresa.reset();
 }
 
 void ModelloRicerca::svuota(bool colonneAnche)
@@ -53,6 +79,17 @@ void ModelloRicerca::svuota(bool colonneAnche)
     if (colonneAnche)
         mColonne.clear();
     endResetModel();
+}
+
+/// Columns and first page, which the grid learns of together. Returns as leggiPagina().
+QString ModelloRicerca::leggiPrima()
+{
+    beginResetModel();
+    leggiColonne();
+    const QString motivo = leggiPagina();
+    mMostrate = mLette.righe();
+    endResetModel();
+    return motivo;
 }
 
 void ModelloRicerca::leggiColonne()
@@ -69,12 +106,9 @@ void ModelloRicerca::leggiColonne()
 QString ModelloRicerca::leggiPagina()
 {
     try {
-        for (int lette = 0; lette < RigheLette::righePagina && !mRecordset.eof(); ++lette) {
-            mLette.aggiungiRiga();
-            for (int colonna = 0; colonna < columnCount(); ++colonna)
-                mLette.aggiungiValore(mRecordset.utf8(colonna));
-            mRecordset.successivo();
-        }
+        const int piena = mLette.righe() + RigheLette::righePagina;
+        for (; mLette.righe() < piena && !mRecordset.eof(); mRecordset.successivo())
+            aggiungiRiga();
     } catch (const ErroreDatabase& errore) {
         chiudi();
         return errore.testo();
@@ -83,6 +117,50 @@ QString ModelloRicerca::leggiPagina()
     if (mCompleto)
         chiudi();
     return {};
+}
+
+void ModelloRicerca::aggiungiRiga()
+{
+    if (!mRipresa) {
+        mLette.aggiungiRiga();
+        for (int colonna = 0; colonna < columnCount(); ++colonna)
+            mLette.aggiungiValore(mRecordset.utf8(colonna));
+        return;
+    }
+    const std::vector<Ripresa::Riga> nuove =
+        mRipresa->segue(rigaDi(columnCount(), [this](int colonna) { return mRecordset.utf8(colonna); }));
+    for (const Ripresa::Riga& nuova : nuove) {
+        mLette.aggiungiRiga();
+        for (const auto& valore : nuova)
+            mLette.aggiungiValore(valore);
+    }
+    if (mRipresa->finita())
+        mRipresa.reset();
+}
+
+/// Runs the statement whole. Throws ErroreDatabase.
+void ModelloRicerca::rileggi()
+{
+    Ripresa ripresa(*std::exchange(mDaRileggere, std::nullopt));
+    for (int riga = 0; riga < mLette.righe(); ++riga)
+        ripresa.mostrata(rigaDi(columnCount(), [&](int colonna) { return mLette.valore(riga, colonna); }));
+    mConnessione.apri(mAccesso);
+    mRecordset.apri(mConnessione, mIstruzione, Recordset::Cursore::soloAvanti);
+    mRipresa = std::move(ripresa);
+}
+
+/// As leggiPagina(), where the reading may first have to begin again.
+QString ModelloRicerca::leggiAltra()
+{
+    const Attesa attesa;
+    try {
+        if (mDaRileggere)
+            rileggi();
+    } catch (const ErroreDatabase& errore) {
+        chiudi();
+        return errore.testo();
+    }
+    return leggiPagina();
 }
 
 int ModelloRicerca::rowCount(const QModelIndex& padre) const
@@ -122,23 +200,20 @@ QVariant ModelloRicerca::headerData(int sezione, Qt::Orientation verso, int ruol
 
 bool ModelloRicerca::canFetchMore(const QModelIndex& padre) const
 {
-    return !padre.isValid() && mRecordset.aperto();
+    return !padre.isValid() && (mDaRileggere || mRecordset.aperto());
 }
 
 void ModelloRicerca::fetchMore(const QModelIndex& padre)
 {
     if (!canFetchMore(padre))
         return;
-    QString motivo;
-    {
-        const Attesa attesa;
-        motivo = leggiPagina();
-    }
+    const QString motivo = leggiAltra();
     if (mLette.righe() > mMostrate) {
         beginInsertRows({}, mMostrate, mLette.righe() - 1);
         mMostrate = mLette.righe();
         endInsertRows();
     }
+    Q_EMIT continuata();
     if (!motivo.isEmpty())
         Q_EMIT interrotta(motivo);
 }

@@ -3,6 +3,7 @@
 #include "database/recordset.h"
 #include "search/colonnericerca.h"
 #include "search/righelette.h"
+#include "search/ripresa.h"
 
 #include <QAbstractTableModel>
 
@@ -12,6 +13,10 @@ namespace giacenza {
 ///
 /// It has a connection of its own, open only while there are rows to read: from apri() to the last row, to
 /// the first failure, or to chiudi(). Rows that were read stay.
+///
+/// MariaDB's driver brings a whole result before its first row. There a list in order is first run for one
+/// page only, and its connection closed; when the grid asks for more, the same statement is run whole, once,
+/// on a new one, and the list goes on behind the rows that are there.
 class ModelloRicerca : public QAbstractTableModel
 {
     Q_OBJECT
@@ -21,9 +26,12 @@ public:
 
     /// Opens the database, runs the statement and reads the first page, in place of what was there.
     ///
-    /// Throws ErroreDatabase when connecting or running fails; the list is then
-    /// empty, under the columns it had. Reading that fails later emits interrotta().
-    void apri(const Accesso& accesso, const QString& istruzione);
+    /// chiave: for a statement with an order, where its rows have their key;
+    /// nothing for one without an order, which is never run for a part. Throws ErroreDatabase when connecting
+    /// or running fails; the list is then empty, under the columns it had. Reading that fails later emits
+    /// interrotta().
+    void apri(const Accesso& accesso, const QString& istruzione,
+              const std::optional<PostiScelta>& chiave = {});
 
     /// Ends the reading; the rows stay.
     void chiudi() noexcept;
@@ -48,6 +56,9 @@ public:
     const QString& nomeColonna(int colonna) const;
 
 Q_SIGNALS:
+    /// More was asked for and read, or nothing more was there.
+    void continuata();
+
     /// Reading stopped before the last row, once for each statement.
     void interrotta(const QString& motivo);
 
@@ -58,15 +69,22 @@ private:
         Aspetto aspetto;
     };
 
+    QString leggiPrima();
     void leggiColonne();
+    QString leggiAltra();
     QString leggiPagina();
+    void aggiungiRiga();
+    void rileggi();
 
     Connessione mConnessione;
     Recordset mRecordset;
     RigheLette mLette;
     std::vector<Colonna> mColonne;
+    Accesso mAccesso{QString()};
     QString mIstruzione;
-    int mMostrate = 0; // of mLette, what the grid knows of
+    std::optional<PostiScelta> mDaRileggere; // only a page was run: where the rest has its key
+    std::optional<Ripresa> mRipresa;         // the statement was run again: until its first rows have passed
+    int mMostrate = 0;                       // of mLette, what the grid knows of
     bool mCompleto = false;
 };
 

@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -86,6 +87,43 @@ TEST(Tabella, testataERigheSonoInColonna)
     EXPECT_EQ(testata().size(), riga(unaMisura(1.3)).size());
     EXPECT_EQ(testata().size(), riga(unaMisura(0)).size());
     EXPECT_TRUE(riga(unaMisura(1.3)).contains(u"1.50       1.25   1.20   1.30     33.4      6.1"_s));
+}
+
+// A program that notes its turn and prints the figures of a run.
+Programma programma(const QTemporaryDir& cartella, const QString& nome)
+{
+    const QString percorso = cartella.filePath(nome);
+    QFile file(percorso);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(
+        u"#!/bin/sh\necho %1 >> %2\necho 1.5 2048\n"_s.arg(nome, cartella.filePath(u"turni"_s)).toUtf8());
+    file.close();
+    EXPECT_TRUE(file.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
+    return {QDir(QCoreApplication::applicationDirPath()).relativeFilePath(percorso), {}};
+}
+
+TEST(Misura, nostroERiferimentoPartonoPrimiUnaVoltaCiascuno)
+{
+    int argomenti = 1;
+    char nome[] = "prova_banco";
+    char* testi[] = {nome, nullptr};
+    const QCoreApplication applicazione(argomenti, testi);
+    const QTemporaryDir cartella;
+    const Misura esito = misura({u"x"_s,
+                                 u"sqlite"_s,
+                                 1,
+                                 {},
+                                 programma(cartella, u"nostro"_s),
+                                 programma(cartella, u"riferimento"_s),
+                                 0},
+                                3);
+    EXPECT_EQ(esito.nostroMs, 1.5);
+    EXPECT_EQ(esito.piccoMb, 2);
+    EXPECT_EQ(esito.rapporto, 1);
+    QFile turni(cartella.filePath(u"turni"_s));
+    ASSERT_TRUE(turni.open(QIODevice::ReadOnly));
+    EXPECT_EQ(turni.readAll(),
+              "riferimento\nnostro\nriferimento\nnostro\nnostro\nriferimento\nriferimento\nnostro\n");
 }
 
 TEST(Misura, unProgrammaCheNonCEFermaTutto)

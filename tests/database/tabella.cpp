@@ -1,5 +1,6 @@
 #include "database/basi.h"
 #include "database/transazione.h"
+#include "ripetitore.h"
 
 using namespace Qt::StringLiterals;
 
@@ -105,3 +106,26 @@ TEST_P(Tabella, apertaNonLeggeRighe)
 }
 
 SU_OGNI_BASE(Tabella);
+
+class TabellaMariadb : public Tabella
+{};
+INSTANTIATE_TEST_SUITE_P(Basi, TabellaMariadb, testing::Values("mariadb"),
+                         nomeBase<testing::TestParamInfo<std::string>>);
+
+// Over a network each round trip costs more than the work of the server.
+TEST_P(TabellaMariadb, aprireEScrivereCostanoUnGiroCiascuno)
+{
+    const QString porta = mBase.stringa().section(u"PORT="_s, 1).section(u';', 0, 0);
+    const Ripetitore ripetitore(porta.toUShort());
+    Connessione connessione;
+    connessione.apri(mBase.stringa().replace(u"PORT="_s + porta, u"PORT=%1"_s.arg(ripetitore.porta())));
+    const int prima = ripetitore.giri();
+    EXPECT_GT(prima, 0);
+    NuovaRiga riga(connessione, u"prova"_s);
+    EXPECT_EQ(ripetitore.giri(), prima + 1);
+    riga.imposta(u"id"_s, u"1"_s);
+    riga.imposta(u"testo"_s, QString(100'000, u'x'));
+    riga.aggiungi();
+    EXPECT_EQ(ripetitore.giri(), prima + 2);
+    EXPECT_EQ(mBase.leggi(u"select length(testo) from prova where id=1"_s), u"100000"_s);
+}

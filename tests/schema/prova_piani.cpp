@@ -2,6 +2,7 @@
 #include "catalogo.h"
 #include "piano.h"
 
+#include "data/istruzioniricerca.h"
 #include "support/stampa.h"
 
 #include <gmock/gmock.h>
@@ -134,6 +135,33 @@ TEST_P(Piani, unaLetturaDiUnaFilialeInteraSiRiconosce)
 
 INSTANTIATE_TEST_SUITE_P(Basi, Piani, testing::Values("sqlite", "sqliteNuovo", "mariadb"),
                          nomeBase<testing::TestParamInfo<std::string>>);
+
+/// One of twenty waybills is the customer's, and one of ten is held: there MariaDB without an index of its
+/// own for this list reads every held shipment.
+TEST(PianoGiacenze, diUnClienteConMolteLettereNonSiLeggonoTutte)
+{
+    const BancaDati base("mariadb");
+    base.esegui(
+        u"insert into letve00f (lefili, lenrlv, leanlv, ledtlv, lecodi, ledest) select "
+        "elt(1+seq%5,'MI','RM','TO','BO','FI'), seq, 2026, '2026-02-03', if(seq%100<5,1001,2000+seq%100), "
+        "'DESTINATARIO' from seq_1_to_20000;\n"
+        "insert into giace00f (GIFILI, GINRLV, GIANLV, GICODI, GINRGI, GIANGI, GIDTGI) select lefili, "
+        "lenrlv, leanlv, lecodi, lenrlv, 2026, '2026-02-05' from letve00f where cast(lenrlv as "
+        "unsigned)%10=0;\n"
+        "analyze table letve00f, giace00f;"_s);
+    DatiRicerca dati;
+    dati.cliente = u"1001"_s;
+    dati.annoCorrente = 2026;
+    dati.annoOData = u"01/01/2026"_s;
+    Connessione connessione = base.amministratore();
+    for (const QString& istruzione : {istruzioni::ricercaApertura(ModoRicerca::giacenze, dati),
+                                      istruzioni::ricercaVisualizza(ModoRicerca::giacenze, dati)}) {
+        const Piano piano = leggiPiano(connessione, istruzione);
+        EXPECT_THAT(piano.tabelle(), testing::ElementsAre(u"letve00f"_s, u"giace00f"_s))
+            << piano.testo.toStdString();
+        EXPECT_THAT(piano.scansioni(), testing::IsEmpty()) << piano.testo.toStdString();
+    }
+}
 
 class PianoSenzaIndice : public testing::TestWithParam<std::string>
 {};

@@ -166,7 +166,7 @@ TEST_P(RicercaGiaEsito, leRigheSiContanoMentreSiLeggono)
     dialogo.setCodiceCliente(u"3000"_s);
     mostra(dialogo);
     EXPECT_EQ(righe(dialogo), u"256 righe lette, continua…"_s);
-    EXPECT_EQ(aperte(), 1);
+    EXPECT_EQ(aperte(), GetParam() == "mariadb" ? 0 : 1);
     auto* griglia = trova<QTableView>(dialogo, u"Griglia"_s);
     for (int pagina = 0; pagina < 4; ++pagina) {
         QTest::keyClick(griglia, Qt::Key_End, Qt::ControlModifier);

@@ -94,7 +94,7 @@ TEST_P(RicercaGiaTasti, escELaCroceLascianoIValoriDelChiamante)
         dialogo.setNumLetVett(u"1005"_s);
         dialogo.setDataLetVett(u"01/02/2026"_s);
         const int esito = esegui(dialogo, [&] {
-            EXPECT_EQ(aperte(), 1); // there are rows to read
+            EXPECT_EQ(aperte(), GetParam() == "mariadb" ? 0 : 1); // there are rows to read
             tasto(dialogo, Qt::Key_Down);
             if (croce)
                 dialogo.close();

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace giacenza {
+
+/// The names of a result's columns, and where each stands. Names are one without case; of two that are one,
+/// the first wins.
+class NomiColonne
+{
+public:
+    NomiColonne() = default;
+    explicit NomiColonne(std::vector<QString> nomi) : mNomi(std::move(nomi)) {}
+
+    bool vuoti() const noexcept { return mNomi.empty(); }
+    int quanti() const noexcept { return static_cast<int>(mNomi.size()); }
+    /// colonna: 0 to quanti() - 1.
+    const QString& operator[](qsizetype colonna) const { return mNomi[static_cast<std::size_t>(colonna)]; }
+
+    /// -1 for a name that is not there. Screens ask for some forty columns of a row: the first question puts
+    /// the names in order for all that follow.
+    qsizetype posto(const QString& nome) const;
+
+private:
+    struct Impronta
+    {
+        std::size_t operator()(const QString& nome) const noexcept;
+    };
+    struct Uguale
+    {
+        bool operator()(const QString& uno, const QString& altro) const noexcept;
+    };
+
+    std::vector<QString> mNomi;
+    mutable std::unordered_map<QString, qsizetype, Impronta, Uguale>
+        mPosti; // empty before the first question
+};
+
+} // namespace giacenza
