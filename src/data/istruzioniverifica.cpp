@@ -15,11 +15,6 @@ QString fine(Lettura come)
 
 } // namespace
 
-QString attesaDelGruppo()
-{
-    return u"SET SESSION wsrep_sync_wait=1;"_s;
-}
-
 QString giacenzaRegistrata(const ChiaveGiacenza& nuova, const QString& numeroLdv, Lettura come)
 {
     return u"select GINRGI from giace00f where GINRGI='%1' and GIANGI=%2 and GINRLV='%3'"_s.arg(

@@ -13,9 +13,6 @@ enum class Lettura
     conBlocco
 };
 
-/// Has the next reading on a cluster wait for what was confirmed on its other nodes.
-QString attesaDelGruppo();
-
 /// GINRGI of a held shipment, if it is there and holds that waybill.
 QString giacenzaRegistrata(const ChiaveGiacenza& nuova, const QString& numeroLdv, Lettura come);
 

@@ -15,7 +15,7 @@ void aspettaIlGruppo(Connessione& connessione)
     if (connessione.dialetto() != Dialetto::mariadb)
         return;
     try {
-        connessione.esegui(istruzioni::attesaDelGruppo());
+        connessione.esegui(u"SET SESSION wsrep_sync_wait=1"_s);
     } catch (const ErroreDatabase&) {
         // A server built without clusters does not know the setting, and has nobody to wait for.
         if (!connessione.aperta())

@@ -14,9 +14,11 @@
 #include <giacenza/cGiacenza.h>
 
 #include <QAbstractButton>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -146,7 +148,15 @@ TEST_P(Classe, IlDatabaseCheNonRispondeTornaAllOspiteComEENonMostraNulla)
 {
     QStringList sbagliate = {u"DRIVER={Non esiste};SERVER=127.0.0.1"_s};
     if (GetParam() == "sqlite") {
-        sbagliate << u"DRIVER={SQLite3};Database=/non/ce/deposito.db"_s;
+        // Not the driver's word: where the folder is there, it would make an empty file instead of failing.
+        const QTemporaryDir cartella;
+        const QString mancante = cartella.filePath(u"depòsito.db"_s);
+        mClasse->setPercorsoDatabase(u"DRIVER={SQLite3};Database="_s + mancante);
+        const ErroreDatabase errore = erroreDi([&] { mClasse->NuovaGiacenza(); });
+        EXPECT_EQ(errore.sqlstate(), u"08001"_s);
+        EXPECT_EQ(errore.testo(), u"Il file dell'archivio non c'è: %1"_s.arg(mancante));
+        EXPECT_FALSE(QFileInfo::exists(mancante));
+        EXPECT_THAT(visibili(), IsEmpty());
     } else {
         sbagliate << u"DRIVER={MariaDB Unicode};SERVER=127.0.0.1;PORT=1;UID=x;PWD=x;DATABASE=x"_s
                   << mBase.stringa().replace(u"PWD="_s, u"PWD=sbagliata"_s);

@@ -95,7 +95,9 @@ TEST_P(NuovaLdv, IlResoVaAlMittenteSenzaContrassegno)
 
 TEST_P(NuovaLdv, DaUnaLdvQuasiVuota)
 {
-    emettiLdv(mConnessione, LdvDiProva(mConnessione, u"4712"_s), contestoDiProva());
+    Contesto senzaGiacenza = contestoDiProva();
+    senzaGiacenza.numeroGiacenza.clear();
+    emettiLdv(mConnessione, LdvDiProva(mConnessione, u"4712"_s), senzaGiacenza);
     ASSERT_THAT(nuove(), SizeIs(1));
     const QStringList riga = nuove().front();
     EXPECT_EQ(riga[6], u"NULL"_s);
@@ -123,9 +125,9 @@ TEST_P(NuovaLdv, ConIlControlloSiRicontaDentro)
     EXPECT_EQ(
         motivo(ldv, contesto),
         u"La giacenza 40/2026 è stata chiusa nel frattempo: nessuna lettera di vettura è stata emessa."_s);
-    contesto.numeroGiacenza = u"77"_s;
+    mBase.esegui(u"delete from giace00f;"_s);
     EXPECT_EQ(motivo(ldv, contesto),
-              u"La giacenza 77/2026 non è più in archivio: nessuna lettera di vettura è stata emessa."_s);
+              u"La giacenza 40/2026 non è più in archivio: nessuna lettera di vettura è stata emessa."_s);
     EXPECT_THAT(nuove(), SizeIs(2));
 }
 
@@ -173,7 +175,9 @@ TEST_P(NuovaLdv, UnGuastoInOgniPuntoNonLasciaNiente)
         if (evento == EventoDati::conferma)
             throw ErroreDatabase(u"08S01"_s, 1, u"guasto di prova"_s, testo);
     });
-    EXPECT_EQ(motivo(ldv, contestoDiProva()), u"guasto di prova"_s);
+    EXPECT_EQ(motivo(ldv, contestoDiProva()), u"Non si sa se la lettera di vettura 4716/2026 è stata emessa: "
+                                              u"la connessione è caduta mentre l'archivio la "
+                                              "confermava. Cercarla prima di ripetere."_s);
     impostaTraccia({});
     EXPECT_THAT(nuove(), IsEmpty());
     EXPECT_EQ(tutto(), mPrima);
@@ -182,10 +186,48 @@ TEST_P(NuovaLdv, UnGuastoInOgniPuntoNonLasciaNiente)
 TEST_P(NuovaLdv, UnRecordVuotoSiRifiuta)
 {
     EXPECT_EQ(
-        motivo(LdvDiProva(), contestoDiProva()),
+        motivo(LdvDiProva(mConnessione, u"9999"_s), contestoDiProva()),
         u"La lettera di vettura da cui partire non è stata trovata in archivio: nessuna lettera di vettura è "
         "stata emessa."_s);
+    EXPECT_EQ(
+        motivo(LdvDiProva(), contestoDiProva()),
+        u"La lettera di vettura da cui partire non si è potuta leggere dall'archivio: nessuna lettera di "
+        "vettura è stata emessa."_s);
     EXPECT_THAT(nuove(), IsEmpty());
+}
+
+TEST_P(NuovaLdv, UnaLdvDiUnAltraGiacenzaSiRifiuta)
+{
+    Contesto contesto = contestoDiProva();
+    contesto.numeroGiacenza = u"41"_s;
+    const QString rifiuto =
+        u"La lettera di vettura %1 non è della giacenza %2/%3: nessuna lettera di vettura è stata emessa."_s;
+    EXPECT_EQ(motivo(LdvDiProva(mConnessione, u"4711"_s), contesto),
+              rifiuto.arg(u"4711"_s, u"41"_s, u"2026"_s));
+    contesto = contestoDiProva();
+    contesto.annoGiacenza = 2025;
+    EXPECT_EQ(motivo(LdvDiProva(mConnessione, u"4711"_s), contesto),
+              rifiuto.arg(u"4711"_s, u"40"_s, u"2025"_s));
+    EXPECT_EQ(motivo(LdvDiProva(mConnessione, u"4712"_s), contestoDiProva()),
+              rifiuto.arg(u"4712"_s, u"40"_s, u"2026"_s))
+        << "it is held under no number";
+    EXPECT_THAT(nuove(), IsEmpty());
+}
+
+TEST_P(NuovaLdv, LeNoteDellOriginaleCedonoIlPostoAQuelleNuove)
+{
+    // SQLite holds no text to the width of its column, and the schema's own column holds any.
+    const bool stretta = GetParam() != "sqlite";
+    if (stretta)
+        mBase.esegui(u"alter table letve00f modify lenote varchar(100);"_s);
+    mBase.esegui(u"update letve00f set lenote='%1' where lenrlv='4711';"_s.arg(QString(90, u'è')));
+    mConnessione.chiudi();
+    mConnessione.apri(mBase.accesso());
+    emettiLdv(mConnessione, LdvDiProva(mConnessione, u"4711"_s), contestoDiProva());
+    ASSERT_THAT(nuove(), SizeIs(1));
+    const QString nuove100 = u"Riconsegna a Destinatario, giacenza 40/2026, LDV originale 4711\r\n"_s;
+    EXPECT_EQ(nuove().front()[23],
+              stretta ? nuove100 + QString(34, u'è') + u'…' : nuove100 + QString(90, u'è'));
 }
 
 } // namespace

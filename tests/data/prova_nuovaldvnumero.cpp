@@ -84,6 +84,9 @@ TEST_P(NuovaLdvNumero, UnaColonnaDelloStessoNomeMaDAltriNonServe)
                      "add lenrlv_numero bigint default 7777;"_s);
     else
         mBase.esegui(u"alter table letve00f add lenrlv_numero bigint default 7777;"_s);
+    // A connection that described the table before it changed would read the columns one off.
+    mConnessione.chiudi();
+    mConnessione.apri(mBase.accesso());
     EXPECT_EQ(emettiLdv(mConnessione, LdvDiProva(mConnessione, u"4711"_s), contestoDiProva()).numero,
               u"4716"_s);
 }

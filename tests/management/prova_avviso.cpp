@@ -29,7 +29,8 @@ TEST_P(Avviso, IlPrimoSiContaENonScriveLaDescrizione)
     EXPECT_EQ(mostrato("txtDescGia"), u"10/11/2026 - Assente\n21/11/2026 - Non paga"_s);
     EXPECT_EQ(caso(u"GINRAV,GIDTAV,GIDES1"_s, u"41"_s), u"1|2026-11-21|10/11/2026 - Assente"_s);
     EXPECT_EQ(mStampe, stampata(5, u"41_2026"_s));
-    EXPECT_EQ(mostrato("lblStato"), u"Avviso di giacenza 41_2026 prodotto."_s);
+    EXPECT_EQ(mostrato("lblStato"),
+              u"Avviso di giacenza 41_2026 prodotto. Il motivo scritto ora non è stato registrato."_s);
 }
 
 TEST_P(Avviso, IlSuccessivoSiContaESostituisceLaDescrizione)

@@ -155,7 +155,8 @@ TEST_P(SchermataRiconsegna, UnGuastoDelDatabaseSiDiceNellaRigaDiStato)
     });
     cerca(u"950"_s);
     impostaTraccia({});
-    EXPECT_EQ(stato()->text(), u"guasto di prova"_s);
+    EXPECT_EQ(stato()->text(), u"La connessione con l'archivio è caduta."_s);
+    EXPECT_EQ(stato()->toolTip(), u"guasto di prova"_s);
     EXPECT_EQ(mostrato("lblNrGia"), u"51"_s);
     cerca(u"950"_s);
     EXPECT_EQ(mostrato("lblNrGia"), u"50"_s);

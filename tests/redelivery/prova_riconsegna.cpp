@@ -3,6 +3,8 @@
 #include "redelivery/emissionediprova.h"
 #include "support/stampa.h"
 
+#include <QLabel>
+
 using namespace giacenza;
 using namespace giacenza::prove;
 using namespace Qt::StringLiterals;

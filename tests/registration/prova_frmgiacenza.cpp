@@ -93,7 +93,7 @@ TEST_P(Registrazione, LaConsegnaConUnClienteErratoLoDiceUnaVolta)
     QCoreApplication::processEvents();
     EXPECT_THAT(mMessaggi.testi(), ElementsAre(u"Codice cliente assente o errato"_s));
     EXPECT_TRUE(c("txtCodiceCli")->hasFocus()) << "the change is cancelled";
-    EXPECT_EQ(mostrato("txtDestinatario"), u"Utensileria del Lago"_s);
+    EXPECT_EQ(mostrato("txtDestinatario"), QString()) << "it ends the hand-over";
     mMessaggi.prendi();
 
     consegna(u"4711"_s, u"12/11/2026"_s, u"MI"_s, u"77"_s);

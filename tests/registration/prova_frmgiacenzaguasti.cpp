@@ -52,12 +52,18 @@ TEST_P(RegistrazioneGuasti, UnGuastoFuoriDallInserimentoFinisceSenzaMessaggio)
     fallisce(u"select Lerico"_s);
     clicca("cmdSalva");
     guarisce();
-    EXPECT_EQ(mostrato("lblStato"), u"guasto di prova"_s);
+    EXPECT_EQ(mostrato("lblStato"),
+              u"Niente è stato salvato; riprovare con Salva. L'archivio ha rifiutato l'operazione."_s);
+    EXPECT_EQ(c("lblStato")->toolTip(), u"Niente è stato salvato; riprovare con Salva. guasto di prova"_s)
+        << "the driver's own words";
 
     fallisce(u"select GINRAV"_s);
     clicca("cmdSalva");
     guarisce();
     EXPECT_THAT(mMessaggi.testi(), ElementsAre(u"Giacenza aggiunta in database."_s));
+    EXPECT_EQ(mostrato("lblStato"),
+              u"La giacenza 42 è registrata, l'avviso no: emetterlo con il suo bottone. "
+              "L'archivio ha rifiutato l'operazione."_s);
     EXPECT_EQ(mBase.leggi(u"select GINRAV from giace00f where GINRLV='4711'"_s), std::nullopt);
     EXPECT_THAT(mStampe, IsEmpty());
 }
@@ -89,26 +95,27 @@ TEST_P(RegistrazioneGuasti, UnContoCheNonEUnNumeroFermaLAvviso)
 
 TEST_P(RegistrazioneGuasti, UnaStampaCheNonRiesceSiDiceELaGiacenzaResta)
 {
-    const auto salva = [this](const char16_t* ldv) {
-        consegna(QString::fromUtf16(ldv));
+    const auto salva = [this](const QString& ldv) {
+        consegna(ldv);
         clicca("cmdSalva");
+        EXPECT_EQ(mBase.leggi(u"select GINRAV from giace00f where GINRLV='%1'"_s.arg(ldv)), u"1"_s);
         const auto messaggi = mMessaggi.prendi();
-        EXPECT_EQ(messaggi.size(), 2U);
-        EXPECT_EQ(
-            mBase.leggi(u"select GINRAV from giace00f where GINRLV='%1'"_s.arg(QString::fromUtf16(ldv))),
-            u"1"_s);
-        return messaggi.back().testo.toStdString();
+        EXPECT_EQ(messaggi.front().testo, u"Giacenza aggiunta in database."_s);
+        return messaggi.size() == 2 ? messaggi.back().testo.toStdString() : "nessuna scatola";
     };
     const std::string inizio = "L'avviso di giacenza non è stato stampato; la giacenza resta registrata.\n\n";
     mGuastoStampa = u"Il disco è pieno."_s;
-    EXPECT_EQ(salva(u"4711"), inizio + "Il disco è pieno.");
+    EXPECT_EQ(salva(u"4711"_s), inizio + "Il disco è pieno.");
     mGuastoStampa.clear();
     mStampaNonProdotta = true;
-    EXPECT_EQ(salva(u"4712"), inizio + "Il modulo di stampa non ha prodotto il documento.");
+    EXPECT_EQ(salva(u"4712"_s), "nessuna scatola") << "the module has told why";
+    EXPECT_EQ(mostrato("lblStato"),
+              u"L'avviso di giacenza non è stato stampato; la giacenza resta registrata. "
+              "Il modulo di stampa non ha prodotto il documento."_s);
     impostazioni().percorsoFileIni = u"/non/ce.ini"_s;
     mBase.esegui(u"insert into letve00f (lefili,lenrlv,leanlv,ledtlv,lecodi,lerife) values "
                  "('MI','4716',2026,'2026-11-12',1001,'X');"_s);
-    EXPECT_THAT(salva(u"4716"), StartsWith(inizio + "Manca la voce IdentificativoDll"));
+    EXPECT_THAT(salva(u"4716"_s), StartsWith(inizio + "Manca la voce IdentificativoDll"));
 }
 
 TEST_P(RegistrazioneGuasti, SenzaDatabaseLaSchermataNonSiApre)

@@ -5,6 +5,7 @@
 #include "data/istruzionireport.h"
 #include "data/istruzioniricerca.h"
 #include "data/istruzionisoggetti.h"
+#include "data/istruzioniverifica.h"
 
 #include <stdexcept>
 
@@ -147,6 +148,16 @@ std::vector<VoceCatalogo> emissione(const Campione& c, Dialetto dialetto)
     return voci;
 }
 
+/// What is asked after a confirmation that was cut off.
+std::vector<VoceCatalogo> verifica(const Campione& c, Dialetto dialetto)
+{
+    const Lettura come = dialetto == Dialetto::mariadb ? Lettura::conBlocco : Lettura::semplice;
+    return {
+        {u"giacenzaRegistrata"_s, giacenzaRegistrata(c.giacenza, c.spedizione.numero, come)},
+        {u"legameRegistrato"_s, legameRegistrato(c.giacenza, c.spedizione.numero, c.spedizione.anno, come)},
+    };
+}
+
 std::vector<VoceCatalogo> scritture(const Campione& c)
 {
     const QDate oggi = c.dataGiacenza.addDays(1);
@@ -170,7 +181,8 @@ std::vector<VoceCatalogo> catalogo(const BancaDati& base)
     const Campione c = campione(base);
     std::vector<VoceCatalogo> tutte = letture(c);
     const Dialetto dialetto = base.connessione().dialetto();
-    for (const auto& altre : {scritture(c), ricerche(c), soggetti(c), emissione(c, dialetto)})
+    for (const auto& altre :
+         {scritture(c), ricerche(c), soggetti(c), emissione(c, dialetto), verifica(c, dialetto)})
         tutte.insert(tutte.end(), altre.begin(), altre.end());
     return tutte;
 }

@@ -23,7 +23,7 @@ void leggiSqlite(Piano& piano, const QString& riga)
     if (!trovato.hasMatch())
         return;
     const QString come = trovato.captured(3);
-    Accesso accesso{
+    AccessoTabella accesso{
         trovato.captured(2).toLower(), trovato.captured(1) == "SCAN"_L1 || come.contains("AUTOMATIC"_L1), {}};
     for (auto colonne = uguaglianza.globalMatch(come); colonne.hasNext();)
         accesso.colonne << colonne.next().captured(1).toLower();
@@ -41,7 +41,7 @@ void leggiMariadb(Piano& piano, const QJsonValue& valore)
     if (oggetto.contains("table_name"_L1)) {
         QString tipo = oggetto.value("access_type"_L1).toString();
         tipo.remove("hash_"_L1);
-        Accesso accesso{
+        AccessoTabella accesso{
             oggetto.value("table_name"_L1).toString().toLower(), tipo == "ALL"_L1 || tipo == "index"_L1, {}};
         const QJsonArray colonne = oggetto.value("used_key_parts"_L1).toArray();
         for (const QJsonValue& colonna : colonne)
@@ -61,7 +61,7 @@ void leggiMariadb(Piano& piano, const QJsonValue& valore)
 QStringList Piano::tabelle() const
 {
     QStringList nomi;
-    for (const Accesso& accesso : accessi)
+    for (const AccessoTabella& accesso : accessi)
         nomi << accesso.tabella;
     return nomi;
 }
@@ -69,7 +69,7 @@ QStringList Piano::tabelle() const
 QStringList Piano::scansioni() const
 {
     QStringList nomi;
-    for (const Accesso& accesso : accessi) {
+    for (const AccessoTabella& accesso : accessi) {
         if (accesso.tutta)
             nomi << accesso.tabella;
     }

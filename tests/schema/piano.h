@@ -5,7 +5,7 @@
 namespace giacenza::prove {
 
 /// How a table is read.
-struct Accesso
+struct AccessoTabella
 {
     QString tabella;     ///< in lower case
     bool tutta = false;  ///< every row, or every entry of an index
@@ -15,7 +15,7 @@ struct Accesso
 /// How a database means to find the rows of a statement.
 struct Piano
 {
-    QList<Accesso> accessi;
+    QList<AccessoTabella> accessi;
     bool ordina = false; ///< it gathers the rows and sorts them before it gives the first
     /// The answer is one end of an index, taken before anything is read: no table is named. MariaDB only.
     bool soloDaIndice = false;

@@ -58,7 +58,7 @@ QStringList grandiNominate(const QString& istruzione)
 }
 
 /// True when the table is entered by a column that finds few of its rows.
-bool buono(const Accesso& accesso)
+bool buono(const AccessoTabella& accesso)
 {
     return !accesso.tutta &&
            std::any_of(accesso.colonne.begin(), accesso.colonne.end(),
@@ -81,7 +81,7 @@ TEST_P(Piani, ogniIstruzioneEntraNelleTabelleGrandiConUnIndice)
         EXPECT_THAT(piano.tabelle(), IsSupersetOf(grandiNominate(voce.testo)))
             << "the plan of " << voce.nome.toStdString() << " says too little:\n"
             << piano.testo.toStdString();
-        for (const Accesso& accesso : piano.accessi) {
+        for (const AccessoTabella& accesso : piano.accessi) {
             EXPECT_TRUE(buono(accesso) || !tabelleGrandi.contains(accesso.tabella) ||
                         ammesse.contains(voce.nome))
                 << voce.nome.toStdString() << ": " << voce.testo.toStdString() << '\n'
@@ -180,7 +180,7 @@ TEST_P(PianoSenzaIndice, unIndiceToltoSiNota)
             continue;
         ++trovate;
         const Piano piano = leggiPiano(connessione, voce.testo);
-        EXPECT_THAT(piano.accessi, Contains(testing::Truly([](const Accesso& accesso) {
+        EXPECT_THAT(piano.accessi, Contains(testing::Truly([](const AccessoTabella& accesso) {
                         return accesso.tabella == u"letve00f"_s && !buono(accesso);
                     })))
             << piano.testo.toStdString();

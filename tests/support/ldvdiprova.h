@@ -16,22 +16,26 @@ namespace giacenza::prove {
 class LdvDiProva : public RecordLdv
 {
 public:
-    /// An empty record.
+    /// A record that could not be read.
     LdvDiProva() = default;
-    /// The waybill of the small depot of a number.
+    /// The waybill of the small depot of a number; empty when there is none.
     LdvDiProva(Connessione& connessione, const QString& numero)
     {
         Recordset riga;
         riga.apri(connessione, istruzioni::spedizioneIntera({u"MI"_s, numero, 2026}));
-        for (int i = 0; i < riga.colonne(); ++i)
-            mValori[riga.nomeColonna(i).toLower()] = riga.valore(i);
+        for (int i = 0; i < riga.colonne(); ++i) {
+            mColonne << riga.nomeColonna(i);
+            if (!riga.eof())
+                mValori[riga.nomeColonna(i).toLower()] = riga.valore(i);
+        }
     }
 
     bool vuoto() const override { return mValori.empty(); }
-    QStringList colonne() const override { return {}; }
+    QStringList colonne() const override { return mColonne; }
     Valore valore(const QString& colonna) const override { return mValori.at(colonna.toLower()); }
 
 private:
+    QStringList mColonne;
     std::map<QString, Valore> mValori;
 };
 

@@ -186,8 +186,8 @@ TEST_P(Emissione, ChiNonAscoltaNonFermaNienteEIlMotivoStaNelRegistro)
 {
     const LdvDiProva vuota;
     EXPECT_THAT(avvertimenti([&] { EXPECT_EQ(emetti(vuota), QString()); }),
-                ElementsAre(u"La lettera di vettura da cui partire non è stata trovata in archivio: nessuna "
-                            "lettera di vettura è stata emessa."_s));
+                ElementsAre(u"La lettera di vettura da cui partire non si è potuta leggere dall'archivio: "
+                            "nessuna lettera di vettura è stata emessa."_s));
     EXPECT_EQ(emesse(), u"0"_s);
 }
 

@@ -43,6 +43,7 @@ TEST_P(Emittente, CioCheSiRompeDopoLEmissioneDiceIlNumero)
     });
     QStringList racconti;
     Contesto contesto = contestoDiProva();
+    contesto.numeroGiacenza.clear();
     contesto.racconta = [&](const Racconto& racconto) { racconti << racconto.testo; };
     emittente.setContesto(contesto);
     emittente.setPercorsoDatabase(mBase.stringa());

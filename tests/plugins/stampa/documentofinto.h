@@ -57,7 +57,10 @@ public:
         return chiave == "Modalita"_L1 ? modalita : QString();
     }
 
+    void archiviato(const QString& percorso) override { archiviati << percorso; }
+
     QString modalita;
+    QStringList archiviati;
 
 private:
     QString mCartella;
