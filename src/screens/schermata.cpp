@@ -4,6 +4,7 @@
 #include "base/testoerrore.h"
 #include "database/recordset.h"
 #include "screens/aspetto.h"
+#include "widgets/annuncio.h"
 #include "widgets/primopiano.h"
 
 #include <QCloseEvent>
@@ -26,7 +27,7 @@ Schermata::Schermata(const QString& nome) : mConvalida(new Convalida(this))
 {
     setObjectName(nome);
     setAttribute(Qt::WA_QuitOnClose, false);
-    setStyleSheet(aspettoSchermata());
+    setStyleSheet(aspettoSchermata(palette()));
 }
 
 Connessione& Schermata::connessione()
@@ -44,6 +45,7 @@ void Schermata::stato(const QString& testo)
 {
     mStato->setText(testo.section(u'\n', 0, 0));
     mStato->setToolTip(testo);
+    annuncia(mStato);
 }
 
 std::function<void()> Schermata::gestore(std::function<void()> azione)
