@@ -17,8 +17,8 @@ class RicercaLdv
 public:
     RicercaLdv(Schermata& schermata, const Ui::frmGiacenza& forma, PartiComuni& parti);
 
-    /// Looks up what stands in number, date and branch.
-    void perNumero() { ricerca(mNumero); }
+    /// Looks up what stands in number, date and branch. Returns whether a shipment was found and shown.
+    bool perNumero() { return ricerca(mNumero); }
 
     /// The visible mark of a waybill that is held already.
     void segnaGiacenza(bool giacente);
@@ -27,11 +27,14 @@ private:
     void collega(ChiaveRicerca& chiave, QPushButton* bottone);
     void PulisciCampi();
     Seguito lascia(ChiaveRicerca& chiave);
-    void ricerca(ChiaveRicerca& chiave);
-    void ricercaDiretta(const ChiaveRicerca& chiave, QDate giorno);
-    void RicercaSpedizione(const ChiaveRicerca& chiave);
+    /// These return whether a shipment was found and shown.
+    bool ricerca(ChiaveRicerca& chiave);
+    bool ricercaDiretta(const ChiaveRicerca& chiave, QDate giorno);
+    bool RicercaSpedizione(const ChiaveRicerca& chiave);
+    bool mostra(const QString& istruzione, const QString& nonTrovata);
     void cercate();
-    void mostra(const QString& istruzione, const QString& nonTrovata);
+    /// Once a lookup that a key started has found its shipment: where the clerk types next.
+    void prosegui(bool trovata);
 
     Schermata& mSchermata;
     const Ui::frmGiacenza& mUi;
