@@ -21,7 +21,8 @@ RicercaLdv::RicercaLdv(Schermata& schermata, const Ui::frmGiacenza& forma, Parti
 {
     collega(mNumero, forma.cmdCercaLdv);
     collega(mRiferimento, forma.cmdCercaRif);
-    suTasto(forma.txtFiliale, Qt::Key_F9, schermata.gestore([this] { prosegui(RicercaSpedizione(mNumero)); }));
+    suTasto(forma.txtFiliale, Qt::Key_F9,
+            schermata.gestore([this] { prosegui(RicercaSpedizione(mNumero)); }));
     QObject::connect(&parti.spedizione.campi(), &CampiSchermata::giacenzaLetta, &schermata,
                      [this](bool giacente) { segnaGiacenza(giacente); });
     segnaGiacenza(false);
@@ -108,8 +109,9 @@ bool RicercaLdv::ricercaDiretta(const ChiaveRicerca& chiave, QDate giorno)
     if (chiave.perNumero())
         return mostra(istruzioni::spedizionePerNumeroDataFiliale(valore, giorno, filiale),
                       u"LDV %1 del %2, filiale %3: non trovata."_s.arg(valore, dataBreve(giorno), filiale));
-    return mostra(istruzioni::spedizionePerRiferimento(valore, giorno, filiale),
-                  u"Riferimento %1 del %2, filiale %3: non trovato."_s.arg(valore, dataBreve(giorno), filiale));
+    return mostra(
+        istruzioni::spedizionePerRiferimento(valore, giorno, filiale),
+        u"Riferimento %1 del %2, filiale %3: non trovato."_s.arg(valore, dataBreve(giorno), filiale));
 }
 
 bool RicercaLdv::RicercaSpedizione(const ChiaveRicerca& chiave)

@@ -49,6 +49,7 @@ QLineEdit:disabled { background-color: palette(window); }
 QLineEdit[readOnly="true"]:disabled { color: %1; }
 QComboBox:disabled { color: palette(text); }
 QLabel[barra="true"] { padding: 3px 4px; }
+QLabel[alta="true"] { padding-top: 2px; }
 QLabel#lblGiaInGiacenza { background-color: %2; color: %3; font-weight: bold; padding: 3px 10px; }
 QLabel#lblStatoCaso { background-color: %4; color: %3; font-weight: bold; padding: 3px 10px; }
 QLabel#lblStatoCaso[chiusa="true"] { background-color: %5; }

@@ -30,11 +30,10 @@ CampoCliente::CampoCliente(Schermata& schermata, const Controlli& controlli, Dif
     : mSchermata(schermata), mControlli(controlli), mDifferenze(std::move(differenze))
 {
     schermata.convalida().aggiungi(mControlli.codice, [this] { return convalida(); });
-    QObject::connect(mControlli.codice, &QLineEdit::returnPressed, &schermata,
-                     [this] {
-                         // As if reached by Tab, so that the button shows its focus.
-                         mControlli.cerca->setFocus(Qt::TabFocusReason);
-                     });
+    QObject::connect(mControlli.codice, &QLineEdit::returnPressed, &schermata, [this] {
+        // As if reached by Tab, so that the button shows its focus.
+        mControlli.cerca->setFocus(Qt::TabFocusReason);
+    });
     const auto ricerca = schermata.gestore([this] { cerca(); });
     QObject::connect(mControlli.cerca, &QPushButton::clicked, &schermata, ricerca);
     suTasto(mControlli.codice, Qt::Key_F12, ricerca);

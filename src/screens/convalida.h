@@ -37,8 +37,8 @@ public:
     /// The check of the field that has the focus: what a shortcut, which moves no focus, must run first.
     Seguito verificaCorrente() const;
 
-    /// Inside a check: whether the operator goes on to the next field by Tab. Then a screen may choose another
-    /// one; a click, or a key that names a field, has chosen already.
+    /// Inside a check: whether the operator goes on to the next field by Tab. Then a screen may choose
+    /// another one; a click, or a key that names a field, has chosen already.
     bool conTab() const { return mMotivo == Qt::TabFocusReason; }
 
     /// From now on nothing is checked: the screen closes.

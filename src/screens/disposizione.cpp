@@ -39,9 +39,8 @@ Disposizione::Disposizione(QWidget* schermata) : QObject(schermata), mSchermata(
     for (const QComboBox* elenco : elenchi)
         if (elenco->isEditable())
             elenco->lineEdit()->setAccessibleName(elenco->accessibleName());
-    for (const auto& nome : {u"lblGiaInGiacenza"_s, u"lblStatoCaso"_s})
-        if (auto* insegna = schermata->findChild<QLabel*>(nome))
-            annunciaComparsa(insegna);
+    if (auto* insegna = schermata->findChild<QLabel*>(u"lblGiaInGiacenza"_s))
+        annunciaComparsa(insegna);
     misuraCampi(schermata);
     schermata->installEventFilter(this);
 }

@@ -10,6 +10,8 @@ namespace giacenza {
 namespace {
 
 constexpr int margineFuoco = 12;
+/// Between the content and its scroll bar.
+constexpr int distacco = 6;
 
 } // namespace
 
@@ -19,6 +21,7 @@ AreaForma::AreaForma(QWidget* parent) : QScrollArea(parent)
     setFrameShape(QFrame::NoFrame);
     // The arrow keys belong to the fields.
     setFocusPolicy(Qt::NoFocus);
+    verticalScrollBar()->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* ora) { segui(ora); });
 }
 
@@ -52,7 +55,7 @@ void AreaForma::disponi()
         return;
     // Counted with the bar, whether it is there or not: the columns must not come and go with it.
     const int barra = verticalScrollBar()->sizeHint().width();
-    const bool strette = width() - barra < larghezzaAffiancate();
+    const bool strette = width() - barra - distacco < larghezzaAffiancate();
     const auto verso = strette ? QBoxLayout::BottomToTop : QBoxLayout::LeftToRight;
     if (mColonne->direction() != verso)
         mColonne->setDirection(verso);
@@ -68,6 +71,8 @@ bool AreaForma::eventFilter(QObject* oggetto, QEvent* evento)
 {
     if (oggetto == widget() && evento->type() == QEvent::LayoutRequest)
         disponi();
+    if (oggetto == verticalScrollBar() && (evento->type() == QEvent::Show || evento->type() == QEvent::Hide))
+        setViewportMargins(0, 0, evento->type() == QEvent::Show ? distacco : 0, 0);
     return QScrollArea::eventFilter(oggetto, evento);
 }
 
