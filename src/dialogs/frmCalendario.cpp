@@ -9,6 +9,8 @@
 #include <QShowEvent>
 #include <QTextCharFormat>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza {
 
 frmCalendario::frmCalendario(QWidget* parent) : QDialog(parent), mUi(std::make_unique<Ui::frmCalendario>())
@@ -19,7 +21,22 @@ frmCalendario::frmCalendario(QWidget* parent) : QDialog(parent), mUi(std::make_u
     connect(mUi->cmdReset, &QPushButton::clicked, this, [this] { prendi(oggi()); });
     // The calendar keeps Esc for itself.
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &QDialog::reject);
+    nominaParti();
     setDataAttuale({});
+}
+
+void frmCalendario::nominaParti()
+{
+    // The calendar leaves its own controls without a name to read out.
+    const std::pair<QString, QString> nomi[] = {{u"qt_calendar_prevmonth"_s, u"Mese precedente"_s},
+                                                {u"qt_calendar_nextmonth"_s, u"Mese seguente"_s},
+                                                {u"qt_calendar_monthbutton"_s, u"Mese"_s},
+                                                {u"qt_calendar_yearbutton"_s, u"Anno"_s},
+                                                {u"qt_calendar_yearedit"_s, u"Anno da scrivere"_s},
+                                                {u"qt_calendar_calendarview"_s, u"Giorni del mese"_s}};
+    for (const auto& [oggetto, nome] : nomi)
+        if (auto* parte = mUi->Calendario->findChild<QWidget*>(oggetto))
+            parte->setAccessibleName(nome);
 }
 
 frmCalendario::~frmCalendario() = default;

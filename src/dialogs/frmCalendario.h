@@ -40,6 +40,7 @@ protected:
     void showEvent(QShowEvent* evento) override;
 
 private:
+    void nominaParti();
     void prendi(QDate giorno);
 
     std::unique_ptr<Ui::frmCalendario> mUi;

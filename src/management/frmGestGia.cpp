@@ -3,6 +3,7 @@
 #include "database/recordset.h"
 #include "dialogs/frmRifiuto.h"
 #include "ui_frmGestGia.h"
+#include "widgets/annuncio.h"
 
 using namespace Qt::StringLiterals;
 
@@ -117,6 +118,7 @@ void frmGestGia::mostraStatoCaso()
     mUi->lblStatoCaso->setProperty("chiusa", chiusa);
     rinnovaAspetto(mUi->lblStatoCaso);
     mUi->lblStatoCaso->setVisible(!testo(mUi->lblNrGia).isEmpty());
+    annuncia(mUi->lblStatoCaso);
 }
 
 } // namespace giacenza

@@ -112,7 +112,7 @@ void RichiamoCaso::richiama()
 
 void RichiamoCaso::richiamaPerNumero()
 {
-    const QString numero = mUi.txtNGiace->text();
+    const QString numero = mUi.txtNGiace->text().trimmed();
     if (numero.isEmpty()) {
         mSchermata.messaggio(u"Manca il numero della giacenza."_s, Stile::avviso, titoloGestione());
         mUi.txtNGiace->setFocus();

@@ -88,10 +88,10 @@ void frmGiacenza::eseguiConsegna()
     scrivi(mUi->txtLDV, mNLettVett);
     scrivi(mUi->txtDataLdv, dataBreve(*giorno));
     scrivi(mUi->txtFiliale, mFiliale);
-    mRicerca.perNumero();
+    const bool trovata = mRicerca.perNumero();
     // Leaving a code that was refused would check it, and tell it, once more.
     if (!rifiuto)
-        mUi->txtDataGia->setFocus();
+        (trovata ? mUi->txtFilialeGia : mUi->txtDataGia)->setFocus(Qt::TabFocusReason);
 }
 
 void frmGiacenza::scegliData()

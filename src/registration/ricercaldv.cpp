@@ -16,15 +16,16 @@ using istruzioni::Giunzione;
 RicercaLdv::RicercaLdv(Schermata& schermata, const Ui::frmGiacenza& forma, PartiComuni& parti)
     : mSchermata(schermata), mUi(forma), mParti(parti), mElenco(schermata, parti.cliente, forma.txtFiliale),
       mNumero(schermata, ModoRicerca::letteraVettura, forma.txtLDV, forma.txtDataLdv,
-              schermata.gestore([this] { RicercaSpedizione(mNumero); })),
+              schermata.gestore([this] { prosegui(RicercaSpedizione(mNumero)); })),
       mRiferimento(schermata, ModoRicerca::riferimento, forma.txtRiferimento, forma.txtDataRif,
-                   schermata.gestore([this] { RicercaSpedizione(mRiferimento); })),
+                   schermata.gestore([this] { prosegui(RicercaSpedizione(mRiferimento)); })),
       mMotivo(forma.txtDescGia, forma.lblAvvMotivo), mMotivoDigitato(new Ripristino(forma.txtDescGia)),
       mFilialeDigitata(new Ripristino(forma.txtFilialeGia))
 {
     collega(mNumero, forma.cmdCercaLdv);
     collega(mRiferimento, forma.cmdCercaRif);
-    suTasto(forma.txtFiliale, Qt::Key_F9, schermata.gestore([this] { RicercaSpedizione(mNumero); }));
+    suTasto(forma.txtFiliale, Qt::Key_F9,
+            schermata.gestore([this] { prosegui(RicercaSpedizione(mNumero)); }));
     QObject::connect(&parti.spedizione.campi(), &CampiSchermata::giacenzaLetta, &schermata,
                      [this](bool giacente) { segnaGiacenza(giacente); });
     schermata.convalida().aggiungi(forma.txtFiliale, [this] { return lasciaFiliale(); });
@@ -37,7 +38,10 @@ void RicercaLdv::collega(ChiaveRicerca& chiave, QPushButton* bottone)
 {
     QObject::connect(bottone, &QPushButton::clicked, &mSchermata,
                      mSchermata.gestore([this, &chiave] { RicercaSpedizione(chiave); }));
-    suTasto(chiave.campo(), Qt::Key_F12, mSchermata.gestore([this, &chiave] { ricerca(chiave); }));
+    const auto conTasto = mSchermata.gestore([this, &chiave] { prosegui(ricerca(chiave)); });
+    suTasto(chiave.campo(), Qt::Key_F12, conTasto);
+    for (const Qt::Key invio : {Qt::Key_Return, Qt::Key_Enter})
+        suTasto(chiave.campoData(), invio, conTasto);
     mSchermata.convalida().aggiungi(chiave.campoData(), [this, &chiave] { return lascia(chiave); });
 }
 
@@ -100,10 +104,16 @@ Seguito RicercaLdv::lascia(ChiaveRicerca& chiave)
     if (conCliente && chiave.valore().isEmpty())
         return {};
     const bool conDialogo = mUi.txtFiliale->text().isEmpty() && chiave.giorno();
+    const bool conTab = mSchermata.convalida().conTab();
+    const auto cerca = [this, &chiave, conTab] {
+        const bool trovata = ricerca(chiave);
+        if (conTab)
+            prosegui(trovata);
+    };
     if (!conCliente || conDialogo)
-        return mSchermata.gestore([this, &chiave] { ricerca(chiave); });
+        return mSchermata.gestore(cerca);
     try {
-        ricerca(chiave);
+        cerca();
         return {};
     } catch (...) {
         // Told, like a refusal, once the focus has moved: the click that moved it saves nothing.
@@ -117,54 +127,56 @@ Seguito RicercaLdv::lasciaFiliale()
         mUi.txtFiliale->text().trimmed().isEmpty() ? nullptr : std::exchange(mSenzaFiliale, nullptr);
     if (!chiave)
         return {};
-    return mSchermata.gestore([this, chiave] { ricerca(*chiave); });
+    return mSchermata.gestore([this, chiave] { prosegui(ricerca(*chiave)); });
 }
 
-void RicercaLdv::ricerca(ChiaveRicerca& chiave)
+bool RicercaLdv::ricerca(ChiaveRicerca& chiave)
 {
     if (!mParti.cliente.scelto())
-        return;
+        return false;
     const auto giorno = chiave.giorno();
-    if (!giorno)
-        return mSchermata.stato(u"La data non è completa o non è valida: nessuna ricerca."_s);
+    if (!giorno) {
+        mSchermata.stato(u"La data non è completa o non è valida: nessuna ricerca."_s);
+        return false;
+    }
     if (mUi.txtFiliale->text().isEmpty())
         return RicercaSpedizione(chiave);
-    ricercaDiretta(chiave, *giorno);
+    return ricercaDiretta(chiave, *giorno);
 }
 
-void RicercaLdv::ricercaDiretta(const ChiaveRicerca& chiave, QDate giorno)
+bool RicercaLdv::ricercaDiretta(const ChiaveRicerca& chiave, QDate giorno)
 {
     const QString valore = chiave.valore();
     const QString filiale = mUi.txtFiliale->text();
     cercate();
     PulisciCampi();
     if (chiave.perNumero())
-        mostra(istruzioni::spedizionePerNumeroDataFiliale(valore, giorno, filiale),
-               u"LDV %1 del %2, filiale %3: non trovata."_s.arg(valore, dataBreve(giorno), filiale));
-    else
-        mostra(istruzioni::spedizionePerRiferimento(valore, giorno, filiale),
-               u"Riferimento %1 del %2, filiale %3: non trovato."_s.arg(valore, dataBreve(giorno), filiale));
+        return mostra(istruzioni::spedizionePerNumeroDataFiliale(valore, giorno, filiale),
+                      u"LDV %1 del %2, filiale %3: non trovata."_s.arg(valore, dataBreve(giorno), filiale));
+    return mostra(
+        istruzioni::spedizionePerRiferimento(valore, giorno, filiale),
+        u"Riferimento %1 del %2, filiale %3: non trovato."_s.arg(valore, dataBreve(giorno), filiale));
 }
 
-void RicercaLdv::RicercaSpedizione(ChiaveRicerca& chiave)
+bool RicercaLdv::RicercaSpedizione(ChiaveRicerca& chiave)
 {
     const auto presente = [](const QString& numero) { return !numero.isEmpty(); };
     if (!mParti.cliente.scelto() || !mElenco.ControllaImmissione(chiave, presente))
-        return;
+        return false;
     const auto scelta = mElenco.RicercaSpedizione(chiave);
     cercate();
     if (!scelta) {
         if (!mUi.txtFiliale->text().isEmpty())
-            return;
+            return false;
         mSenzaFiliale = &chiave;
-        return mSchermata.stato(
-            u"L'elenco mostra solo le spedizioni della filiale scritta: scrivere la filiale."_s);
+        mSchermata.stato(u"L'elenco mostra solo le spedizioni della filiale scritta: scrivere la filiale."_s);
+        return false;
     }
     PulisciCampi();
-    mostra(istruzioni::spedizionePerNumeroData(scelta->numero, scelta->giorno,
-                                               chiave.perNumero() ? Giunzione::esternaMinuscola
-                                                                  : Giunzione::esterna),
-           u"LDV %1 del %2: non trovata."_s.arg(scelta->numero, dataBreve(scelta->giorno)));
+    return mostra(istruzioni::spedizionePerNumeroData(scelta->numero, scelta->giorno,
+                                                      chiave.perNumero() ? Giunzione::esternaMinuscola
+                                                                         : Giunzione::esterna),
+                  u"LDV %1 del %2: non trovata."_s.arg(scelta->numero, dataBreve(scelta->giorno)));
 }
 
 void RicercaLdv::cercate()
@@ -174,14 +186,23 @@ void RicercaLdv::cercate()
     mSenzaFiliale = nullptr;
 }
 
-void RicercaLdv::mostra(const QString& istruzione, const QString& nonTrovata)
+bool RicercaLdv::mostra(const QString& istruzione, const QString& nonTrovata)
 {
-    if (!mParti.spedizione.mostra(istruzione))
-        return mSchermata.stato(nonTrovata);
+    if (!mParti.spedizione.mostra(istruzione)) {
+        mSchermata.stato(nonTrovata);
+        return false;
+    }
     if (!mGiacente)
         mParti.dataGiacenza.sostituisciAvanzo();
     avvertiMotivo();
     scrivi(mUi.barLdv, u"%1 del %2"_s.arg(tag(mUi.txtLDV), testo(mUi.txtDataLdv)));
+    return true;
+}
+
+void RicercaLdv::prosegui(bool trovata)
+{
+    if (trovata)
+        mUi.txtFilialeGia->setFocus(Qt::TabFocusReason);
 }
 
 } // namespace giacenza

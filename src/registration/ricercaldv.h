@@ -18,8 +18,8 @@ class RicercaLdv
 public:
     RicercaLdv(Schermata& schermata, const Ui::frmGiacenza& forma, PartiComuni& parti);
 
-    /// Looks up what stands in number, date and branch.
-    void perNumero() { ricerca(mNumero); }
+    /// Looks up what stands in number, date and branch. Returns whether a shipment was found and shown.
+    bool perNumero() { return ricerca(mNumero); }
 
     /// The row that the screen was just filled from.
     void rigaMostrata(const Recordset& riga);
@@ -34,13 +34,16 @@ private:
     void collega(ChiaveRicerca& chiave, QPushButton* bottone);
     void PulisciCampi();
     Seguito lascia(ChiaveRicerca& chiave);
-    void ricerca(ChiaveRicerca& chiave);
-    void ricercaDiretta(const ChiaveRicerca& chiave, QDate giorno);
-    void RicercaSpedizione(ChiaveRicerca& chiave);
+    /// These return whether a shipment was found and shown.
+    bool ricerca(ChiaveRicerca& chiave);
+    bool ricercaDiretta(const ChiaveRicerca& chiave, QDate giorno);
+    bool RicercaSpedizione(ChiaveRicerca& chiave);
+    bool mostra(const QString& istruzione, const QString& nonTrovata);
     void cercate();
+    /// Once a lookup that a key started has found its shipment: where the clerk types next.
+    void prosegui(bool trovata);
     Seguito lasciaFiliale();
     void avvertiMotivo();
-    void mostra(const QString& istruzione, const QString& nonTrovata);
 
     Schermata& mSchermata;
     const Ui::frmGiacenza& mUi;

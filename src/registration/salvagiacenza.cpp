@@ -88,7 +88,7 @@ DatiGiacenza SalvaGiacenza::dati() const
         .dataAvviso = giornoSePresente(testo(mUi.lblDataAvviso)),
         .dataBuonFine = giornoSePresente(testo(mUi.lblDataBuonFine)),
         .imponibile = imponibile.isEmpty() ? std::nullopt : std::optional(Decimale(imponibile)),
-        .giacenzaPrecedente = testo(mUi.txtGiaOld),
+        .giacenzaPrecedente = testo(mUi.txtGiaOld).trimmed(),
         .dataPrecedente = giornoSePresente(testo(mUi.txtDataGiaOld)),
         .dataGiacenza = giornoDi(testo(mUi.txtDataGia), u"Manca la data della giacenza."_s),
         .motivo = testo(mUi.txtDescGia),

@@ -2,10 +2,12 @@
 
 #include <QString>
 
+class QPalette;
+
 namespace giacenza {
 
 /// The style sheet of the working screens: what tells a field to type in from one to look at, and a value
-/// that counts from a left-over.
-QString aspettoSchermata();
+/// that counts from a left-over. Its colours follow the palette, light or dark.
+QString aspettoSchermata(const QPalette& colori);
 
 } // namespace giacenza

@@ -11,6 +11,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace giacenza {
@@ -28,8 +30,10 @@ CampoCliente::CampoCliente(Schermata& schermata, const Controlli& controlli, Dif
     : mSchermata(schermata), mControlli(controlli), mDifferenze(std::move(differenze))
 {
     schermata.convalida().aggiungi(mControlli.codice, [this] { return convalida(); });
-    QObject::connect(mControlli.codice, &QLineEdit::returnPressed, &schermata,
-                     [this] { mControlli.cerca->setFocus(); });
+    QObject::connect(mControlli.codice, &QLineEdit::returnPressed, &schermata, [this] {
+        // As if reached by Tab, so that the button shows its focus.
+        mControlli.cerca->setFocus(Qt::TabFocusReason);
+    });
     const auto ricerca = schermata.gestore([this] { cerca(); });
     QObject::connect(mControlli.cerca, &QPushButton::clicked, &schermata, ricerca);
     suTasto(mControlli.codice, Qt::Key_F12, ricerca);
@@ -70,14 +74,22 @@ Seguito CampoCliente::convalida()
     if (mControlli.codice->isReadOnly())
         return {};
     const QString digitato = codice().trimmed();
-    return verifica(
+    const Seguito seguito = verifica(
         digitato,
         rifiuta(mSchermata, mControlli.codice, testoErrato(), Stile::avviso, mDifferenze.titoloErrato()),
         [&](const QString& nome) {
             scrivi(mControlli.barra, nome);
             mControlli.codice->setText(digitato);
             blocca(true);
+            mInesistente.clear();
         });
+    // A customer that is not there is typed anew, but whoever leaves the same code again goes on with it.
+    if (!seguito || !eNumero(digitato) || std::exchange(mInesistente, digitato) == digitato)
+        return seguito;
+    return mSchermata.gestore([this, seguito] {
+        mSchermata.durante(seguito);
+        mControlli.codice->setFocus();
+    });
 }
 
 Seguito CampoCliente::imposta(const QString& codice)

@@ -61,6 +61,8 @@ private:
     Schermata& mSchermata;
     Controlli mControlli;
     Differenze mDifferenze;
+    /// The code that was told last as not being there.
+    QString mInesistente;
 };
 
 } // namespace giacenza

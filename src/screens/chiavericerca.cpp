@@ -19,7 +19,8 @@ ChiaveRicerca::ChiaveRicerca(Schermata& schermata, ModoRicerca modo, QLineEdit* 
 
 QString ChiaveRicerca::valore() const
 {
-    return perNumero() ? numeroLdv(mCampo) : testo(mCampo);
+    // A key looks up before the field is left, and so before its blanks are taken off.
+    return (perNumero() ? numeroLdv(mCampo) : testo(mCampo)).trimmed();
 }
 
 QString ChiaveRicerca::data() const

@@ -41,7 +41,7 @@ bool Convalida::eventFilter(QObject* oggetto, QEvent* evento)
         auto* campo = qobject_cast<QWidget*>(oggetto);
         if (campo && mVerifiche.contains(campo) && motivo != Qt::ActiveWindowFocusReason &&
             motivo != Qt::PopupFocusReason && daVerificare(campo))
-            lasciato(campo, motivo == Qt::MouseFocusReason);
+            lasciato(campo, motivo);
         return false;
     }
     case QEvent::MouseButtonPress:
@@ -53,15 +53,17 @@ bool Convalida::eventFilter(QObject* oggetto, QEvent* evento)
     }
 }
 
-void Convalida::lasciato(QWidget* campo, bool conIlMouse)
+void Convalida::lasciato(QWidget* campo, Qt::FocusReason motivo)
 {
     mInCorso = true;
+    mMotivo = motivo;
     const Seguito seguito = mVerifiche.value(campo)();
+    mMotivo = Qt::NoFocusReason;
     if (!seguito) {
         mInCorso = false;
         return;
     }
-    if (conIlMouse) {
+    if (motivo == Qt::MouseFocusReason) {
         mIngoiaClic = true;
         qApp->installEventFilter(this);
     }

@@ -37,6 +37,10 @@ public:
     /// The check of the field that has the focus: what a shortcut, which moves no focus, must run first.
     Seguito verificaCorrente() const;
 
+    /// Inside a check: whether the operator goes on to the next field by Tab. Then a screen may choose
+    /// another one; a click, or a key that names a field, has chosen already.
+    bool conTab() const { return mMotivo == Qt::TabFocusReason; }
+
     /// From now on nothing is checked: the screen closes.
     void sospendi() { mSospesa = true; }
 
@@ -45,11 +49,12 @@ protected:
 
 private:
     bool daVerificare(const QWidget* campo) const;
-    void lasciato(QWidget* campo, bool conIlMouse);
+    void lasciato(QWidget* campo, Qt::FocusReason motivo);
 
     QWidget* mSchermata;
     QHash<const QObject*, Verifica> mVerifiche;
     QList<const QWidget*> mUscite;
+    Qt::FocusReason mMotivo = Qt::NoFocusReason;
     bool mSospesa = false;
     bool mInCorso = false;
     bool mIngoiaClic = false;

@@ -2,6 +2,7 @@
 
 #include "screens/campocliente.h"
 #include "screens/casomostrato.h"
+#include "screens/disposizione.h"
 #include "screens/spedizionemostrata.h"
 #include "screens/stampacaso.h"
 
@@ -77,6 +78,7 @@ std::unique_ptr<Forma> creaForma(QWidget* schermata)
 {
     auto forma = std::make_unique<Forma>();
     forma->setupUi(schermata);
+    new Disposizione(schermata);
     return forma;
 }
 

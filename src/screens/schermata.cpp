@@ -4,6 +4,7 @@
 #include "base/testoerrore.h"
 #include "data/archivio.h"
 #include "screens/aspetto.h"
+#include "widgets/annuncio.h"
 #include "widgets/primopiano.h"
 
 #include <QCloseEvent>
@@ -27,7 +28,7 @@ Schermata::Schermata(const QString& nome)
 {
     setObjectName(nome);
     setAttribute(Qt::WA_QuitOnClose, false);
-    setStyleSheet(aspettoSchermata());
+    setStyleSheet(aspettoSchermata(palette()));
 }
 
 void Schermata::carica()
@@ -39,6 +40,7 @@ void Schermata::stato(const QString& testo, const QString& dettaglio)
 {
     mStato->setText(testo.section(u'\n', 0, 0));
     mStato->setToolTip(dettaglio.isEmpty() ? testo : dettaglio);
+    annuncia(mStato);
 }
 
 void Schermata::statoGuasto(const Errore& errore, const QString& cheCosa)

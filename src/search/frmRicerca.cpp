@@ -7,6 +7,7 @@
 #include "search/controlloricerca.h"
 #include "widgets/attesa.h"
 #include "widgets/secondoclic.h"
+#include "widgets/tasti.h"
 
 #include <QGuiApplication>
 #include <QPointer>
@@ -80,6 +81,7 @@ void frmRicerca::collega()
     connect(mUi->cmdAnnulla, &QPushButton::clicked, this, &QDialog::reject);
     connect(mUi->lstCerca, &ListaScelta::finePagina, this, [this] { prova([this] { CaricaLista(); }); });
     connect(mUi->lstCerca, &ListaScelta::scelta, this, &frmRicerca::scegli);
+    suTasto(mUi->txtCerca, Qt::Key_Down, [this] { mUi->lstCerca->entraDaTasto(); });
 }
 
 void frmRicerca::setClienti_Fornitori(qint16 tipo)

@@ -20,6 +20,15 @@ int ListaScelta::righeVisibili() const
     return qMax(1, viewport()->height() / qMax(1, altezza));
 }
 
+void ListaScelta::entraDaTasto()
+{
+    if (!isEnabled() || count() == 0)
+        return;
+    setFocus(Qt::ShortcutFocusReason);
+    if (selectedItems().isEmpty())
+        setCurrentRow(qMax(0, currentRow()));
+}
+
 void ListaScelta::keyPressEvent(QKeyEvent* evento)
 {
     const bool nienteSegnato = selectedItems().isEmpty();

@@ -16,6 +16,10 @@ public:
     /// How many rows fit into the list as it stands, at least one.
     int righeVisibili() const;
 
+    /// Brings the focus here by an arrow, which marks the row that the list starts from; nothing without
+    /// rows.
+    void entraDaTasto();
+
 Q_SIGNALS:
     /// The operator took the marked row.
     void scelta(QListWidgetItem* voce);

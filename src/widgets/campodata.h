@@ -25,14 +25,18 @@ public:
 
 protected:
     bool event(QEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
     void focusInEvent(QFocusEvent* evento) override;
     void mousePressEvent(QMouseEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
     void focusOutEvent(QFocusEvent* evento) override;
 
 private:
     void mostraEsempio();
+    bool intera() const;
 
     bool mData = true;
+    bool mEntratoColMouse = false;
 };
 
 } // namespace giacenza

@@ -70,6 +70,23 @@ TEST_P(FinestraRicercaPiena, unClicSceglieQuandoEFinito)
     EXPECT_EQ(mFinestra.result(), QDialog::Accepted);
 }
 
+TEST_P(FinestraRicercaPiena, laFrecciaInGiuPortaDalTestoAllElenco)
+{
+    QTest::keyClick(mTesto, Qt::Key_Down);
+    EXPECT_TRUE(mTesto->hasFocus()) << "there is nothing to go to";
+    cerca(u"beta"_s);
+    EXPECT_TRUE(mLista->isEnabled());
+    EXPECT_EQ(mLista->palette().color(QPalette::Base), QGuiApplication::palette().color(QPalette::Base));
+    mFinestra.grab().save(qEnvironmentVariable("FOTOR") + u"1.png"_s);
+    mTesto->setFocus();
+    QTest::keyClick(mTesto, Qt::Key_Down);
+    ASSERT_TRUE(mLista->hasFocus());
+    mFinestra.grab().save(qEnvironmentVariable("FOTOR") + u"2.png"_s);
+    QTest::keyClick(mLista, Qt::Key_Return);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(mFinestra.IdRecord(), 30);
+}
+
 TEST_P(FinestraRicercaPiena, soloTastiera)
 {
     scegliOpzione(u"optInterna"_s);

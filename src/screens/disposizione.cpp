@@ -1,0 +1,81 @@
+#include "screens/disposizione.h"
+
+#include "screens/aspetto.h"
+#include "screens/misure.h"
+#include "widgets/annuncio.h"
+#include "widgets/areaforma.h"
+#include "widgets/senzaspazi.h"
+
+#include <QBoxLayout>
+#include <QComboBox>
+#include <QEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScreen>
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza {
+
+namespace {
+
+/// What the window system adds around a window, where it cannot tell yet.
+constexpr QSize bordiFinestra{4, 32};
+
+/// The numbers that an operator types, or pastes from elsewhere.
+constexpr const char* numeriDigitati[] = {"txtCodiceCli", "txtLDV", "txtRiferimento", "txtNGiace",
+                                          "txtGiaOld"};
+
+} // namespace
+
+Disposizione::Disposizione(QWidget* schermata) : QObject(schermata), mSchermata(schermata)
+{
+    if (auto* area = schermata->findChild<AreaForma*>())
+        area->setColonne(schermata->findChild<QBoxLayout*>(u"layFrame2"_s));
+    for (const char* nome : numeriDigitati)
+        if (auto* campo = schermata->findChild<QLineEdit*>(QLatin1String(nome)))
+            togliSpaziUscendo(campo);
+    const auto elenchi = schermata->findChildren<QComboBox*>();
+    for (const QComboBox* elenco : elenchi)
+        if (elenco->isEditable())
+            elenco->lineEdit()->setAccessibleName(elenco->accessibleName());
+    if (auto* insegna = schermata->findChild<QLabel*>(u"lblGiaInGiacenza"_s))
+        annunciaComparsa(insegna);
+    misuraCampi(schermata);
+    schermata->installEventFilter(this);
+}
+
+bool Disposizione::eventFilter(QObject*, QEvent* evento)
+{
+    switch (evento->type()) {
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+        misuraCampi(mSchermata);
+        break;
+    case QEvent::PaletteChange: {
+        const QString aspetto = aspettoSchermata(mSchermata->palette());
+        if (mSchermata->styleSheet() != aspetto)
+            mSchermata->setStyleSheet(aspetto);
+        break;
+    }
+    case QEvent::Show:
+        if (!evento->spontaneous() && !mMostrata) {
+            mMostrata = true;
+            misuraCampi(mSchermata);
+            adattaFinestra();
+        }
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+void Disposizione::adattaFinestra()
+{
+    const QScreen* schermo = mSchermata->screen();
+    const QSize massima = schermo->availableSize() - bordiFinestra;
+    mSchermata->resize(mSchermata->size().expandedTo(mSchermata->sizeHint()).boundedTo(massima));
+}
+
+} // namespace giacenza
