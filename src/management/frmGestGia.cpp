@@ -36,7 +36,7 @@ frmGestGia::frmGestGia()
 
 frmGestGia::~frmGestGia()
 {
-    convalida().sospendi();
+    congeda();
 }
 
 void frmGestGia::collega()

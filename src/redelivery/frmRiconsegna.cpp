@@ -27,7 +27,7 @@ frmRiconsegna::frmRiconsegna()
 
 frmRiconsegna::~frmRiconsegna()
 {
-    convalida().sospendi();
+    congeda();
 }
 
 void frmRiconsegna::collega()

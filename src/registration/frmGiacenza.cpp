@@ -30,7 +30,7 @@ frmGiacenza::frmGiacenza()
 
 frmGiacenza::~frmGiacenza()
 {
-    convalida().sospendi();
+    congeda();
 }
 
 void frmGiacenza::collega()

@@ -68,8 +68,7 @@ std::function<void()> Schermata::gestore(std::function<void()> azione)
                 messaggio(u"Operazione non riuscita.\n\n"_s + testoErrore(), Stile::critico,
                           titoloGestione());
             }
-        } catch (const Abbandono&) {
-            // The screen is gone: there is nobody to tell.
+        } catch (const Abbandono&) { // The screen is gone: there is nobody to tell.
         }
     };
 }
@@ -108,9 +107,8 @@ void Schermata::closeEvent(QCloseEvent* evento)
     if (mUscita)
         return;
     mUscita = true;
-    mConvalida->sospendi();
+    congeda();
     mArchivio->rilascia();
-    hide();
     deleteLater();
     Q_EMIT Uscita();
 }

@@ -7,8 +7,6 @@
 
 #include <QWidget>
 
-class QLabel;
-
 namespace giacenza {
 
 /// A working screen as a window: its connection, its status line, staying on top, leaving. What it shows and
@@ -27,7 +25,7 @@ public:
     /// Closes and releases it; the next use opens it again.
     void rilasciaConnessione() { mArchivio->rilascia(); }
 
-    /// What the screen says where no message box is due; empty clears it. dettaglio: for whoever rests on it.
+    /// What the screen says where no box is due; empty clears it. dettaglio: for whoever rests on it.
     void stato(const QString& testo, const QString& dettaglio = {});
     /// The same for a failure, in Italian; the driver's words are the detail. cheCosa: what it means, goes
     /// before.
@@ -65,6 +63,9 @@ Q_SIGNALS:
 
 protected:
     explicit Schermata(const QString& nome);
+
+    /// Takes the screen off the display while its parts are there: the focus that goes with it reaches them.
+    void congeda() { mConvalida->sospendi(), hide(); }
 
     /// The screen became the active window.
     virtual void attivata();

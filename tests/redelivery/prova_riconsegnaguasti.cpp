@@ -41,7 +41,7 @@ TEST_P(RiconsegnaGuasti, IlConteggioFallitoNonEmetteELasciaIlBottone)
     cerca(u"950"_s);
     fallisce(u"SELECT letve00f.*, giace00f.*"_s);
     EXPECT_THAT(emetti(), IsEmpty());
-    EXPECT_EQ(stato()->text(), u"La giacenza non si controlla. L'archivio ha rifiutato l'operazione."_s);
+    EXPECT_EQ(stato()->text(), u"La giacenza non si controlla. La connessione con l'archivio è caduta."_s);
     EXPECT_TRUE(bottoneAcceso());
     impostaTraccia({});
     EXPECT_EQ(emetti(), consegnaIntera(u"950"_s)) << "and then it works";
