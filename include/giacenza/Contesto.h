@@ -4,6 +4,7 @@
 
 #include <QDate>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -36,6 +37,7 @@ struct Contesto
     bool controlloGiacenza = false; ///< the operator had the held shipment checked before the issue
     int riconsegne = 0;             ///< earlier re-deliveries that the check found, and the operator accepted
     QDate oggi;                     ///< the component's today
+    QStringList piede{};            ///< lines for the foot of a printed document, none empty, at most three
     QWidget* finestra = nullptr;    ///< over which the part's windows open; may go while one of them is open
 
     /// Tells the operator something in the component's own box, over finestra, and returns when he has read

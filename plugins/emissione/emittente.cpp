@@ -48,7 +48,7 @@ void EmittenteDeposito::controllaCartella() const
 /// Returns the file as the operator reads it.
 QString EmittenteDeposito::stampaLdv(Connessione& connessione, const LdvEmessa& emessa) const
 {
-    const auto byte = comune::pdf(*componiLdv(connessione, emessa, mPercorsoLogo), nullptr);
+    const auto byte = comune::pdf(*componiLdv(connessione, emessa, mPercorsoLogo, mContesto.piede), nullptr);
     const QString file = comune::archivia(
         mCartellaStampa, u"LDV_%1_%2_%3"_s.arg(emessa.filiale, emessa.numero, QString::number(emessa.anno)),
         byte.value());

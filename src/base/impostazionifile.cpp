@@ -26,6 +26,18 @@ QString LeggiIni(const QString& sezione, const QString& chiave)
     return lettore()->leggi(impostazioni().percorsoFileIni, sezione, chiave);
 }
 
+QStringList LeggiPiede()
+{
+    constexpr int righePiede = 3;
+    QStringList righe;
+    for (int i = 1; i <= righePiede; ++i) {
+        const QString riga = LeggiIni(u"Lettere"_s, u"Piede%1"_s.arg(i));
+        if (!riga.trimmed().isEmpty())
+            righe << riga;
+    }
+    return righe;
+}
+
 ParteDi<ModuloStampa> CaricaModuloStampa()
 {
     try {

@@ -1,10 +1,8 @@
 #include "base/lettoreini.h"
 
+#include "base/filelimitato.h"
 #include "base/percorsi.h"
 #include "base/testofile.h"
-
-#include <QFile>
-#include <QFileInfo>
 
 // The text reaches the library as UTF-8 already: it has nothing to convert.
 #define SI_NO_CONVERSION
@@ -12,21 +10,10 @@
 
 namespace giacenza {
 
-namespace {
-
-QByteArray byteDelFile(const QString& percorso)
-{
-    QFile file(percorso);
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly))
-        return {};
-    return file.readAll();
-}
-
-} // namespace
-
 QString LettoreIniProprio::leggi(const QString& percorsoFile, const QString& sezione, const QString& chiave)
 {
-    const QByteArray testo = decodifica(byteDelFile(percorsoNativo(percorsoFile))).testo.toUtf8();
+    const auto byte = leggiFileLimitato(percorsoNativo(percorsoFile), limiteImpostazioni);
+    const QByteArray testo = decodifica(byte.value_or(QByteArray())).testo.toUtf8();
     CSimpleIniA voci(true, true);
     if (voci.LoadData(testo.constData(), static_cast<size_t>(testo.size())) < 0)
         return {};

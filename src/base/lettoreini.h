@@ -6,7 +6,8 @@ namespace giacenza {
 
 /// The component's own settings reader: it reads the file anew at each call. The file is UTF-8, with or
 /// without byte-order mark, or Windows-1252; a value keeps every character but the blanks around it; of a key
-/// that stands twice the first counts. A file that cannot be read is as an absent one.
+/// that stands twice the first counts. A file that is there and cannot be read, is none or is larger than
+/// limiteImpostazioni raises an Errore that says so: it must not pass for one without the key.
 class LettoreIniProprio : public LettoreIni
 {
 public:

@@ -1,31 +1,17 @@
 #include "base/listbox.h"
 
 #include "base/errorenumerato.h"
+#include "base/filelimitato.h"
 #include "base/percorsi.h"
 #include "base/testofile.h"
 
 #include <QFile>
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
 namespace {
-
-// A folder or a device under that name is a failure, not a list without lines.
-QByteArray leggi(QFile& file)
-{
-    if (!QFileInfo(file).isFile())
-        throw Errore(u"%1 non è un file"_s.arg(file.fileName()));
-    if (!file.open(QIODevice::ReadOnly))
-        throw Errore(file.errorString());
-    const QByteArray byte = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        throw Errore(file.errorString());
-    file.close();
-    return byte;
-}
 
 QStringList righe(const QString& testo)
 {
@@ -75,30 +61,32 @@ void rifiutaSeNonEUnaVoce(const QString& riga)
 
 std::optional<QStringList> leggiElenco(const QString& percorso)
 {
-    QFile file(percorsoNativo(percorso));
-    if (!file.exists())
+    const auto byte = leggiFileLimitato(percorsoNativo(percorso), limiteLista);
+    if (!byte)
         return {};
-    return righe(decodifica(leggi(file)).testo);
+    return righe(decodifica(*byte).testo);
 }
 
 void aggiungiAllElenco(const QString& percorso, const QString& riga)
 {
     rifiutaSeNonEUnaVoce(riga);
     QFile file(percorsoNativo(percorso));
-    if (!file.exists()) {
+    const auto byte = leggiFileLimitato(file.fileName(), limiteLista);
+    if (!byte) {
         scriviInCoda(file, (u"VEDI DDT\n"_s + riga + u'\n').toUtf8());
         return;
     }
-    const QByteArray byte = leggi(file);
-    const TestoLetto letto = decodifica(byte);
+    const TestoLetto letto = decodifica(*byte);
     if (righe(letto.testo).contains(riga))
         throw ErroreNumerato(erroreNaturaMerce, u"Il valore è già nella lista"_s);
-    const QString fine = fineRiga(byte);
-    const bool ultimaAperta = !byte.isEmpty() && !byte.endsWith('\n');
+    const QString fine = fineRiga(*byte);
+    const bool ultimaAperta = !byte->isEmpty() && !byte->endsWith('\n');
     const std::optional<QByteArray> nuova =
         codifica((ultimaAperta ? fine : QString()) + riga + fine, letto.codifica);
     if (!nuova)
         throw Errore(u"La codifica della lista non ha tutti i caratteri del valore"_s);
+    if (byte->size() + nuova->size() > limiteLista)
+        throw Errore(u"La lista è piena"_s);
     scriviInCoda(file, *nuova);
 }
 

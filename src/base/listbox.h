@@ -10,7 +10,8 @@ namespace giacenza {
 inline constexpr int erroreNaturaMerce = 512;
 
 /// The lines of a goods-type file in file order, empty ones included; nothing when there is no file. Lines
-/// end in LF or CR LF, the text is UTF-8 or Windows-1252. percorso: with either separator. Throws Errore.
+/// end in LF or CR LF, the text is UTF-8 or Windows-1252. percorso: with either separator. Throws
+/// Errore, also for what is no plain file and for more than limiteLista.
 std::optional<QStringList> leggiElenco(const QString& percorso);
 
 /// Adds a line to a goods-type file, with the line end and the encoding that the file has; makes the file,

@@ -4,11 +4,17 @@
 
 #include <giacenza/ModuloStampa.h>
 
+#include <QStringList>
+
 namespace giacenza {
 
 /// One value of the settings file, read anew at each call, empty when absent. Throws what a reader from
-/// outside throws; the component's own throws nothing.
+/// outside throws, and Errore for a settings file that is there and is refused.
 QString LeggiIni(const QString& sezione, const QString& chiave);
+
+/// The lines at the foot of every letter, at most three (section "Lettere", keys "Piede1" to "Piede3"): those
+/// that are not empty, in their order. Throws what LeggiIni() throws.
+QStringList LeggiPiede();
 
 /// The print module that the settings file names (section "DLLStampe", key "IdentificativoDll"); an empty
 /// reference with the reason when it cannot be made.

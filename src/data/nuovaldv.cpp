@@ -30,11 +30,13 @@ Luogo destinatario(const RecordLdv& originale)
             originale.valore(u"lelocd"_s), originale.valore(u"leprod"_s)};
 }
 
-QString suUnaRiga(const Luogo& luogo)
+/// Name, address and town, each without line ends, one a line.
+QString inRighe(const Luogo& luogo)
 {
-    return inUnaRiga({luogo.nome.value_or(QString()), luogo.indirizzo.value_or(QString()),
-                      luogo.cap.value_or(QString()), luogo.localita.value_or(QString())},
-                     luogo.provincia.value_or(QString()));
+    const auto testo = [](const Valore& valore) { return valore.value_or(QString()).simplified(); };
+    return QStringList{testo(luogo.nome), testo(luogo.indirizzo),
+                       inUnaRiga({testo(luogo.cap), testo(luogo.localita)}, testo(luogo.provincia))}
+        .join(u'\n');
 }
 
 Luogo mittente(Connessione& connessione, const RecordLdv& originale)
@@ -197,7 +199,7 @@ LdvEmessa inUnaTransazione(Connessione& connessione, const RecordLdv& originale,
     const int anno = contesto.oggi.year();
     const LdvEmessa chiave = {originale.valore(u"lefili"_s).value_or(QString()),
                               prossimoNumero(connessione, anno, colonnaNumero), anno, contesto.oggi,
-                              contesto.resoAMittente ? suUnaRiga(destinatario(originale)) : QString()};
+                              contesto.resoAMittente ? inRighe(destinatario(originale)) : QString()};
     aggiungi(connessione, originale, contesto, chiave);
     conferma(transazione, connessione, chiave);
     return chiave;

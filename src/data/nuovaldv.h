@@ -14,7 +14,8 @@ struct LdvEmessa
     QString numero;
     int anno = 0;
     QDate data;
-    QString mittente; ///< of a return: the recipient who sends the goods back, name and address; else empty
+    QString mittente; ///< of a return: the recipient who sends the goods back: name, address, town, a line
+                      ///< each; else empty
 };
 
 /// Adds the waybill that follows another one: one row, in one transaction of the connection, or nothing.

@@ -112,6 +112,8 @@ void Istruzione::lega(std::span<const Valore> parametri)
     mLunghezze.resize(quanti);
     controlla(SQLFreeStmt(mManiglia, SQL_RESET_PARAMS));
     for (std::size_t i = 0; i < quanti; ++i) {
+        if (parametri[i] && !parametri[i]->isValidUtf16()) // it would be stored as "?"
+            throw ErroreDatabase(u"22021"_s, 0, u"Il testo contiene mezzo carattere."_s, mTesto);
         mValori[i] = parametri[i] ? parametri[i]->toUtf8() : QByteArray();
         if (mValori[i].contains('\0')) // SQLite's driver would store it and give it back cut
             throw ErroreDatabase(u"22021"_s, 0, u"Il testo contiene un carattere nullo."_s, mTesto);

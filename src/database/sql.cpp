@@ -38,6 +38,9 @@ QString testo(const QString& valore)
     if (valore.contains(QChar(u'\0'))) {
         rifiuta(u"carattere nullo"_s, valore);
     }
+    if (!valore.isValidUtf16()) {
+        throw ErroreDatabase(u"22021"_s, 0, u"Il testo contiene mezzo carattere."_s);
+    }
     if (!apiciRaddoppiati(valore)) {
         rifiuta(u"apostrofo non raddoppiato"_s, valore);
     }

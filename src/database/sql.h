@@ -8,7 +8,9 @@ namespace giacenza::sql {
 /// error that the broken statement would have raised is raised instead (ErroreDatabase, SQLSTATE 42000).
 
 /// A text for a place between apostrophes, unchanged. Throws when an apostrophe in it is not doubled, or when
-/// it holds a NUL character.
+/// it holds a NUL character; with SQLSTATE 22021 when it holds half a surrogate pair, which would be stored
+/// as
+/// "?".
 QString testo(const QString& valore);
 
 /// A code or a year for a bare place: digits only, unchanged. Throws otherwise, the empty text included.

@@ -5,6 +5,7 @@
 #include "base/messaggi.h"
 #include "base/orologio.h"
 #include "database/valori.h"
+#include "widgets/limitetesto.h"
 
 #include <QKeyEvent>
 #include <QPointer>
@@ -16,6 +17,7 @@ namespace giacenza {
 frmRifiuto::frmRifiuto(QWidget* parent) : QDialog(parent), mUi(std::make_unique<Ui::frmRifiuto>())
 {
     mUi->setupUi(this);
+    limitaCampi(this);
     connect(mUi->cmdOk, &QPushButton::clicked, this, &QDialog::accept);
     connect(mUi->cmdAnnulla, &QPushButton::clicked, this, &frmRifiuto::annulla);
 }

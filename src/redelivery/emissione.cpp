@@ -2,6 +2,7 @@
 
 #include "base/impostazioni.h"
 #include "base/parti.h"
+#include "base/servizi.h"
 
 #include <QCoreApplication>
 
@@ -60,7 +61,10 @@ QString EmettiRiconsegna(const RecordLdv& ldv, bool stampa, const Contesto& cont
     if (!emittente.parte)
         throw Errore(emittente.motivo);
     try {
-        return consegna(*emittente.parte, ldv, stampa, contesto);
+        Contesto conPiede = contesto;
+        if (stampa)
+            conPiede.piede = LeggiPiede();
+        return consegna(*emittente.parte, ldv, stampa, conPiede);
     } catch (const Errore&) {
         throw;
     } catch (const std::exception& errore) {

@@ -6,6 +6,7 @@
 #include "data/archivio.h"
 #include "search/controlloricerca.h"
 #include "widgets/attesa.h"
+#include "widgets/limitetesto.h"
 #include "widgets/secondoclic.h"
 #include "widgets/tasti.h"
 
@@ -63,6 +64,7 @@ Messaggio messaggioGuasto(const Errore& errore)
 frmRicerca::frmRicerca(QWidget* parent) : QDialog(parent), mUi(std::make_unique<Ui::frmRicerca>())
 {
     mUi->setupUi(this);
+    limitaCampi(this);
     // The captions are quoted whole, so this option's key is not marked in its text.
     mUi->optCodice->setShortcut(QKeySequence(Qt::ALT | Qt::Key_C));
     setClienti_Fornitori(mClientiFornitori);

@@ -8,6 +8,7 @@
 #include "data/archivio.h"
 #include "search/colonnegriglia.h"
 #include "search/modelloricerca.h"
+#include "widgets/limitetesto.h"
 
 #include <QKeyEvent>
 #include <QLocale>
@@ -44,6 +45,7 @@ frmRicercaGia::frmRicercaGia(QWidget* padre)
     : QDialog(padre), mUi(std::make_unique<Ui::frmRicercaGia>()), mModello(new ModelloRicerca(this))
 {
     mUi->setupUi(this);
+    limitaCampi(this);
     mModello->setObjectName(u"adoTariffe"_s);
     mUi->Griglia->setModel(mModello);
     mUi->Griglia->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);

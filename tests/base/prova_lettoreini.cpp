@@ -2,6 +2,10 @@
 #include "base/lettoreini.h"
 #include "base/servizi.h"
 
+#include <giacenza/Errore.h>
+
+#include <sys/stat.h>
+
 using namespace Qt::StringLiterals;
 
 using giacenza::impostazioni;
@@ -100,10 +104,36 @@ TEST_F(LettoreProprio, laBarraRovesciaSeparaLeCartelle)
     EXPECT_EQ(valore(u"DLLStampe", u"IdentificativoDll"), u"Prova"_s);
 }
 
-TEST_F(LettoreProprio, unaCartellaAlPostoDelFileEVuota)
+TEST_F(LettoreProprio, unFileRifiutatoNonPassaPerUnoSenzaVoci)
 {
-    ASSERT_TRUE(QDir().mkpath(impostazioni().percorsoFileIni));
-    EXPECT_EQ(valore(u"DLLStampe", u"IdentificativoDll"), QString());
+    const QString file = impostazioni().percorsoFileIni;
+    const auto motivo = [&](const QString& perche) {
+        return u"Il file \"%1\" non è stato letto: %2."_s.arg(file, perche);
+    };
+    const auto rifiuto = [] {
+        try {
+            return LeggiIni(u"DLLStampe"_s, u"IdentificativoDll"_s);
+        } catch (const giacenza::Errore& errore) {
+            return errore.testo();
+        }
+    };
+    ASSERT_TRUE(QDir().mkpath(file));
+    EXPECT_EQ(rifiuto(), motivo(u"non è un file normale"_s));
+    ASSERT_TRUE(QDir().rmdir(file));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(file).constData(), 0600), 0);
+    EXPECT_EQ(rifiuto(), motivo(u"non è un file normale"_s));
+    EXPECT_EQ(giacenza::CaricaModuloStampa().motivo, motivo(u"non è un file normale"_s));
+    EXPECT_THROW(giacenza::LeggiPiede(), giacenza::Errore);
+    ASSERT_TRUE(QFile::remove(file));
+    scriviIni("[DLLStampe]\nIdentificativoDll=Prova\n;" + QByteArray(1'000'000, 'x'));
+    EXPECT_EQ(rifiuto(), motivo(u"supera 1000000 byte"_s));
+}
+
+TEST_F(LettoreProprio, ilPiedeHaSoloLeRigheScritte)
+{
+    EXPECT_EQ(giacenza::LeggiPiede(), QStringList());
+    scriviIni("[Lettere]\nPiede1=\nPiede2=Due\nPiede3=Tre\nPiede4=Quattro\n");
+    EXPECT_EQ(giacenza::LeggiPiede(), (QStringList{u"Due"_s, u"Tre"_s}));
 }
 
 TEST_F(LettoreProprio, serveDoveNessunoNeRegistraUnAltro)

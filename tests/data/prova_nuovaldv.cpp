@@ -78,7 +78,7 @@ TEST_P(NuovaLdv, IlResoVaAlMittenteSenzaContrassegno)
     contesto.lavoro = u"Reso a Mittente"_s;
     contesto.resoAMittente = true;
     EXPECT_EQ(emettiLdv(mConnessione, LdvDiProva(mConnessione, u"4711"_s), contesto).mittente,
-              u"Utensileria del Lago Corso Italia 44 22100 Como (CO)"_s);
+              u"Utensileria del Lago\nCorso Italia 44\n22100 Como (CO)"_s);
     ASSERT_THAT(nuove(), SizeIs(1));
     const QStringList riga = ripulita(nuove().front());
     EXPECT_EQ(riga.mid(6, 5),

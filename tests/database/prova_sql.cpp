@@ -50,6 +50,20 @@ TEST(SqlTesto, unCarattereNulloNonPassa)
                 testing::HasSubstr("carattere nullo"));
 }
 
+TEST(SqlTesto, mezzoCarattereNonPassa)
+{
+    for (const QString& valore :
+         {u"a"_s + QChar(0xd83d), QChar(0xde00) + u"b"_s, QChar(0xd83d) + u"x"_s + QChar(0xde00)}) {
+        try {
+            sql::testo(valore);
+            ADD_FAILURE() << "accepted";
+        } catch (const ErroreDatabase& errore) {
+            EXPECT_EQ(errore.sqlstate(), u"22021"_s);
+            EXPECT_EQ(errore.testo(), u"Il testo contiene mezzo carattere."_s);
+        }
+    }
+}
+
 TEST(SqlTesto, lErroreMostraSoloLInizio)
 {
     const QString valore = QString(10000, u'x') + u'\'';

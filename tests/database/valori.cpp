@@ -118,6 +118,14 @@ TEST_P(Valori, conUnCarattereNulloSonoRifiutati)
     EXPECT_EQ(mBase.leggi(u"select count(*) from prova"_s), u"0"_s);
 }
 
+TEST_P(Valori, conMezzoCarattereSonoRifiutati)
+{
+    Comando inserisci(mConnessione, u"insert into prova (id, testo) values (?, ?)"_s);
+    const QString testo = u"a"_s + QChar(0xd83d) + u"b"_s;
+    EXPECT_EQ(erroreDi([&] { inserisci.esegui(std::vector<Valore>{u"1"_s, testo}); }).sqlstate(), u"22021"_s);
+    EXPECT_EQ(mBase.leggi(u"select count(*) from prova"_s), u"0"_s);
+}
+
 TEST_P(Valori, nulloEVuotoSonoDiversi)
 {
     mConnessione.esegui(u"insert into prova (id, testo) values (1, null), (2, '')"_s);

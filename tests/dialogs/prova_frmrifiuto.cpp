@@ -9,6 +9,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QApplication>
+#include <QClipboard>
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
@@ -68,6 +70,13 @@ protected:
 };
 
 } // namespace
+
+TEST_F(Rifiuto, unMegabyteIncollatoSiTaglia)
+{
+    QApplication::clipboard()->setText(QString(1'000'000, u'x'));
+    mMotivo->paste();
+    EXPECT_EQ(mMotivo->text(), QString(1000, u'x'));
+}
 
 TEST_F(Rifiuto, siApreConLaDataDiOggi)
 {
@@ -207,7 +216,7 @@ TEST_F(Rifiuto, dopoUnRifiutoSiPuoCorreggereEConfermare)
 
 TEST_F(Rifiuto, testiOstili)
 {
-    const QString lungo(10000, u'x');
+    const QString lungo(1000, u'x');
     for (const QString& motivo : {lungo, u"🍕 città"_s, u"' or '1'='1"_s}) {
         mMotivo->clear();
         mMotivo->insert(motivo);

@@ -6,6 +6,9 @@
 #include "support/stampa.h"
 
 #include <QCoreApplication>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 using namespace giacenza;
 using namespace giacenza::prove;
@@ -42,6 +45,22 @@ TEST_P(AvvisoGuasti, LaStampaCheNonRiesceSiDiceEIlContoResta)
     clicca("cmdRistampa");
     EXPECT_THAT(mMessaggi.prendi().front().testo.toStdString(),
                 testing::StartsWith(inizio + "Manca la voce IdentificativoDll"));
+}
+
+TEST_P(AvvisoGuasti, UnFileDelleImpostazioniRifiutatoSiDiceENonScriveNiente)
+{
+    richiamaAvvisato();
+    const QString prima = tutto(u"39"_s);
+    QTemporaryDir cartella;
+    impostazioni().percorsoFileIni = cartella.filePath(u"tubo.ini"_s);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(impostazioni().percorsoFileIni).constData(), 0600), 0);
+    const QString motivo =
+        u"Il file \"%1\" non è stato letto: non è un file normale."_s.arg(impostazioni().percorsoFileIni);
+    EXPECT_THAT(istruzioni([&] { avvisa(u"motivo"_s); }), IsEmpty());
+    EXPECT_THAT(mMessaggi.prendi(), ElementsAre(Messaggio{u"Operazione non riuscita.\n\n"_s + motivo,
+                                                          Stile::critico, u"Gestione Trasporti"_s}));
+    EXPECT_EQ(tutto(u"39"_s), prima);
+    EXPECT_THAT(mStampe, IsEmpty());
 }
 
 TEST_P(AvvisoGuasti, CollegamentoPersoPrimaDiOgniIstruzione)

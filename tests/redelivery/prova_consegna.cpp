@@ -1,3 +1,4 @@
+#include "base/impostazioni.h"
 #include "data/riconsegne.h"
 #include "dialogs/frmPorto.h"
 #include "redelivery/riconsegnadiprova.h"
@@ -8,6 +9,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QScopeGuard>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
@@ -42,6 +44,32 @@ TEST_P(Consegna, CioCheSiLanciaPrimaDiEmettereFermaIlRestoESpegneIlBottone)
     EXPECT_EQ(stato()->text(), u"ignota"_s);
     EXPECT_FALSE(bottoneAcceso());
     EXPECT_EQ(mEmissioni.vivi, 0);
+}
+
+TEST_P(Consegna, IlPiedeDelleImpostazioniVaConIlContesto)
+{
+    const QTemporaryDir cartella;
+    QFile ini(cartella.filePath(u"gest.ini"_s));
+    ASSERT_TRUE(ini.open(QIODevice::WriteOnly));
+    ini.write("[Lettere]\nPiede1=P. IVA 01234567897\nPiede3=R.E.A. TO-123456\n");
+    ini.close();
+    impostazioni().percorsoFileIni = ini.fileName();
+    cerca(u"950"_s);
+    emetti();
+    ASSERT_EQ(emesse(), 1);
+    EXPECT_EQ(mEmissioni.contesti.back().piede,
+              (QStringList{u"P. IVA 01234567897"_s, u"R.E.A. TO-123456"_s}));
+}
+
+TEST_P(Consegna, UnFileDelleImpostazioniRifiutatoFermaPrimaDiEmettere)
+{
+    const QTemporaryDir cartella;
+    impostazioni().percorsoFileIni = cartella.path();
+    cerca(u"950"_s);
+    emetti();
+    EXPECT_EQ(emesse(), 0);
+    EXPECT_EQ(stato()->text(),
+              u"Il file \"%1\" non è stato letto: non è un file normale."_s.arg(cartella.path()));
 }
 
 TEST_P(Consegna, AncheCioCheNonEUnaEccezioneSiFerma)

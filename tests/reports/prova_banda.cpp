@@ -115,9 +115,9 @@ TEST_F(BandaComposta, ilVuotoElasticoSiChiudeIlNascostoNo)
 TEST_F(BandaComposta, ilTitoloSparisceColSuoCampo)
 {
     Controllo titolo = testoFisso(u"lbl"_s, {0, 0, 50, 5}, u"Titolo"_s);
-    titolo.con = u"txt"_s;
+    titolo.con = {u"txt"_s};
     Controllo filo = cornice(u"lin"_s, {0, 5, 50, 0}, nero);
-    filo.con = u"txt"_s;
+    filo.con = {u"txt"_s};
     mSezione.controlli = {titolo, filo, testoFisso(u"txt"_s, {0, 5, 50, 5}, {}, Altezza::elastica),
                           testoFisso(u"sotto"_s, {0, 12, 50, 5}, u"sotto"_s)};
     EXPECT_EQ(componi().primitive.size(), 1U);
@@ -127,10 +127,46 @@ TEST_F(BandaComposta, ilTitoloSparisceColSuoCampo)
     EXPECT_EQ(componi().primitive.size(), 4U);
 }
 
+TEST_F(BandaComposta, ilTitoloDiPiuCampiSparisceConLUltimo)
+{
+    Controllo titolo = testoFisso(u"lbl"_s, {0, 0, 50, 5}, u"Titolo"_s);
+    titolo.con = {u"uno"_s, u"due"_s};
+    mSezione.controlli = {titolo, testoFisso(u"uno"_s, {0, 5, 50, 5}, {}, Altezza::elastica),
+                          testoFisso(u"due"_s, {0, 10, 50, 5}, u"due"_s, Altezza::elastica)};
+    EXPECT_EQ(testi(componi(), u"lbl"_s), QStringList{u"Titolo"_s});
+    mSezione.controlli[2].testo.clear();
+    EXPECT_TRUE(componi().primitive.empty());
+    mSezione.controlli[1].visibile = false;
+    EXPECT_EQ(testi(componi(), u"lbl"_s), QStringList{u"Titolo"_s}) << "a hidden field leaves its label";
+}
+
+TEST_F(BandaComposta, entroUnLimiteSiRiduceEPoiSiTaglia)
+{
+    mSezione = {u"Finestra"_s,
+                10,
+                {testoFisso(u"a"_s, {0, 0, 50, 5}, lungo, Altezza::elastica),
+                 testoFisso(u"b"_s, {0, 5, 50, 5}, u"b"_s, Altezza::elastica)}};
+    for (Controllo& controllo : mSezione.controlli)
+        controllo.riducibile = true;
+    const auto entro = [&](double altezza) {
+        const TestiSezione testi =
+            testiDi(mSezione, [](const Controllo& controllo) { return controllo.testo; });
+        return componiEntro(mSezione, testi, {}, mMisuratore, {altezza, 0.6});
+    };
+    EXPECT_EQ(righe(entro(100), u"a"_s)[0].carattere.punti, 10);
+    const Banda ridotta = entro(13);
+    EXPECT_LE(ridotta.altezza, 13);
+    EXPECT_LT(righe(ridotta, u"a"_s)[0].carattere.punti, 10);
+    EXPECT_EQ(testi(ridotta, u"a"_s).join(u' '), lungo);
+    const Banda tagliata = entro(10);
+    EXPECT_EQ(tagliata.altezza, 10);
+    EXPECT_TRUE(testi(tagliata, u"a"_s).back().endsWith(u"…"_s));
+}
+
 TEST_F(BandaComposta, ilTitoloRestaConLaPrimaRiga)
 {
     Controllo titolo = testoFisso(u"lbl"_s, {0, 0, 50, 5}, u"Titolo"_s);
-    titolo.con = u"txt"_s;
+    titolo.con = {u"txt"_s};
     mSezione.controlli = {titolo, testoFisso(u"txt"_s, {0, 10, 50, 5}, lungo, Altezza::cresce)};
     const Banda banda = componi();
     const double fineRiga = righe(banda, u"txt"_s)[0].area.bottom();

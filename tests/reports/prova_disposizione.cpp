@@ -77,6 +77,16 @@ TEST(Disposizione, laCorniceSegueIlContenuto)
     EXPECT_EQ(aree[3].top(), 39);
 }
 
+TEST(Disposizione, laCorniceSiChiudeSulleRigheSparite)
+{
+    const std::vector<Controllo> controlli = {cornice(u"cor"_s, {0, 10, 50, 22}, nero), riquadro(12, 5),
+                                              riquadro(17, 5), riquadro(22, 5), riquadro(40, 5)};
+    const std::vector<QRectF> aree = disponi(controlli, std::vector<double>{22, 0, 0, 5, 5});
+    EXPECT_EQ(aree[0], QRectF(0, 10, 50, 12));
+    EXPECT_EQ(aree[3].top(), 12);
+    EXPECT_EQ(aree[4].top(), 30);
+}
+
 TEST(Disposizione, lOrdineDeiControlliNonConta)
 {
     EXPECT_THAT(cime({riquadro(30, 5), riquadro(7, 5), riquadro(0, 5)}, {5, 8, 9}), ElementsAre(37, 11, 0));

@@ -1,5 +1,7 @@
 #include "search/finestraricerca.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QGroupBox>
 #include <QPushButton>
 #include <QWindow>
@@ -14,6 +16,13 @@ namespace {
 const auto nessuna = u"DRIVER={Un driver che non esiste};"_s;
 
 } // namespace
+
+TEST_F(FinestraRicerca, unMegabyteIncollatoSiTaglia)
+{
+    QApplication::clipboard()->setText(QString(1'000'000, u'x'));
+    mTesto->paste();
+    EXPECT_EQ(mTesto->text(), QString(1000, u'x'));
+}
 
 TEST_F(FinestraRicerca, leDidascalieSeguonoIlTipo)
 {

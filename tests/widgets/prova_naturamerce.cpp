@@ -2,6 +2,8 @@
 
 #include <QSignalSpy>
 
+#include <sys/stat.h>
+
 using giacenza::AggiungiNaturaMerce;
 using giacenza::CaricaNaturaMerce;
 using giacenza::impostazioni;
@@ -102,10 +104,10 @@ TEST_F(NaturaMerce, fileVuoto)
     EXPECT_EQ(leggi(lista), "COLLI\n");
 }
 
-TEST_F(NaturaMerce, dieciMegabyte)
+TEST_F(NaturaMerce, unMegabyteSiENonDiPiu)
 {
     QByteArray molte;
-    for (int i = 0; molte.size() < 10'000'000; ++i)
+    for (int i = 0; molte.size() < 999'960; ++i)
         molte += "MERCE NUMERO " + QByteArray::number(i) + "\n";
     scrivi(lista, molte);
     CaricaNaturaMerce(&mElenco);
@@ -113,6 +115,26 @@ TEST_F(NaturaMerce, dieciMegabyte)
     aggiungi(u"colli"_s);
     EXPECT_EQ(leggi(lista), molte + "COLLI\n");
     nessunMessaggio();
+
+    aggiungi(u"una merce dal nome troppo lungo per la lista"_s);
+    aggiuntaRifiutata();
+    EXPECT_EQ(leggi(lista), molte + "COLLI\n");
+
+    molte.resize(1'000'001, 'X');
+    scrivi(lista, molte);
+    mElenco.clear();
+    CaricaNaturaMerce(&mElenco);
+    caricamentoRifiutato();
+    EXPECT_EQ(mElenco.count(), 0);
+}
+
+TEST_F(NaturaMerce, unaCondutturaAlPostoDellaListaNonSiAspetta)
+{
+    ASSERT_EQ(::mkfifo(QFile::encodeName(percorso(lista)).constData(), 0600), 0);
+    CaricaNaturaMerce(&mElenco);
+    caricamentoRifiutato();
+    aggiungi(u"colli"_s);
+    aggiuntaRifiutata();
 }
 
 TEST_F(NaturaMerce, unaCartellaAlPostoDellaLista)

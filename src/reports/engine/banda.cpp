@@ -115,20 +115,27 @@ void aggiungi(Banda& banda, const Controllo& controllo, const Contenuto& contenu
     }
 }
 
-/// The place of the field that a control depends on; the number of controls when it depends on none.
-std::size_t campoDi(const Controllo& controllo, const Sezione& sezione)
+/// The place of the first field with text that a control depends on, else of the first one; the number of
+/// controls when it depends on none. A field that was hidden counts as one with text: nothing moves for it.
+std::size_t campoDi(const Controllo& controllo, const Sezione& sezione,
+                    const std::vector<Contenuto>& contenuti)
 {
-    if (controllo.con.isEmpty())
-        return sezione.controlli.size();
-    const auto dove = std::ranges::find(sezione.controlli, controllo.con, &Controllo::nome);
-    return static_cast<std::size_t>(dove - sezione.controlli.begin());
+    std::size_t primo = sezione.controlli.size();
+    for (const QString& nome : controllo.con) {
+        const auto dove = std::ranges::find(sezione.controlli, nome, &Controllo::nome);
+        const auto campo = static_cast<std::size_t>(dove - sezione.controlli.begin());
+        if (campo < contenuti.size() && (!contenuti[campo].mostrato || !contenuti[campo].righe.empty()))
+            return campo;
+        primo = std::min(primo, campo);
+    }
+    return primo;
 }
 
-/// Takes away what has no sense without a field that turned out empty.
+/// Takes away what has no sense without fields that turned out empty.
 void togliSoli(const Sezione& sezione, std::vector<Contenuto>& contenuti)
 {
     for (std::size_t i = 0; i < contenuti.size(); ++i) {
-        const std::size_t campo = campoDi(sezione.controlli[i], sezione);
+        const std::size_t campo = campoDi(sezione.controlli[i], sezione, contenuti);
         if (campo < contenuti.size() && contenuti[campo].mostrato && contenuti[campo].righe.empty()) {
             contenuti[i].altezza = 0;
             contenuti[i].mostrato = false;
@@ -145,7 +152,7 @@ std::vector<Unito> unitiDi(const Banda& banda, const Sezione& sezione,
     std::vector<Unito> uniti;
     for (std::size_t i = 0; i < aree.size(); ++i) {
         const Controllo& controllo = sezione.controlli[i];
-        const std::size_t campo = campoDi(controllo, sezione);
+        const std::size_t campo = campoDi(controllo, sezione, contenuti);
         if (campo < aree.size() && contenuti[i].mostrato) {
             const double riga = misuratore.altezzaRiga(contenuti[campo].carattere);
             uniti.push_back({aree[i].top(), aree[campo].top() + riga});
@@ -200,6 +207,25 @@ Banda componiBanda(const Sezione& sezione, const TestiSezione& testi, const QIma
     banda.uniti = unitiDi(banda, sezione, contenuti, aree, misuratore);
     banda.altezza = sezione.altezza + fondo - primaFondo;
     return banda;
+}
+
+Banda componiEntro(Sezione sezione, const TestiSezione& testi, const QImage& logo, Misuratore& misuratore,
+                   const Limite& limite)
+{
+    constexpr double passo = 0.05;
+    double riduzione = 1;
+    Banda banda = componiBanda(sezione, testi, logo, misuratore);
+    while (banda.altezza > limite.altezza && riduzione - passo > limite.riduzione - passo / 2) {
+        riduzione -= passo;
+        banda = componiBanda(sezione, testi, logo, misuratore, riduzione);
+    }
+    if (banda.altezza <= limite.altezza)
+        return banda;
+    for (Controllo& controllo : sezione.controlli) {
+        if (conRighe(controllo))
+            controllo.altezza = Altezza::fissa;
+    }
+    return componiBanda(sezione, testi, logo, misuratore, riduzione);
 }
 
 } // namespace giacenza::report

@@ -31,4 +31,16 @@ TestiSezione testiDi(const Sezione& sezione, const std::function<QString(const C
 Banda componiBanda(const Sezione& sezione, const TestiSezione& testi, const QImage& logo,
                    Misuratore& misuratore, double riduzione = 1);
 
+/// How high a section may become, in mm, and how small its reducible texts may be set for that.
+struct Limite
+{
+    double altezza = 0;
+    double riduzione = 1;
+};
+
+/// The same for a section that must not be higher than a limit: its reducible texts are set smaller step by
+/// step, and when even the smallest size is too high, every text is cut to its field.
+Banda componiEntro(Sezione sezione, const TestiSezione& testi, const QImage& logo, Misuratore& misuratore,
+                   const Limite& limite);
+
 } // namespace giacenza::report

@@ -1,5 +1,7 @@
 #include "reports/engine/composizione.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace giacenza::report {
@@ -32,8 +34,33 @@ std::optional<Primitiva> entro(const Primitiva& primitiva, double da, double a)
 Composizione::Composizione(Definizione definizione, const QString& titolo, const QImage& logo, QDate oggi)
     : mDefinizione(std::move(definizione)), mTitolo(titolo), mLogo(logo), mOggi(oggi)
 {
+    constexpr double riduzioneIntestazione = 0.75;
     const auto testi = testiDi(mDefinizione.intestazione, [](const Controllo& c) { return c.testo; });
-    mIntestazione = componiBanda(mDefinizione.intestazione, testi, mLogo, mMisuratore);
+    if (mDefinizione.inizioDettaglio > 0) {
+        mIntestazione =
+            componiEntro(mDefinizione.intestazione, testi, mLogo, mMisuratore,
+                         {mDefinizione.inizioDettaglio - mDefinizione.margineAlto, riduzioneIntestazione});
+    } else {
+        mIntestazione = componiBanda(mDefinizione.intestazione, testi, mLogo, mMisuratore);
+    }
+}
+
+Banda Composizione::pie(std::size_t pagina, std::size_t pagine)
+{
+    const TestiSezione testi = testiDi(mDefinizione.pie, [&](const Controllo& controllo) {
+        return QString(controllo.testo)
+            .replace(u"{n}"_s, QString::number(pagina))
+            .replace(u"{m}"_s, QString::number(pagine))
+            .replace(u"{t}"_s, mTitolo);
+    });
+    constexpr double riduzionePie = 0.8;
+    return componiEntro(mDefinizione.pie, testi, mLogo, mMisuratore,
+                        {mDefinizione.pie.altezza, riduzionePie});
+}
+
+double Composizione::inizioCorpo() const
+{
+    return std::max(mDefinizione.margineAlto + mIntestazione.altezza, mDefinizione.inizioDettaglio);
 }
 
 double Composizione::inizioPie() const
@@ -43,12 +70,13 @@ double Composizione::inizioPie() const
 
 void Composizione::aggiungi(const RigaReport& riga, Connessione& connessione)
 {
-    const TestiSezione testi = testiDi(mDefinizione.dettaglio, [&](const Controllo& controllo) {
+    const auto testo = [&](const Controllo& controllo) {
         if (controllo.genere == Genere::etichetta)
             return controllo.testo;
         const Contesto contesto{riga.valore(controllo.colonna), riga, connessione, mOggi};
         return controllo.formato ? controllo.formato(contesto) : contesto.valore.value_or(QString());
-    });
+    };
+    const TestiSezione testi = testiDi(mDefinizione.dettaglio, testo);
     const auto banda = [&](double riduzione) {
         return componiBanda(mDefinizione.dettaglio, testi, mLogo, mMisuratore, riduzione);
     };
@@ -61,10 +89,18 @@ void Composizione::aggiungi(const RigaReport& riga, Connessione& connessione)
             naturale = std::move(ridotta);
     }
     mBande.push_back(std::move(naturale));
+    constexpr double riduzioneFinestra = 0.5;
+    mFinestre.push_back(
+        componiEntro(mDefinizione.finestra, testiDi(mDefinizione.finestra, testo), mLogo, mMisuratore,
+                     {mDefinizione.fineFinestra - mDefinizione.inizioFinestra, riduzioneFinestra}));
 }
 
 void Composizione::aggiungiPezzo(PaginaReport& pagina, const Pezzo& pezzo) const
 {
+    if (pezzo.da <= 0) {
+        for (const Primitiva& primitiva : mFinestre[pezzo.blocco].primitive)
+            pagina.push_back(spostata(primitiva, mDefinizione.inizioFinestra));
+    }
     for (const Primitiva& primitiva : mBande[pezzo.blocco].primitive) {
         if (const auto parte = entro(primitiva, pezzo.da, pezzo.a))
             pagina.push_back(spostata(*parte, inizioCorpo() + pezzo.y - pezzo.da));
@@ -87,13 +123,7 @@ std::vector<PaginaReport> Composizione::pagine()
             pagina.push_back(spostata(primitiva, mDefinizione.margineAlto));
         for (const Pezzo& pezzo : divise[n])
             aggiungiPezzo(pagina, pezzo);
-        const TestiSezione testi = testiDi(mDefinizione.pie, [&](const Controllo& controllo) {
-            return QString(controllo.testo)
-                .replace(u"{n}"_s, QString::number(n + 1))
-                .replace(u"{m}"_s, QString::number(divise.size()))
-                .replace(u"{t}"_s, mTitolo);
-        });
-        for (const Primitiva& primitiva : componiBanda(mDefinizione.pie, testi, mLogo, mMisuratore).primitive)
+        for (const Primitiva& primitiva : pie(n + 1, divise.size()).primitive)
             pagina.push_back(spostata(primitiva, inizioPie()));
     }
     return pagine;

@@ -21,8 +21,9 @@ public:
     std::vector<PaginaReport> pagine();
 
 private:
-    double inizioCorpo() const { return mDefinizione.margineAlto + mIntestazione.altezza; }
+    double inizioCorpo() const;
     double inizioPie() const;
+    Banda pie(std::size_t pagina, std::size_t pagine);
     void aggiungiPezzo(PaginaReport& pagina, const Pezzo& pezzo) const;
 
     Definizione mDefinizione;
@@ -31,7 +32,8 @@ private:
     QDate mOggi;
     Misuratore mMisuratore;
     Banda mIntestazione;
-    std::vector<Banda> mBande;
+    std::vector<Banda> mBande;    ///< one for each row
+    std::vector<Banda> mFinestre; ///< one for each row
 };
 
 } // namespace giacenza::report

@@ -20,7 +20,7 @@ Controllo& Sezione::controllo(const QString& nomeControllo)
 
 Sezione& Definizione::sezione(const QString& nomeSezione)
 {
-    for (Sezione* candidata : {&intestazione, &dettaglio, &pie}) {
+    for (Sezione* candidata : {&intestazione, &dettaglio, &pie, &finestra}) {
         if (candidata->nome.compare(nomeSezione, Qt::CaseInsensitive) == 0)
             return *candidata;
     }

@@ -4,6 +4,7 @@
 #include <QPageSize>
 #include <QRectF>
 #include <QString>
+#include <QStringList>
 
 #include <functional>
 #include <vector>
@@ -70,9 +71,10 @@ struct Controllo
     QColor fondo;               ///< of a frame, invalid: no filling
     Formato formato;            ///< none: the value's text, empty for null
 
-    /// The field without which the control has no sense, in the same section: where that is empty, this one
-    /// is neither shown nor takes room; else no page break comes between it and the field's first line.
-    QString con;
+    /// The fields without which the control has no sense, in the same section: where all are empty, this one
+    /// is neither shown nor takes room; else no page break comes between it and the first line of the first
+    /// of them that is not.
+    QStringList con;
 
     /// The text may be set smaller where this keeps a row on one page.
     bool riducibile = false;
@@ -95,7 +97,8 @@ struct Sezione
     Controllo& controllo(const QString& nomeControllo);
 };
 
-/// Header and footer stand on every page, the detail once for each row between them.
+/// Header and footer stand on every page, the detail once for each row between them. The footer keeps its
+/// height: what does not fit is set smaller, and cut if even that is too high.
 struct Definizione
 {
     QString nome;
@@ -105,6 +108,17 @@ struct Definizione
     Sezione intestazione;
     Sezione dettaglio;
     Sezione pie;
+
+    /// Where the detail starts at the earliest, from the paper's top; a header that would reach beyond is set
+    /// smaller, and cut if even that is too high. 0: right below the header, whose height is free.
+    double inizioDettaglio = 0;
+
+    /// What a row shows at one place of its first page, whatever its other texts do: the address behind an
+    /// envelope's window. Set smaller, and cut if even that is too high, until it fits between the two
+    /// heights, from the paper's top.
+    Sezione finestra;
+    double inizioFinestra = 0;
+    double fineFinestra = 0;
 
     /// By name, without case; throws Errore when there is none.
     Sezione& sezione(const QString& nomeSezione);

@@ -71,12 +71,15 @@ private:
     {
         const QRectF& area = mControlli[i].area;
         double fondo = nessuno;
+        double prima = nessuno;
         for (std::size_t j = 0; j < mControlli.size(); ++j) {
             const QRectF& altra = mControlli[j].area;
-            if (j != i && altra.bottom() < area.bottom() && area.contains(altra))
-                fondo = std::max(fondo, mosso(j));
+            if (j != i && altra.bottom() < area.bottom() && area.contains(altra)) {
+                fondo = std::max(fondo, mAree[j].bottom());
+                prima = std::max(prima, altra.bottom());
+            }
         }
-        return area.height() + (fondo == nessuno ? 0 : fondo - giu);
+        return area.height() + (fondo == nessuno ? 0 : fondo - prima - giu);
     }
 
     std::span<const Controllo> mControlli;

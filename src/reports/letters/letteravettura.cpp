@@ -27,7 +27,7 @@ using blocchi::Posto;
 /// The blocks of the letters number a held shipment and its waybill; here both are the waybill's own.
 void numeraConLdv(Sezione& sezione)
 {
-    for (const char16_t* nome : {u"txtNumero", u"barLDV", u"txtBarLDV", u"txtLDV"})
+    for (const char16_t* nome : {u"txtNumero", u"txtLDV"})
         sezione.controllo(QString::fromUtf16(nome)).colonna = u"lenrlv"_s;
     sezione.controllo(u"txtNumero"_s).formato = [](const Contesto& contesto) {
         return u"n. %1 / %2"_s.arg(contesto.valore.value_or(QString()), contesto.riga.testo(u"leanlv"_s));
@@ -35,28 +35,33 @@ void numeraConLdv(Sezione& sezione)
     sezione.controllo(u"lblRifMitt"_s).testo = u"Rif. mittente"_s;
 }
 
+Controllo localita()
+{
+    Controllo campo = report::campo(u"txtLocalitaMitt"_s, {}, u"Localita"_s);
+    campo.formato = formati::localita(u"CLCAP"_s, u"Localita"_s, u"Provincia"_s);
+    return campo;
+}
+
 /// A return is sent by who would not have the goods; the customer stays the one who pays.
 double mittente(Sezione& sezione, double y, bool reso)
 {
     y = blocchi::capitolo(sezione, y, u"lblMittenti"_s, u"Mittente"_s);
     if (reso) {
-        blocchi::voce(sezione, y, Posto::intero, u"Reso da"_s,
-                      report::campo(u"txtResoDa"_s, {}, u"resoDa"_s, {10, true}));
-        y += blocchi::passoVoce;
+        blocchi::luogo(sezione, y, Posto::sinistro, u"Reso da"_s,
+                       {report::campo(u"txtResoDa"_s, {}, u"resoDa0"_s),
+                        report::campo(u"txtIndResoDa"_s, {}, u"resoDa1"_s),
+                        report::campo(u"txtLocalitaResoDa"_s, {}, u"resoDa2"_s)});
     }
-    Controllo nome = report::campo(u"txtMittente"_s, {}, u"RagioneSociale"_s, {10, true});
-    nome.formato = [](const Contesto& contesto) {
-        return inUnaRiga({contesto.riga.testo(u"RagioneSociale"_s), contesto.riga.testo(u"Indirizzo"_s),
-                          contesto.riga.testo(u"CLCAP"_s), contesto.riga.testo(u"Localita"_s)},
-                         contesto.riga.testo(u"Provincia"_s));
-    };
-    blocchi::voce(sezione, y, Posto::intero, u"Cliente"_s, std::move(nome));
-    return y + blocchi::passoVoce + blocchi::dopoCapitolo;
+    y = blocchi::luogo(sezione, y, reso ? Posto::destro : Posto::sinistro, reso ? u"Cliente"_s : QString(),
+                       {report::campo(u"txtMittente"_s, {}, u"RagioneSociale"_s),
+                        report::campo(u"txtIndMittente"_s, {}, u"Indirizzo"_s), localita()});
+    return y + blocchi::dopoCapitolo;
 }
 
 double consegna(Sezione& sezione, double y)
 {
-    y = blocchi::capitolo(sezione, y, u"lblConsegna"_s, u"Consegna"_s);
+    y = blocchi::capitolo(sezione, y, u"lblConsegna"_s, u"Consegna"_s,
+                          {u"txtVettore"_s, u"txtLinea"_s, u"txtPorto"_s, u"txtAnticipo"_s});
     blocchi::voce(sezione, y, Posto::sinistro, u"Vettore"_s,
                   report::campo(u"txtVettore"_s, {}, u"vettore"_s));
     blocchi::voce(sezione, y, Posto::destro, u"Linea"_s, report::campo(u"txtLinea"_s, {}, u"linea"_s));
@@ -64,7 +69,7 @@ double consegna(Sezione& sezione, double y)
     blocchi::voce(sezione, y, Posto::sinistro, u"Porto"_s, report::campo(u"txtPorto"_s, {}, u"porto"_s));
     Controllo anticipo = report::campo(u"txtAnticipo"_s, {}, u"leanpc"_s);
     anticipo.formato = formati::importo;
-    blocchi::voce(sezione, y, Posto::destro, u"Anticipo"_s, std::move(anticipo));
+    blocchi::voceNumero(sezione, y, Posto::destro, u"Anticipo"_s, std::move(anticipo));
     return y + blocchi::passoVoce + blocchi::dopoCapitolo;
 }
 
@@ -88,6 +93,9 @@ report::Definizione definizione(bool reso)
     report::Definizione lettera = blocchi::lettera(u"letteraVettura"_s);
     Sezione& sezione = lettera.dettaglio;
     double y = blocchi::titolo(sezione, 4, u"Lettera di vettura"_s);
+    constexpr double larghezzaBarre = 87;
+    blocchi::barreLdv(sezione, {blocchi::destra - larghezzaBarre, 4, larghezzaBarre, 0},
+                      {u"lefili"_s, u"lenrlv"_s, u"leanlv"_s}, report::Allineamento::destra);
     y = mittente(sezione, y + 2, reso);
     y = blocchi::spedizione(sezione, y);
     y = blocchi::merce(sezione, y);
@@ -110,7 +118,9 @@ void aggiungiColonne(RigaReport& riga, const Recordset& righe)
 RigaReport leggi(Connessione& connessione, const LdvEmessa& ldv)
 {
     RigaReport riga;
-    riga.aggiungi(u"resoDa"_s, ldv.mittente);
+    const QStringList resoDa = ldv.mittente.split(u'\n');
+    for (qsizetype i = 0; i < resoDa.size(); ++i)
+        riga.aggiungi(u"resoDa%1"_s.arg(i), resoDa[i]);
     Recordset righe;
     righe.apri(connessione, istruzioni::spedizionePerNumeroDataFiliale(ldv.numero, ldv.data, ldv.filiale));
     if (righe.eof())
@@ -127,12 +137,14 @@ RigaReport leggi(Connessione& connessione, const LdvEmessa& ldv)
 
 } // namespace
 
-std::unique_ptr<Documento> componiLdv(Connessione& connessione, const LdvEmessa& ldv, const QString& logo)
+std::unique_ptr<Documento> componiLdv(Connessione& connessione, const LdvEmessa& ldv, const QString& logo,
+                                      const QStringList& piede)
 {
     const QString titolo = u"Lettera di vettura %1/%2"_s.arg(ldv.numero, QString::number(ldv.anno));
     const QImage immagine = report::leggiLogo(logo);
     report::Definizione lettera = definizione(!ldv.mittente.isEmpty());
     blocchi::completaIntestazione(lettera.intestazione, {}, !immagine.isNull());
+    blocchi::completaPie(lettera.pie, piede);
     report::Composizione composizione(lettera, titolo, immagine, ldv.data);
     composizione.aggiungi(leggi(connessione, ldv), connessione);
     return std::make_unique<report::DocumentoReport>(titolo, lettera.carta, composizione.pagine(),

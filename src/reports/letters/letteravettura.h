@@ -6,10 +6,11 @@
 
 namespace giacenza {
 
-/// A waybill of the database, laid out like the depot's letters, with its number as Code 128. The day on
+/// A waybill of the database, laid out like the depot's letters, with its key as Code 128. The day on
 /// which it is made is the waybill's own.
 ///
-/// logo: a file; none is no logo. Throws Errore.
-std::unique_ptr<Documento> componiLdv(Connessione& connessione, const LdvEmessa& ldv, const QString& logo);
+/// logo: a file; none is no logo. piede: lines for its foot. Throws Errore.
+std::unique_ptr<Documento> componiLdv(Connessione& connessione, const LdvEmessa& ldv, const QString& logo,
+                                      const QStringList& piede);
 
 } // namespace giacenza

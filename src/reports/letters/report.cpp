@@ -1,6 +1,7 @@
 #include "reports/letters/report.h"
 
 #include "base/messaggi.h"
+#include "base/servizi.h"
 #include "data/archivio.h"
 #include "reports/engine/composizione.h"
 #include "reports/engine/logo.h"
@@ -34,7 +35,8 @@ Report::Report(Definizione definizione) : mDefinizione(std::move(definizione)) {
 
 void Report::mostraTutto()
 {
-    for (Sezione* sezione : {&mDefinizione.intestazione, &mDefinizione.dettaglio, &mDefinizione.pie}) {
+    for (Sezione* sezione :
+         {&mDefinizione.intestazione, &mDefinizione.dettaglio, &mDefinizione.pie, &mDefinizione.finestra}) {
         for (Controllo& controllo : sezione->controlli)
             controllo.visibile = true;
     }
@@ -104,6 +106,7 @@ std::unique_ptr<DocumentoReport> Report::componi(const RichiestaDocumento& richi
     const QImage logo = leggiLogo(richiesta.percorsoLogo);
     Definizione definizione = mDefinizione;
     blocchi::completaIntestazione(definizione.intestazione, richiesta.didascalie, !logo.isNull());
+    blocchi::completaPie(definizione.pie, LeggiPiede());
     Composizione composizione(definizione, nome, logo, oggi);
     try {
         for (const RigaReport& riga : righe) {

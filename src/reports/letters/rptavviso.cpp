@@ -66,15 +66,15 @@ report::Definizione definizione()
 {
     report::Definizione lettera = blocchi::lettera(u"rptAvviso"_s);
     Sezione& sezione = lettera.dettaglio;
-    double y = blocchi::indirizzo(sezione, 4, u"GIDTAV"_s);
-    y = blocchi::titolo(sezione, y + 4, u"Avviso di giacenza"_s);
+    double y = blocchi::indirizzo(lettera, u"GIDTAV"_s);
+    y = blocchi::titolo(sezione, y, u"Avviso di giacenza"_s);
     constexpr double larghezza = blocchi::destra - blocchi::sinistra;
     sezione.controlli.push_back(report::etichetta(
         u"lblApertura"_s, {blocchi::sinistra, y, larghezza, 9},
         u"Vi informiamo che la spedizione qui descritta non è stata consegnata ed è in giacenza "
         "nel nostro magazzino. Restiamo in attesa delle Vostre istruzioni."_s,
         normale));
-    y = blocchi::spedizione(sezione, y + 14);
+    y = blocchi::spedizione(sezione, y + 12.6);
     y = blocchi::merce(sezione, y);
     y = giacenza(sezione, y);
     y = blocchi::testoLibero(sezione, y, u"Descrizione"_s, u"Motivo della giacenza"_s, u"GIDES1"_s);

@@ -10,6 +10,7 @@ namespace giacenza {
 namespace {
 
 using report::Allineamento;
+using report::Altezza;
 using report::Carattere;
 using report::Contesto;
 using report::Controllo;
@@ -21,8 +22,14 @@ constexpr double colonnaImporti = 148;
 constexpr double inizioCosti = 108;
 constexpr double passo = 6;
 
-void aggiungi(Sezione& sezione, Controllo controllo, Allineamento allineamento = Allineamento::sinistra)
+/// Closing words and costs stand beside each other, and what is missing in one moves nothing in the other.
+constexpr int gruppoSaluti = 1;
+constexpr int gruppoCosti = 2;
+
+void aggiungi(Sezione& sezione, Controllo controllo, int gruppo = 0,
+              Allineamento allineamento = Allineamento::sinistra)
 {
+    controllo.gruppo = gruppo;
     controllo.allineamento = allineamento;
     sezione.controlli.push_back(std::move(controllo));
 }
@@ -31,7 +38,7 @@ void aggiungi(Sezione& sezione, Controllo controllo, Allineamento allineamento =
 double costi(Sezione& sezione, double y)
 {
     const auto riquadro = [&](double riga, double x, double fino) {
-        return QRectF(x, y + 3 + riga * passo, fino - x, 4.8);
+        return QRectF(x, y + 3 + riga * passo, fino - x, passo);
     };
     const auto nome = [&](double riga) { return riquadro(riga, inizioCosti + 4, colonnaImporti); };
     const auto importo = [&](double riga) { return riquadro(riga, colonnaImporti, blocchi::destra - 4); };
@@ -39,19 +46,30 @@ double costi(Sezione& sezione, double y)
 
     aggiungi(sezione,
              report::cornice(u"corTot"_s, {inizioCosti, y, blocchi::destra - inizioCosti, 4 * passo + 5},
-                             blocchi::scuro));
-    aggiungi(sezione,
-             report::etichetta(u"lblsosta"_s, riquadro(0, inizioCosti + 4, 140), u"Giorni di sosta"_s));
-    aggiungi(sezione, report::campo(u"txtGIGGSO"_s, riquadro(0, 140, 152), u"GIGGSO"_s),
+                             blocchi::scuro),
+             gruppoCosti);
+    const auto etichetta = [&](const QString& quale, const QRectF& area, const QString& testo,
+                               const QStringList& con) {
+        Controllo controllo = report::etichetta(quale, area, testo);
+        controllo.con = con;
+        aggiungi(sezione, std::move(controllo), gruppoCosti);
+    };
+    const auto valore = [&](const QString& quale, const QRectF& area, const QString& colonna) {
+        Controllo controllo = report::campo(quale, area, colonna);
+        controllo.altezza = Altezza::elastica;
+        aggiungi(sezione, std::move(controllo), gruppoCosti, Allineamento::destra);
+    };
+    etichetta(u"lblsosta"_s, riquadro(0, inizioCosti + 4, 140), u"Giorni di sosta"_s,
+              {u"txtGIGGSO"_s, u"txtGIIMGI"_s});
+    valore(u"txtGIGGSO"_s, riquadro(0, 140, 152), u"GIGGSO"_s);
+    valore(u"txtGIIMGI"_s, riquadro(0, 153, blocchi::destra - 4), u"GIIMGI"_s);
+    etichetta(u"lblDossier"_s, nome(1), u"Apertura dossier"_s, {u"txtDossier"_s});
+    valore(u"txtDossier"_s, importo(1), u"FissoGiacenza"_s);
+    etichetta(u"lblRiconsegna"_s, nome(2), u"Riconsegna"_s, {u"txtRicons"_s});
+    valore(u"txtRicons"_s, importo(2), u"GINRGI"_s);
+    aggiungi(sezione, report::etichetta(u"lblTot"_s, nome(3), u"Totale"_s, totale), gruppoCosti);
+    aggiungi(sezione, report::campo(u"txtTot"_s, importo(3), u"GIIMGI"_s, totale), gruppoCosti,
              Allineamento::destra);
-    aggiungi(sezione, report::campo(u"txtGIIMGI"_s, riquadro(0, 153, blocchi::destra - 4), u"GIIMGI"_s),
-             Allineamento::destra);
-    aggiungi(sezione, report::etichetta(u"lblDossier"_s, nome(1), u"Apertura dossier"_s));
-    aggiungi(sezione, report::campo(u"txtDossier"_s, importo(1), u"FissoGiacenza"_s), Allineamento::destra);
-    aggiungi(sezione, report::etichetta(u"lblRiconsegna"_s, nome(2), u"Riconsegna"_s));
-    aggiungi(sezione, report::campo(u"txtRicons"_s, importo(2), u"GINRGI"_s), Allineamento::destra);
-    aggiungi(sezione, report::etichetta(u"lblTot"_s, nome(3), u"Totale"_s, totale));
-    aggiungi(sezione, report::campo(u"txtTot"_s, importo(3), u"GIIMGI"_s, totale), Allineamento::destra);
     return y + 4 * passo + 5;
 }
 
@@ -78,18 +96,19 @@ report::Definizione definizione()
 {
     report::Definizione lettera = blocchi::lettera(u"rptBuonFine"_s);
     Sezione& sezione = lettera.dettaglio;
-    double y = blocchi::indirizzo(sezione, 4, u"GIDTBF"_s);
-    y = blocchi::titolo(sezione, y + 4, u"Buon fine giacenza"_s);
+    double y = blocchi::indirizzo(lettera, u"GIDTBF"_s);
+    y = blocchi::titolo(sezione, y, u"Buon fine giacenza"_s);
     constexpr double larghezza = blocchi::destra - blocchi::sinistra;
     aggiungi(sezione,
              report::etichetta(u"lblApertura"_s, {blocchi::sinistra, y, larghezza, 5},
                                u"Vi confermiamo che la giacenza della spedizione qui descritta è chiusa."_s));
-    y = blocchi::spedizione(sezione, y + 10);
+    y = blocchi::spedizione(sezione, y + 8.6);
     y = blocchi::merce(sezione, y);
     y = giacenza(sezione, y);
     y = blocchi::testoLibero(sezione, y, u"Descrizione"_s, u"Annotazioni"_s, u"GIDES1"_s);
     aggiungi(sezione,
-             report::etichetta(u"lblSaluti"_s, {blocchi::sinistra, y + 3, 80, 4.6}, u"Distinti saluti"_s));
+             report::etichetta(u"lblSaluti"_s, {blocchi::sinistra, y + 3, 80, 4.6}, u"Distinti saluti"_s),
+             gruppoSaluti);
     sezione.altezza = costi(sezione, y) + 2;
     return lettera;
 }

@@ -105,11 +105,10 @@ TEST_P(Emissione, StampaLaLdvConIlSuoCodiceABarre)
     EXPECT_EQ(emetti(), u"Emessa la lettera di vettura 4716/2026, stampata in "_s + file);
     const QString letta = pagina(file);
     for (const char16_t* atteso :
-         {u"Lettera di vettura", u"n. 4716 / 2026", u"LDV 4716",
-          u"Ferramenta Lombarda S.r.l. Via Po 1 20900 Monza (MB)", u"Utensileria del Lago",
-          u"Corso Italia 44", u"22100 Como (CO)", u"21/11/2026", u"Assegnato", u"Autotrasporti Riuniti",
-          u"Brianza nord", u"45,5 kg", u"120,00 €", u"giacenza 40/2026", u"Solo al mattino",
-          u"Firma del destinatario", u"Pagina 1 di 1"})
+         {u"Lettera di vettura", u"n. 4716 / 2026", u"LDV 4716", u"Ferramenta Lombarda S.r.l.", u"Via Po 1",
+          u"20900 Monza (MB)", u"Utensileria del Lago", u"Corso Italia 44", u"22100 Como (CO)", u"21/11/2026",
+          u"Assegnato", u"Autotrasporti Riuniti", u"Brianza nord", u"45,5 kg", u"120,00 €",
+          u"giacenza 40/2026", u"Solo al mattino", u"Firma del destinatario", u"Pagina 1 di 1"})
         EXPECT_TRUE(letta.contains(QString::fromUtf16(atteso)))
             << QString::fromUtf16(atteso).toStdString() << '\n'
             << letta.toStdString();
@@ -122,11 +121,34 @@ TEST_P(Emissione, SulResoIlMittenteEChiRendeLaMerce)
 {
     mContesto.resoAMittente = true;
     emetti();
-    const QString letta = pagina(mImp + u"/LDV_MI_4716_2026.pdf"_s).simplified();
-    EXPECT_TRUE(letta.contains(u"Mittente Reso da Utensileria del Lago Corso Italia 44 22100 Como (CO) "
-                               "Cliente Ferramenta Lombarda S.r.l. Via Po 1 20900 Monza (MB) Spedizione"_s))
-        << letta.toStdString();
-    EXPECT_EQ(letta.count(u"Ferramenta Lombarda S.r.l."_s), 2) << "the customer, who is the recipient too";
+    QStringList righe = pagina(mImp + u"/LDV_MI_4716_2026.pdf"_s).split(u'\n', Qt::SkipEmptyParts);
+    for (QString& riga : righe)
+        riga = riga.simplified();
+    const qsizetype prima = righe.indexOf(u"Mittente"_s);
+    ASSERT_GE(prima, 0);
+    EXPECT_EQ(righe.mid(prima, 6), (QStringList{u"Mittente"_s, u"Reso da Cliente"_s,
+                                                u"Utensileria del Lago Ferramenta Lombarda S.r.l."_s,
+                                                u"Corso Italia 44 Via Po 1"_s,
+                                                u"22100 Como (CO) 20900 Monza (MB)"_s, u"Spedizione"_s}));
+    EXPECT_EQ(righe.join(u' ').count(u"Ferramenta Lombarda S.r.l."_s), 2)
+        << "the customer, who is the recipient too";
+}
+
+TEST_P(Emissione, IlCodiceABarreTornaAUnaSolaLdvEIlPiedeEDelleImpostazioni)
+{
+    mContesto.piede = {u"Trasporti del Ponte S.r.l."_s, u"P. IVA 01234567897"_s};
+    emetti();
+    const QString file = mImp + u"/LDV_MI_4716_2026.pdf"_s;
+    EXPECT_TRUE(pagina(file).contains(u"P. IVA 01234567897"_s));
+    const QString immagine = mCartella.filePath(u"ldv"_s);
+    const auto leggi = [](const QString& programma, const QStringList& argomenti) {
+        QProcess processo;
+        processo.start(programma, argomenti);
+        EXPECT_TRUE(processo.waitForFinished()) << programma.toStdString();
+        return QString::fromUtf8(processo.readAllStandardOutput());
+    };
+    leggi(u"pdftoppm"_s, {u"-r"_s, u"300"_s, u"-png"_s, u"-singlefile"_s, file, immagine});
+    EXPECT_EQ(leggi(u"zbarimg"_s, {u"-q"_s, immagine + u".png"_s}), u"CODE-128:MI-4716-2026\n"_s);
 }
 
 TEST_P(Emissione, SenzaStampaNonLasciaFile)

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+namespace giacenza::report {
+
+/// What the barcode of a waybill holds: branch, number and year with a hyphen between them, "MI-4711-2026". A
+/// hyphen or backslash inside branch or number has a backslash before it, so that the text names one waybill.
+/// Empty when there is no number.
+QString codiceLdv(const QString& filiale, const QString& numero, const QString& anno);
+
+} // namespace giacenza::report
