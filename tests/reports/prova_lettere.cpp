@@ -34,8 +34,8 @@ protected:
     {
         mRichiesta.tipo = tipo;
         if (tipo == TipoDocumento::avviso)
-            return mAvviso.componi(mRichiesta, nullptr);
-        return mBuonFine.componi(mRichiesta, nullptr);
+            return mAvviso.componi(mRichiesta, QDate(2026, 11, 21), nullptr);
+        return mBuonFine.componi(mRichiesta, QDate(2026, 11, 21), nullptr);
     }
     PaginaReport pagina(TipoDocumento tipo = TipoDocumento::avviso) { return componi(tipo)->pagina(0); }
 

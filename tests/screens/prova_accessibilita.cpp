@@ -62,7 +62,7 @@ public:
         sTesti = &mTesti;
         mPrima = QAccessible::installUpdateHandler([](QAccessibleEvent* evento) {
             if (evento->type() == QAccessible::Alert)
-                *sTesti << evento->object()->objectName() + u": " +
+                *sTesti << evento->object()->objectName() + u": "_s +
                                evento->accessibleInterface()->text(QAccessible::Name);
         });
     }

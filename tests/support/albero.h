@@ -36,7 +36,7 @@ inline AlberoAccessibile alberoAccessibile(QWidget* finestra)
                 albero.senzaNome << QLatin1String(oggetto->metaObject()->className()) + u' ' +
                                         oggetto->objectName();
             if (nomi[gruppo].contains(nome))
-                albero.doppi << gruppo + u": " + nome;
+                albero.doppi << gruppo + u": "_s + nome;
             nomi[gruppo] << nome;
             return;
         }
