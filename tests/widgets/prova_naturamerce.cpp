@@ -2,7 +2,6 @@
 
 #include <QSignalSpy>
 
-using giacenza::AggiungiNaturaMerce;
 using giacenza::CaricaNaturaMerce;
 using giacenza::impostazioni;
 using giacenza::percorsoNaturaMerce;
