@@ -4,7 +4,6 @@
 
 using namespace giacenza;
 using namespace giacenza::prove;
-using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 

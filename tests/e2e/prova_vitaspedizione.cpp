@@ -23,7 +23,6 @@ using namespace giacenza;
 using namespace giacenza::prove;
 using namespace Qt::StringLiterals;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 

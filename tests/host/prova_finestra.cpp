@@ -18,7 +18,6 @@
 using namespace Qt::StringLiterals;
 using deposito::Finestra;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 

@@ -19,7 +19,6 @@ using namespace giacenza::prove;
 using namespace Qt::StringLiterals;
 using testing::Contains;
 using testing::IsSupersetOf;
-using testing::Not;
 
 namespace {
 

@@ -213,9 +213,10 @@ void esaminaColori(Schermata& schermata)
             insegna->show();
             insegna->ensurePolished();
             const QColor fondo = insegna->palette().color(QPalette::Window);
-            EXPECT_GE(contrasto(insegna->palette().color(QPalette::WindowText), fondo), leggibile) << nome;
+            EXPECT_GE(contrasto(insegna->palette().color(QPalette::WindowText), fondo), leggibile)
+                << nome.toStdString();
             EXPECT_GE(contrasto(fondo, schermata.palette().color(QPalette::Window)), leggibile)
-                << nome << " stands out";
+                << nome.toStdString() << " stands out";
         }
     auto* avanzo = trova<QLineEdit>(&schermata, u"txtContrassegno"_s);
     avanzo->setProperty("avanzo", true);

@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::prove {
 
 /// What a screen reader has to say of the inputs of a window, as the accessible tree gives it.
