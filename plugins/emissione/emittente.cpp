@@ -13,25 +13,37 @@ using namespace Qt::StringLiterals;
 namespace giacenza::emissione {
 
 /// The host may have none that listens; then the reason stands in its log at least.
-void EmittenteDeposito::racconta(const QString& testo) const
+namespace {
+
+/// What did not work, told apart from what was refused.
+class Guasto : public Errore
+{
+public:
+    using Errore::Errore;
+};
+
+} // namespace
+
+void EmittenteDeposito::racconta(const QString& testo, Tono tono) const
 {
     if (mContesto.racconta)
-        mContesto.racconta({testo});
+        mContesto.racconta({testo, tono});
     else
         qWarning().noquote() << testo;
 }
 
 QString EmittenteDeposito::emetti(const RecordLdv& ldv)
 {
-    QString motivo;
     try {
         return emettiOLancia(ldv);
-    } catch (const Errore& errore) {
-        motivo = errore.testo();
+    } catch (const Guasto& guasto) {
+        racconta(guasto.testo(), Tono::guasto);
+    } catch (const Errore& rifiuto) {
+        racconta(rifiuto.testo(), Tono::rifiuto);
     } catch (const std::exception& errore) {
-        motivo = u"La lettera di vettura non è stata emessa: %1"_s.arg(QString::fromUtf8(errore.what()));
+        racconta(u"La lettera di vettura non è stata emessa: %1"_s.arg(QString::fromUtf8(errore.what())),
+                 Tono::guasto);
     }
-    racconta(motivo);
     return {};
 }
 
@@ -40,7 +52,7 @@ void EmittenteDeposito::controllaCartella() const
 {
     QTemporaryFile prova(QDir(mCartellaStampa).filePath(u"prova.XXXXXX"_s));
     if (!QDir().mkpath(mCartellaStampa) || !prova.open())
-        throw Errore(
+        throw Guasto(
             u"Nella cartella \"%1\" non si può scrivere: nessuna lettera di vettura è stata emessa."_s.arg(
                 QDir::toNativeSeparators(mCartellaStampa)));
 }
@@ -67,14 +79,14 @@ QString EmittenteDeposito::emettiOLancia(const RecordLdv& ldv) const
         connessione.apri({mPercorsoDatabase, mTraccia});
         emessa = emettiLdv(connessione, ldv, mContesto);
     } catch (const ErroreDatabase& errore) {
-        throw Errore(u"La nuova lettera di vettura non è stata emessa: il database non ha accettato "
+        throw Guasto(u"La nuova lettera di vettura non è stata emessa: il database non ha accettato "
                      "l'operazione.\n\n%1"_s.arg(errore.testo()));
     }
     const QString nome = u"lettera di vettura %1/%2"_s.arg(emessa.numero, QString::number(emessa.anno));
     if (!mStampa)
         return u"Emessa la %1."_s.arg(nome);
     const auto nonStampata = [&](const QString& motivo) {
-        return Errore(u"La %1 è stata emessa, ma non è stata stampata.\n\n%2"_s.arg(nome, motivo));
+        return Guasto(u"La %1 è stata emessa, ma non è stata stampata.\n\n%2"_s.arg(nome, motivo));
     };
     try {
         return u"Emessa la %1, stampata in %2"_s.arg(nome, stampaLdv(connessione, emessa));

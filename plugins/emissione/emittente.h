@@ -28,7 +28,7 @@ private:
     QString emettiOLancia(const RecordLdv& ldv) const;
     QString stampaLdv(Connessione& connessione, const LdvEmessa& emessa) const;
     void controllaCartella() const;
-    void racconta(const QString& testo) const;
+    void racconta(const QString& testo, Tono tono) const;
 
     Traccia mTraccia;
     Contesto mContesto;

@@ -1,5 +1,6 @@
 #include "screens/aspetto.h"
 
+#include <QGuiApplication>
 #include <QPalette>
 
 using namespace Qt::StringLiterals;
@@ -39,8 +40,9 @@ Insegne insegne(bool scuro)
 
 } // namespace
 
-QString aspettoSchermata(const QPalette& colori)
+QString aspettoSchermata()
 {
+    const QPalette colori = QGuiApplication::palette();
     const QColor testo = colori.color(QPalette::Active, QPalette::WindowText);
     const QColor fondo = colori.color(QPalette::Active, QPalette::Window);
     const Insegne i = insegne(fondo.lightnessF() < testo.lightnessF());

@@ -2,12 +2,10 @@
 
 #include <QString>
 
-class QPalette;
-
 namespace giacenza {
 
 /// The style sheet of the working screens: what tells a field to type in from one to look at, and a value
-/// that counts from a left-over. Its colours follow the palette, light or dark.
-QString aspettoSchermata(const QPalette& colori);
+/// that counts from a left-over. Its colours follow the application's palette, light or dark.
+QString aspettoSchermata();
 
 } // namespace giacenza

@@ -28,7 +28,7 @@ Schermata::Schermata(const QString& nome)
 {
     setObjectName(nome);
     setAttribute(Qt::WA_QuitOnClose, false);
-    setStyleSheet(aspettoSchermata(palette()));
+    setStyleSheet(aspettoSchermata());
 }
 
 void Schermata::carica()

@@ -177,7 +177,7 @@ TEST_P(RicercaGiaTasti, iTestiStraniNonRomponoNulla)
     // A text that would end its place gives the empty list; every other is compared as it is.
     const QString rotta = u"O'BRIEN"_s;
     for (const QString& testo :
-         {rotta, u"%"_s, u"_"_s, u"\\"_s, u"O''BRIEN"_s, u"🚚"_s, u"\"; --"_s, QString(10000, u'z')}) {
+         {rotta, u"%"_s, u"_"_s, u"\\"_s, u"O''BRIEN"_s, u"🚚"_s, u"\"; --"_s, QString(1000, u'z')}) {
         istruzioni();
         trova<QLineEdit>(dialogo, u"txtValore"_s)->setText(testo);
         premi(dialogo, u"cmdVisualizza"_s);

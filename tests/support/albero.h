@@ -40,7 +40,9 @@ inline AlberoAccessibile alberoAccessibile(QWidget* finestra)
             if (nomi[gruppo].contains(nome))
                 albero.doppi << gruppo + u": "_s + nome;
             nomi[gruppo] << nome;
-            return;
+            // A calendar is made of buttons and days that are reached one by one.
+            if (!oggetto->inherits("QCalendarWidget"))
+                return;
         }
         const QString sotto = ruolo == QAccessible::Grouping ? nome : gruppo;
         for (int i = 0; i < voce->childCount(); ++i)
