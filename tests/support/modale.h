@@ -46,6 +46,9 @@ private:
             return;
         }
         mVista = true;
+        // Shortcuts belong to the window that is active, which on some platforms this one is only in a moment.
+        finestra->activateWindow();
+        QCoreApplication::processEvents();
         QTimer::singleShot(secondiMassimi * 1000, finestra, [finestra] {
             ADD_FAILURE() << "La finestra è rimasta aperta.";
             finestra->hide(); // not delete: the test may own it

@@ -64,8 +64,8 @@ protected:
         Connessione connessione = mBase.connessione();
         return emetti(LdvDiProva(connessione, u"4711"_s), stampa);
     }
-    /// What the operator is told, when the issue fails: one refusal.
-    QString racconto(const std::function<QString()>& emissione)
+    /// What the operator is told, once, when nothing is issued, or nothing printed.
+    QString racconto(const std::function<QString()>& emissione, Tono tono = Tono::guasto)
     {
         std::vector<Racconto> racconti;
         mContesto.racconta = [&](const Racconto& racconto) { racconti.push_back(racconto); };
@@ -74,7 +74,7 @@ protected:
         EXPECT_THAT(racconti, SizeIs(1));
         if (racconti.empty())
             return {};
-        EXPECT_EQ(racconti.front().tono, Tono::rifiuto);
+        EXPECT_EQ(racconti.front().tono, tono);
         return racconti.front().testo;
     }
     static QString pagina(const QString& file)
@@ -174,7 +174,7 @@ TEST_P(Emissione, UnRecordVuotoSiDice)
 {
     const LdvDiProva vuota;
     EXPECT_TRUE(
-        racconto([&] { return emetti(vuota); }).startsWith(u"La lettera di vettura da cui partire"_s));
+        racconto([&] { return emetti(vuota); }, Tono::rifiuto).startsWith(u"La lettera di vettura da cui partire"_s));
     EXPECT_EQ(emesse(), u"0"_s);
 }
 
