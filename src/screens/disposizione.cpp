@@ -9,9 +9,12 @@
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QEvent>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -49,15 +52,14 @@ bool Disposizione::eventFilter(QObject*, QEvent* evento)
 {
     switch (evento->type()) {
     case QEvent::FontChange:
+    case QEvent::ApplicationFontChange:
     case QEvent::StyleChange:
-        misuraCampi(mSchermata);
+    case QEvent::PaletteChange:
+    case QEvent::ApplicationPaletteChange:
+        // The form's controls hear of it after the form.
+        if (!std::exchange(mDaAdattare, true))
+            QMetaObject::invokeMethod(this, &Disposizione::adatta, Qt::QueuedConnection);
         break;
-    case QEvent::PaletteChange: {
-        const QString aspetto = aspettoSchermata(mSchermata->palette());
-        if (mSchermata->styleSheet() != aspetto)
-            mSchermata->setStyleSheet(aspetto);
-        break;
-    }
     case QEvent::Show:
         if (!evento->spontaneous() && !mMostrata) {
             mMostrata = true;
@@ -69,6 +71,16 @@ bool Disposizione::eventFilter(QObject*, QEvent* evento)
         break;
     }
     return false;
+}
+
+void Disposizione::adatta()
+{
+    mDaAdattare = false;
+    // The application's palette: that of the screen is what its style sheet has made of it.
+    const QString aspetto = aspettoSchermata(QGuiApplication::palette());
+    if (mSchermata->styleSheet() != aspetto)
+        mSchermata->setStyleSheet(aspetto);
+    misuraCampi(mSchermata);
 }
 
 void Disposizione::adattaFinestra()

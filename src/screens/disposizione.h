@@ -17,9 +17,11 @@ public:
     bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
 private:
+    void adatta();
     void adattaFinestra();
 
     QWidget* mSchermata;
+    bool mDaAdattare = false;
     bool mMostrata = false;
 };
 

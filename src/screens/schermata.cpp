@@ -8,6 +8,7 @@
 #include "widgets/primopiano.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QPointer>
 
@@ -27,7 +28,7 @@ Schermata::Schermata(const QString& nome) : mConvalida(new Convalida(this))
 {
     setObjectName(nome);
     setAttribute(Qt::WA_QuitOnClose, false);
-    setStyleSheet(aspettoSchermata(palette()));
+    setStyleSheet(aspettoSchermata(QGuiApplication::palette()));
 }
 
 Connessione& Schermata::connessione()

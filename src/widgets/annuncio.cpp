@@ -4,9 +4,24 @@
 #include <QEvent>
 #include <QWidget>
 
+#include <utility>
+
 namespace giacenza {
 
 namespace {
+
+/// Qt 6.4 has no announcement of its own: the alert is what screen readers read out at once.
+void allarma(QWidget* etichetta, const QString& /*testo: they ask for it*/)
+{
+    QAccessibleEvent allarme(etichetta, QAccessible::Alert);
+    QAccessible::updateAccessibility(&allarme);
+}
+
+Annunciatore& annunciatore()
+{
+    static Annunciatore corrente = allarma;
+    return corrente;
+}
 
 class Comparsa : public QObject
 {
@@ -25,12 +40,15 @@ public:
 
 void annuncia(QWidget* etichetta)
 {
-    // Qt 6.4 has no announcement of its own: the alert is what screen readers read out at once.
-    const QAccessibleInterface* voce = QAccessible::queryAccessibleInterface(etichetta);
-    if (!voce || !etichetta->isVisible() || voce->text(QAccessible::Name).isEmpty())
-        return;
-    QAccessibleEvent allarme(etichetta, QAccessible::Alert);
-    QAccessible::updateAccessibility(&allarme);
+    QAccessibleInterface* voce = QAccessible::queryAccessibleInterface(etichetta);
+    const QString testo = voce ? voce->text(QAccessible::Name) : QString();
+    if (etichetta->isVisible() && !testo.isEmpty())
+        annunciatore()(etichetta, testo);
+}
+
+void impostaAnnunciatore(Annunciatore altro)
+{
+    annunciatore() = altro ? std::move(altro) : Annunciatore(allarma);
 }
 
 void annunciaComparsa(QWidget* etichetta)

@@ -82,7 +82,10 @@ void AreaForma::segui(QWidget* conFuoco)
     if (!conFuoco || !widget() || !widget()->isAncestorOf(conFuoco) ||
         QGuiApplication::mouseButtons() != Qt::NoButton)
         return;
-    ensureWidgetVisible(conFuoco, margineFuoco, margineFuoco);
+    // Whole, and not only where its cursor stands.
+    const QRect dove(conFuoco->mapTo(widget(), QPoint()), conFuoco->size());
+    ensureVisible(dove.center().x(), dove.center().y(), dove.width() / 2 + margineFuoco,
+                  dove.height() / 2 + margineFuoco);
 }
 
 } // namespace giacenza

@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <QWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza::prove {
 
 /// What a screen reader has to say of the inputs of a window, as the accessible tree gives it.
@@ -36,9 +38,11 @@ inline AlberoAccessibile alberoAccessibile(QWidget* finestra)
                 albero.senzaNome << QLatin1String(oggetto->metaObject()->className()) + u' ' +
                                         oggetto->objectName();
             if (nomi[gruppo].contains(nome))
-                albero.doppi << gruppo + u": " + nome;
+                albero.doppi << gruppo + u": "_s + nome;
             nomi[gruppo] << nome;
-            return;
+            // A calendar is made of buttons and days that are reached one by one.
+            if (!oggetto->inherits("QCalendarWidget"))
+                return;
         }
         const QString sotto = ruolo == QAccessible::Grouping ? nome : gruppo;
         for (int i = 0; i < voce->childCount(); ++i)
