@@ -50,8 +50,10 @@ Disposizione::Disposizione(QWidget* schermata) : QObject(schermata), mSchermata(
 bool Disposizione::eventFilter(QObject*, QEvent* evento)
 {
     switch (evento->type()) {
-    case QEvent::FontChange:
     case QEvent::ApplicationFontChange:
+        mCarattereCambiato = true;
+        [[fallthrough]];
+    case QEvent::FontChange:
     case QEvent::StyleChange:
     case QEvent::PaletteChange:
     case QEvent::ApplicationPaletteChange:
@@ -77,6 +79,9 @@ void Disposizione::adatta()
     mDaAdattare = false;
     // The application's palette: that of the screen is what its style sheet has made of it.
     const QString aspetto = aspettoSchermata();
+    // Controls that a style sheet has polished keep the font of then.
+    if (std::exchange(mCarattereCambiato, false))
+        mSchermata->setStyleSheet({});
     if (mSchermata->styleSheet() != aspetto)
         mSchermata->setStyleSheet(aspetto);
     misuraCampi(mSchermata);

@@ -22,6 +22,7 @@ private:
 
     QWidget* mSchermata;
     bool mDaAdattare = false;
+    bool mCarattereCambiato = false;
     bool mMostrata = false;
 };
 

@@ -82,8 +82,9 @@ void AreaForma::segui(QWidget* conFuoco)
     if (!conFuoco || !widget() || !widget()->isAncestorOf(conFuoco) ||
         QGuiApplication::mouseButtons() != Qt::NoButton)
         return;
-    // Whole, and not only where its cursor stands.
-    const QRect dove(conFuoco->mapTo(widget(), QPoint()), conFuoco->size());
+    // Whole, and not only where its cursor stands; of one that is larger than the window, the beginning.
+    const QSize posto = viewport()->size() - 2 * QSize(margineFuoco, margineFuoco);
+    const QRect dove(conFuoco->mapTo(widget(), QPoint()), conFuoco->size().boundedTo(posto));
     ensureVisible(dove.center().x(), dove.center().y(), dove.width() / 2 + margineFuoco,
                   dove.height() / 2 + margineFuoco);
 }

@@ -94,10 +94,10 @@ TEST_P(Tastiera, IlMouseEIlPassoIndietroScelgonoDaSe)
     EXPECT_EQ(mostrato("barLdv"), u"4711 del 12/11/2026"_s);
     EXPECT_EQ(fuoco(), u"txtDescGia"_s);
 
-    scrivi("txtLDV", u"4715"_s);
+    scrivi("txtLDV", u"4712"_s);
     scrivi("txtDataLdv", u"12112026"_s);
     premi(Qt::Key_Backtab);
-    EXPECT_EQ(mostrato("barLdv"), u"4715 del 12/11/2026"_s);
+    EXPECT_EQ(mostrato("barLdv"), u"4712 del 12/11/2026"_s);
     EXPECT_EQ(fuoco(), u"txtLDV"_s);
 }
 

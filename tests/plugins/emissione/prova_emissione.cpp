@@ -173,8 +173,8 @@ TEST_P(Emissione, UnaCartellaCheNonSiScriveFermaPrima)
 TEST_P(Emissione, UnRecordVuotoSiDice)
 {
     const LdvDiProva vuota;
-    EXPECT_TRUE(
-        racconto([&] { return emetti(vuota); }, Tono::rifiuto).startsWith(u"La lettera di vettura da cui partire"_s));
+    EXPECT_TRUE(racconto([&] { return emetti(vuota); }, Tono::rifiuto)
+                    .startsWith(u"La lettera di vettura da cui partire"_s));
     EXPECT_EQ(emesse(), u"0"_s);
 }
 
