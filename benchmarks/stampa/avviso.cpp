@@ -63,7 +63,7 @@ public:
         controllo<QPushButton>(u"cmdRistampa"_s)->click();
         const double millisecondi = cronometro.millisecondi();
         const QString detto = controllo<QLabel>(u"lblStato"_s)->text();
-        if (detto != u"Avviso di giacenza %1_2015 prodotto."_s.arg(numero))
+        if (!detto.startsWith(u"Avviso di giacenza %1_2015 prodotto."_s.arg(numero)))
             throw std::runtime_error("the screen says: " + detto.toStdString());
         return millisecondi;
     }

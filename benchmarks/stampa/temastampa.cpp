@@ -11,8 +11,8 @@ namespace {
 
 constexpr int lettere = 1000;
 
-/// Held shipments 1 to 1,000 of the year 2015, each with a waybill of its own; their letters are as full as
-/// the one that is painted by hand.
+/// Held shipments 1 to 1,000 of the year 2015, each with a waybill of its own, with the carrier and the line
+/// that the management screen asks for; their letters are as full as the one that is painted by hand.
 void riempi(Connessione& connessione)
 {
     Transazione transazione(connessione);
@@ -20,16 +20,19 @@ void riempi(Connessione& connessione)
     connessione.esegui(u"insert into filiali values ('TO', 'Torino', 'Corso Francia 20', 'Torino', 'TO')"_s);
     connessione.esegui(u"insert into clien values (4711, 'Ceramiche dell''Arno S.p.A.', 'Via degli Orti 12', "
                        "'Montelupo Fiorentino', 'FI', '50056', null)"_s);
+    connessione.esegui(u"insert into forni (Codice, RagioneSociale) values ('V01', 'Autotrasporti Adda')"_s);
+    connessione.esegui(u"insert into codicizona (Codice, Descrizione) values ('L05', 'Lombardia')"_s);
     connessione.esegui(u"insert into ekelvorqzt_tabge00f (UltimoNumGiacenza, IstrSuAvvGiac) values (1000, "
                        "'Vi preghiamo di comunicarci entro 5 giorni se riconsegnare o rendere la merce.')"_s);
     for (int numero = 1; numero <= lettere; ++numero) {
         const QString ldv = QString::number(98'000 + numero);
         connessione.esegui(
             u"insert into letve00f (lefili, lenrlv, leanlv, ledtlv, lecodi, lecmpe, ledest, leindd, lecapd, "
-            "lelocd, leprod, lenatu, lerife, lerifd, lecoll, lepeso, levolu, lecnss, levame) values ('MI', "
-            "'%1', 2015, '2015-03-02', 4711, 'A', 'Bottega del Gusto di Rossi Maria', 'Piazza Garibaldi "
-            "7/b', '10123', 'Torino', 'TO', 'Piastrelle', 'DDT 812', '2015-03-01', 4, 1234.50, 0.750, "
-            "250.00, 12345.60)"_s.arg(ldv));
+            "lelocd, leprod, lecdve, lelin1, lenatu, lerife, lerifd, lecoll, lepeso, levolu, lecnss, levame) "
+            "values ('MI', '%1', 2015, '2015-03-02', 4711, 'A', 'Bottega del Gusto di Rossi Maria', 'Piazza "
+            "Garibaldi 7/b', '10123', 'Torino', 'TO', 'V01', 'L05', 'Piastrelle', 'DDT 812', '2015-03-01', "
+            "4, "
+            "1234.50, 0.750, 250.00, 12345.60)"_s.arg(ldv));
         connessione.esegui(
             u"insert into giace00f (GIFILI, GINRLV, GIANLV, GICODI, GIFIGI, GINRGI, GIANGI, GIDTGI, GIGGSO, "
             "GINRAV, GIDTAV, GIDES1) values ('MI', '%1', 2015, 4711, 'TO', '%2', 2015, '2015-03-05', 7, "
@@ -52,7 +55,7 @@ std::vector<Confronto> temaStampa(const Basi& basi, const Opzioni& opzioni)
     std::vector<Confronto> confronti;
     QString stringa;
     for (const QString& tipo : opzioni.basi) {
-        stringa = basi.stringa(tipo, u"avvisi_%1"_s.arg(lettere), riempi);
+        stringa = basi.stringa(tipo, u"casi_%1"_s.arg(lettere), riempi);
         confronti.push_back({u"notice_pdf"_s,
                              tipo,
                              1,
