@@ -32,6 +32,8 @@ CampoCliente::CampoCliente(Schermata& schermata, const Controlli& controlli, Dif
     schermata.convalida().aggiungi(mControlli.codice, [this] { return convalida(); });
     QObject::connect(mControlli.codice, &QLineEdit::returnPressed, &schermata, [this] {
         // As if reached by Tab, so that the button shows its focus.
+        // A style draws the focus only where a key is known to have moved it.
+        mSchermata.setAttribute(Qt::WA_KeyboardFocusChange);
         mControlli.cerca->setFocus(Qt::TabFocusReason);
     });
     const auto ricerca = schermata.gestore([this] { cerca(); });

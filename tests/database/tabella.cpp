@@ -2,6 +2,9 @@
 #include "database/transazione.h"
 #include "ripetitore.h"
 
+#include <algorithm>
+#include <climits>
+
 using namespace Qt::StringLiterals;
 
 using namespace giacenza;
@@ -119,13 +122,21 @@ TEST_P(TabellaMariadb, aprireEScrivereCostanoUnGiroCiascuno)
     const Ripetitore ripetitore(porta.toUShort());
     Connessione connessione;
     connessione.apri(mBase.stringa().replace(u"PORT="_s + porta, u"PORT=%1"_s.arg(ripetitore.porta())));
-    const int prima = ripetitore.giri();
-    EXPECT_GT(prima, 0);
-    NuovaRiga riga(connessione, u"prova"_s);
-    EXPECT_EQ(ripetitore.giri(), prima + 1);
-    riga.imposta(u"id"_s, u"1"_s);
-    riga.imposta(u"testo"_s, QString(100'000, u'x'));
-    riga.aggiungi();
-    EXPECT_EQ(ripetitore.giri(), prima + 2);
+    EXPECT_GT(ripetitore.giri(), 0);
+    // What the driver sends at once, a busy machine may relay in two: the least of some tries counts.
+    int aprire = INT_MAX;
+    int scrivere = INT_MAX;
+    for (int id = 1; id <= 5; ++id) {
+        const int prima = ripetitore.giri();
+        NuovaRiga riga(connessione, u"prova"_s);
+        const int aperta = ripetitore.giri();
+        riga.imposta(u"id"_s, QString::number(id));
+        riga.imposta(u"testo"_s, QString(100'000, u'x'));
+        riga.aggiungi();
+        aprire = std::min(aprire, aperta - prima);
+        scrivere = std::min(scrivere, ripetitore.giri() - aperta);
+    }
+    EXPECT_EQ(aprire, 1);
+    EXPECT_EQ(scrivere, 1);
     EXPECT_EQ(mBase.leggi(u"select length(testo) from prova where id=1"_s), u"100000"_s);
 }
