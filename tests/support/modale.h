@@ -46,7 +46,8 @@ private:
             return;
         }
         mVista = true;
-        // Shortcuts belong to the window that is active, which on some platforms this one is only in a moment.
+        // Shortcuts belong to the window that is active, which on some platforms this one is only in a
+        // moment.
         finestra->activateWindow();
         QCoreApplication::processEvents();
         QTimer::singleShot(secondiMassimi * 1000, finestra, [finestra] {
