@@ -40,8 +40,7 @@ void RicercaLdv::collega(ChiaveRicerca& chiave, QPushButton* bottone)
                      mSchermata.gestore([this, &chiave] { RicercaSpedizione(chiave); }));
     const auto conTasto = mSchermata.gestore([this, &chiave] { prosegui(ricerca(chiave)); });
     suTasto(chiave.campo(), Qt::Key_F12, conTasto);
-    for (const Qt::Key invio : {Qt::Key_Return, Qt::Key_Enter})
-        suTasto(chiave.campoData(), invio, conTasto);
+    QObject::connect(chiave.campoData(), &QLineEdit::returnPressed, &mSchermata, conTasto);
     mSchermata.convalida().aggiungi(chiave.campoData(), [this, &chiave] { return lascia(chiave); });
 }
 

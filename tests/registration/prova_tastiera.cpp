@@ -125,9 +125,10 @@ TEST_P(Tastiera, InvioNelCodiceVaAllaRicercaCheInvioApre)
 {
     apri();
     scrivi("txtCodiceCli", u"1001"_s);
+    const QImage senzaFuoco = c("cmdCercaCliente")->grab().toImage();
     premi(Qt::Key_Return);
     EXPECT_EQ(fuoco(), u"cmdCercaCliente"_s);
-    EXPECT_TRUE(mSchermata->testAttribute(Qt::WA_KeyboardFocusChange)) << "the focus is drawn";
+    EXPECT_NE(c("cmdCercaCliente")->grab().toImage(), senzaFuoco) << "the focus is drawn";
     bool aperta = false;
     QTimer::singleShot(0, mSchermata, [&] {
         aperta = QApplication::activeModalWidget() != nullptr;
