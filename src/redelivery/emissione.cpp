@@ -13,6 +13,7 @@ namespace giacenza {
 void LdvLetta::leggi(Recordset& righe)
 {
     std::vector<std::pair<QString, Valore>> valori;
+    valori.reserve(static_cast<std::size_t>(righe.colonne()));
     const bool vuoto = righe.bof() || righe.eof();
     for (int i = 0; i < righe.colonne(); ++i)
         valori.emplace_back(righe.nomeColonna(i), vuoto ? Valore() : righe.valore(i));

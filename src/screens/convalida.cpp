@@ -11,7 +11,7 @@ Convalida::Convalida(QWidget* schermata) : QObject(schermata), mSchermata(scherm
 
 void Convalida::aggiungi(QWidget* campo, Verifica verifica)
 {
-    mVerifiche.insert(campo, std::move(verifica));
+    mVerifiche[campo] = std::move(verifica);
     campo->installEventFilter(this);
 }
 

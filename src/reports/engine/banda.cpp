@@ -190,6 +190,7 @@ Banda componiBanda(const Sezione& sezione, const TestiSezione& testi, const QIma
         contenuti.push_back(misura(sezione.controlli[i], testi.at(i), logo, misuratore, riduzione));
     togliSoli(sezione, contenuti);
     std::vector<double> altezze;
+    altezze.reserve(contenuti.size());
     for (const Contenuto& contenuto : contenuti)
         altezze.push_back(contenuto.altezza);
     const std::vector<QRectF> aree = disponi(sezione.controlli, altezze);

@@ -11,8 +11,8 @@ void didascalie(Sezione& sezione)
 {
     struct Riga
     {
-        double y;
-        double altezza;
+        double y = 0;
+        double altezza = 0;
         Carattere carattere;
     };
     const Riga righe[] = {{0, 6.2, {13, true, scuro}},
