@@ -94,10 +94,9 @@ void frmGestGia::rigaMostrata(const Recordset& riga)
     const QString codice = riga.valore(u"GICODI"_s).value_or(QString());
     // The name is shown where it is known already: it is worth no statement.
     const bool noto = !codice.isEmpty() && codice == mParti.cliente.codice().trimmed();
-    mUi->lblClienteCaso->setText(
-        codice.isEmpty()
-            ? QString()
-            : u"Cliente %1 %2"_s.arg(codice, noto ? mParti.cliente.ragioneSociale() : QString()).trimmed());
+    const QString cliente = noto ? codice + u' ' + mParti.cliente.ragioneSociale() : codice;
+    mUi->lblClienteCaso->setText(codice.isEmpty() ? QString() : u"Cliente %1"_s.arg(cliente));
+    mUi->lblClienteCaso->setToolTip(mUi->lblClienteCaso->text());
 }
 
 bool frmGestGia::avvisoAmmesso()

@@ -11,7 +11,7 @@ namespace giacenza {
 
 namespace {
 
-constexpr char16_t giorno[] = u"00/00/0000";
+constexpr char16_t giorno[] = u"gg/mm/aaaa"; // the hint of an empty field, wider than any date
 constexpr char16_t importo[] = u"-9999999999,99";
 constexpr char16_t codice[] = u"ABCDE01234";
 constexpr char16_t numero[] = u"00000000000000000000";
