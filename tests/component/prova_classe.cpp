@@ -186,6 +186,15 @@ TEST_P(Classe, IlDatabaseCheNonRispondeTornaAllOspiteComEENonMostraNulla)
     EXPECT_EQ(mostrato("txtDestinatario"), u"Utensileria del Lago"_s) << "the next opening is a new one";
 }
 
+TEST_P(Classe, LeTabelleCheMancanoFermanoLApertura)
+{
+    mBase.esegui(u"drop table porto;"_s);
+    const ErroreDatabase errore = erroreDi([&] { mClasse->NuovaGiacenza(); });
+    EXPECT_EQ(errore.sqlstate(), u"42S02"_s);
+    EXPECT_EQ(errore.testo(), u"Nell'archivio mancano, o questo utente non le vede, le tabelle: porto"_s);
+    EXPECT_THAT(visibili(), IsEmpty());
+}
+
 TEST_P(Classe, FineUnaVoltaEDopoLaChiusuraDelCollegamento)
 {
     cGiacenza altra;

@@ -162,10 +162,33 @@ TEST_P(Salvataggio, UnNumeroGiaPresoDaUnAltraPostazioneNonEntraDueVolte)
     EXPECT_EQ(mBase.righe(tutte.arg(u"4711"_s)).size(), 1);
 }
 
+TEST_P(Salvataggio, UnoStalloSiRitentaFinoACinqueVolte)
+{
+    int tentativi = 0;
+    const auto stalli = [&](int quanti) {
+        tentativi = 0;
+        return impostaTraccia([&tentativi, quanti](EventoDati evento, const QString& testo) {
+            if (evento == EventoDati::istruzione && testo.startsWith("update letve00f"_L1) &&
+                ++tentativi <= quanti)
+                throw ErroreDatabase(u"40001"_s, 1213, u"Deadlock found"_s, testo);
+        });
+    };
+    const Traccia prima = stalli(5);
+    EXPECT_EQ(inserisce(dati()), u"47"_s) << "each try takes a number";
+    EXPECT_EQ(tentativi, 6);
+    EXPECT_EQ(mBase.righe(tutte.arg(u"4711"_s)).size(), 1);
+    stalli(6);
+    EXPECT_THROW(inserisce(dati(u"4712"_s)), ErroreDatabase);
+    EXPECT_EQ(tentativi, 6);
+    impostaTraccia(prima);
+    EXPECT_THAT(mBase.righe(tutte.arg(u"4712"_s)), ElementsAre());
+}
+
 TEST_P(Salvataggio, LaStessaSpedizioneNonEntraDueVolte)
 {
     inserisce(dati());
     EXPECT_THROW(inserisce(dati()), ErroreDatabase);
+    EXPECT_EQ(mBase.leggi(contatore), u"43"_s) << "no race: it is tried once";
     EXPECT_EQ(mBase.righe(tutte.arg(u"4711"_s)).size(), 1);
     EXPECT_EQ(mBase.leggi(u"select LERFGI from letve00f where lenrlv='4711'"_s), u"42"_s);
 }

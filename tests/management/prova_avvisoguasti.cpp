@@ -63,6 +63,22 @@ TEST_P(AvvisoGuasti, UnFileDelleImpostazioniRifiutatoSiDiceENonScriveNiente)
     EXPECT_THAT(mStampe, IsEmpty());
 }
 
+TEST_P(AvvisoGuasti, UnAvvisoFallitoRimetteLaDescrizione)
+{
+    richiamaAvvisato();
+    const QString prima = mostrato("txtDescGia");
+    for (int volta = 0; volta < 2; ++volta) {
+        fallisce(u"UPDATE giace00f SET GINRAV"_s);
+        avvisa(u"Non paga"_s);
+        guarisce();
+        EXPECT_EQ(mMessaggi.prendi().size(), 1U);
+        EXPECT_EQ(mostrato("txtDescGia"), prima);
+    }
+    avvisa(u"Non paga"_s);
+    EXPECT_EQ(mostrato("txtDescGia"), prima + u"\n21/11/2026 - Non paga"_s) << "once";
+    EXPECT_EQ(mostrato("lblClienteCaso"), u"Cliente 1001"_s);
+}
+
 TEST_P(AvvisoGuasti, CollegamentoPersoPrimaDiOgniIstruzione)
 {
     richiamaAvvisato();

@@ -1,5 +1,6 @@
 // What a day at the counter taught: whose waybill it is, which date counts, what a lookup cleared.
 
+#include "data/archivio.h"
 #include "database/valori.h"
 #include "registration/registrazionediprova.h"
 #include "screens/campi.h"
@@ -206,6 +207,32 @@ TEST_P(AlBanco, FilialeDataEMotivoSiAvvertonoAccantoAlCampo)
     });
     EXPECT_THAT(inviate, IsEmpty()) << "hints cost no statement";
     EXPECT_THAT(mMessaggi.testi(), IsEmpty());
+}
+
+TEST_P(AlBanco, LAttesaSiVedePrimaDiOgniOperazioneEPoiSparisce)
+{
+    consegna(u"4711"_s);
+    QCoreApplication::processEvents();
+    const QString prima = mostrato("lblStato");
+    QStringList visti;
+    Qt::CursorShape cursore = Qt::ArrowCursor;
+    impostaTraccia([&](EventoDati evento, const QString&) {
+        if (evento != EventoDati::istruzione)
+            return;
+        visti << mostrato("lblStato");
+        cursore =
+            QGuiApplication::overrideCursor() ? QGuiApplication::overrideCursor()->shape() : Qt::ArrowCursor;
+    });
+    scrivi("txtCodiceCli", u"1002"_s);
+    mSchermata->setProperty("CodiceCliente", u"1002"_s);
+    QCoreApplication::processEvents();
+    guarisce();
+    ASSERT_FALSE(visti.isEmpty());
+    EXPECT_EQ(visti.front(), u"Attendo l'archivio…"_s);
+    EXPECT_EQ(cursore, Qt::WaitCursor);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_NE(mostrato("lblStato"), u"Attendo l'archivio…"_s);
 }
 
 TEST_P(AlBanco, IlSecondoAvvisoDelGiornoSiDiceNonContato)

@@ -1,0 +1,59 @@
+#include "base/spiegazioni.h"
+
+#include "support/stampa.h"
+
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+
+using namespace giacenza;
+
+namespace {
+
+QString mariadb(int codice, const QString& sqlstate = u"HY000"_s)
+{
+    return spiega(ErroreDatabase(sqlstate, codice, u"words of the driver"_s));
+}
+
+QString sqlite(const QString& testo)
+{
+    return spiega(ErroreDatabase(u"HY000"_s, 1, testo));
+}
+
+TEST(Spiegazioni, OgniCodiceConosciutoHaLaSuaFrase)
+{
+    for (const int codice : {2002, 2003})
+        EXPECT_EQ(mariadb(codice), u"Il server dell'archivio non risponde."_s);
+    EXPECT_EQ(mariadb(2005), u"Il server dell'archivio non si trova in rete."_s);
+    for (const int codice : {2006, 2013})
+        EXPECT_EQ(mariadb(codice), u"La connessione con l'archivio è caduta."_s);
+    EXPECT_EQ(mariadb(1045), u"Il server ha rifiutato il nome o la parola d'ordine."_s);
+    EXPECT_EQ(mariadb(1049), u"Sul server non c'è la base di dati indicata."_s);
+    EXPECT_EQ(mariadb(1142),
+              u"Questo utente non ha il permesso di farlo: chiedere a chi amministra l'archivio."_s);
+    EXPECT_EQ(mariadb(1205), u"Un'altra postazione tiene occupata la registrazione: riprovare tra poco."_s);
+    EXPECT_EQ(mariadb(1213), u"Due postazioni si sono ostacolate: riprovare."_s);
+    EXPECT_EQ(mariadb(1062), u"C'è già una registrazione con la stessa chiave."_s);
+    EXPECT_EQ(mariadb(1, u"08S01"_s), u"La connessione con l'archivio è caduta."_s);
+    EXPECT_EQ(mariadb(1, u"HYT00"_s), u"L'archivio non ha risposto in tempo."_s);
+    EXPECT_EQ(mariadb(9999), u"L'archivio ha rifiutato l'operazione."_s);
+}
+
+TEST(Spiegazioni, SqliteSiCapisceDalTesto)
+{
+    EXPECT_EQ(sqlite(u"[SQLite]database is locked (5)"_s),
+              u"Un'altra postazione tiene occupato l'archivio: riprovare tra poco."_s);
+    EXPECT_EQ(sqlite(u"database or disk is full"_s), u"Il disco dell'archivio è pieno."_s);
+    EXPECT_EQ(sqlite(u"attempt to write a readonly database"_s),
+              u"L'archivio è in sola lettura: chiedere a chi lo amministra."_s);
+    EXPECT_EQ(sqlite(u"file is not a database"_s), u"Il file indicato non è un archivio."_s);
+}
+
+TEST(Spiegazioni, CioCheNonEDelDatabaseParlaDaSe)
+{
+    EXPECT_EQ(spiega(static_cast<const Errore&>(Errore(u"Manca la data."_s))), u"Manca la data."_s);
+    EXPECT_EQ(spiega(static_cast<const Errore&>(ErroreDatabase(u"HY000"_s, 2006, u"gone"_s))),
+              u"La connessione con l'archivio è caduta."_s);
+}
+
+} // namespace
