@@ -41,6 +41,8 @@ frmGestGia::~frmGestGia()
 
 void frmGestGia::collega()
 {
+    connect(mUi->txtDescGia, &CampoTesto::tagliato, this,
+            [this] { stato(u"Il testo incollato era troppo lungo: se ne è tenuto l'inizio."_s); });
     connect(mUi->cmdAvvisoGia, &QPushButton::clicked, this, gestore([this] { emettiAvviso(); }));
     connect(mUi->cmdRistampa, &QPushButton::clicked, this,
             gestore([this] { mAvviso.EmettiAvvisoGiacenza(true); }));

@@ -35,6 +35,8 @@ frmGiacenza::~frmGiacenza()
 
 void frmGiacenza::collega()
 {
+    connect(mUi->txtDescGia, &CampoTesto::tagliato, this,
+            [this] { stato(u"Il testo incollato era troppo lungo: se ne è tenuto l'inizio."_s); });
     connect(mUi->cmdSalva, &QPushButton::clicked, this, gestore([this] { mSalvataggio.salva(); }));
     connect(mUi->cmdAvvisoGia, &QPushButton::clicked, this,
             gestore([this] { mAvviso.EmettiAvvisoGiacenza(false); }));

@@ -3,6 +3,7 @@
 #include "base/orologio.h"
 #include "dialogs/porto.h"
 #include "widgets/campodata.h"
+#include "widgets/limitetesto.h"
 #include "widgets/naturamerce.h"
 #include "widgets/tasti.h"
 
@@ -24,6 +25,7 @@ PartiComuni::PartiComuni(Schermata& schermata, const ControlliComuni& c, const M
       spedizione(schermata, mappa, filialeGiacenza, dataGiacenza, differenze.rigaMostrata)
 {
     schermata.setRigaStato(c.lblStato);
+    limitaCampi(&schermata);
     QObject::connect(c.cmdEsci, &QPushButton::clicked, &schermata, &QWidget::close);
     schermata.convalida().esenta(c.cmdEsci);
     suTasto(c.cmbNaturaMerce, Qt::Key_F11, schermata.gestore([this] {
