@@ -2,6 +2,7 @@
 
 #include "base/orologio.h"
 #include "support/stampa.h"
+#include "widgets/annuncio.h"
 
 using namespace giacenza;
 using namespace giacenza::prove;
@@ -45,6 +46,19 @@ TEST_P(Avviso, IlSuccessivoSiContaESostituisceLaDescrizione)
               u"4|2026-11-21|Trasloco\r\n21/11/2026 - L'ufficio rifiuta"_s);
     EXPECT_EQ(mostrato("lblStatoCaso"), u"APERTA · 4 AVVISI"_s);
     EXPECT_EQ(mStampe, stampata(5, u"39_2026"_s));
+}
+
+TEST_P(Avviso, LoStatoDelCasoSiAnnuncia)
+{
+    QStringList annunci;
+    impostaAnnunciatore([&annunci](QWidget* etichetta, const QString& testo) {
+        if (etichetta->objectName() == u"lblStatoCaso"_s)
+            annunci << testo;
+    });
+    richiamaAvvisato();
+    avvisa(u"L'ufficio rifiuta"_s);
+    impostaAnnunciatore({});
+    EXPECT_THAT(annunci, ElementsAre(u"APERTA · 3 AVVISI"_s, u"APERTA · 4 AVVISI"_s));
 }
 
 TEST_P(Avviso, LoStessoGiornoSiRistampaSenzaContare)

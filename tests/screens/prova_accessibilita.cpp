@@ -60,6 +60,27 @@ TEST(Accessibilita, OgniIngressoDeiDialoghiHaUnNomeSuo)
     esamina(spedizioni, 5);
 }
 
+TEST(Accessibilita, LeDateDeiDialoghiSiLeggonoIntere)
+{
+    for (const int punti : {9, 11, 14}) {
+        const CorpoCarattere corpo(punti);
+        frmRifiuto rifiuto;
+        rifiuto.show();
+        RegistroMessaggi messaggi;
+        frmRicercaGia spedizioni;
+        spedizioni.setTipoRicerca(10);
+        spedizioni.show();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(messaggi.testi().size(), 1) << "there is no database to read";
+        for (const QWidget* data :
+             {trova<QWidget>(rifiuto, u"txtDataRifiuto"_s), trova<QWidget>(spedizioni, u"txtAnnoData"_s)}) {
+            constexpr int intorno = 12;
+            EXPECT_GE(data->width(), data->fontMetrics().horizontalAdvance(u"00/00/0000"_s) + intorno)
+                << data->objectName().toStdString() << ' ' << punti;
+        }
+    }
+}
+
 /// What is announced while it lives, by object name.
 class Annunci
 {

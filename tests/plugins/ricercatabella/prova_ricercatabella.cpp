@@ -2,6 +2,7 @@
 
 #include "base/parti.h"
 #include "data/istruzioni.h"
+#include "support/albero.h"
 #include "support/bancadati.h"
 #include "support/modale.h"
 #include "support/stampa.h"
@@ -109,6 +110,10 @@ TEST_P(Tabella, mostraLeRigheConLeColonneDellIstruzione)
                   (QStringList{u"Bergamo"_s, u"Città Alta"_s, u"D'Alì 100%"_s, u"Milano"_s}));
         EXPECT_TRUE(elenco.filtro->hasFocus());
         EXPECT_EQ(elenco.stato->text(), QString());
+        const AlberoAccessibile albero = alberoAccessibile(&elenco.finestra);
+        EXPECT_EQ(albero.ingressi, 4);
+        EXPECT_TRUE(albero.senzaNome.isEmpty()) << albero.senzaNome.join(u' ').toStdString();
+        EXPECT_TRUE(albero.doppi.isEmpty()) << albero.doppi.join(u' ').toStdString();
         QTest::keyClick(elenco.filtro, Qt::Key_Escape);
     });
     EXPECT_TRUE(mScelte.isEmpty());
