@@ -21,17 +21,21 @@ if(GIACENZA_SANITIZE)
     target_link_options(giacenza_opzioni INTERFACE -fsanitize=address,undefined)
 endif()
 
-# giacenza_porta(TARGET ROOM SCOPE): lets the target, and with SCOPE PUBLIC who links it, include the headers of one room of
-# src/ as "room/header.h", and of no other. The folder holds a link to the room alone.
+# giacenza_porta(TARGET ROOM SCOPE): lets the target, and with SCOPE PUBLIC who links it, include the headers of one room, of
+# src/ or of the desk, as "room/header.h", and of no other. The folder holds a link to the room alone.
 function(giacenza_porta nome stanza ambito)
     set(porta ${PROJECT_BINARY_DIR}/stanze/${nome})
+    set(cartella ${PROJECT_SOURCE_DIR}/src/${stanza})
+    if(stanza MATCHES "^desk/")
+        set(cartella ${PROJECT_SOURCE_DIR}/${stanza})
+    endif()
     cmake_path(GET stanza PARENT_PATH sopra)
     file(MAKE_DIRECTORY ${porta}/${sopra})
-    file(CREATE_LINK ${PROJECT_SOURCE_DIR}/src/${stanza} ${porta}/${stanza} SYMBOLIC)
+    file(CREATE_LINK ${cartella} ${porta}/${stanza} SYMBOLIC)
     target_include_directories(${nome} ${ambito} ${porta})
 endfunction()
 
-# giacenza_stanza(TARGET ROOM sources...): a room of src/, a static, position-independent library of the component's inside.
+# giacenza_stanza(TARGET ROOM sources...): a room, a static, position-independent library.
 function(giacenza_stanza nome stanza)
     giacenza_libreria(${nome} ${ARGN})
     giacenza_porta(${nome} ${stanza} PUBLIC)
