@@ -2,22 +2,8 @@
 # What the commands at the top of the tree share: speaking, packages, building. To be sourced with CASA set to
 # the top of the tree, and with LINGUA=it when an operator reads.
 
-# dice ITALIAN ENGLISH: one line for the reader, on standard error.
-dice()
-{
-    if [[ ${LINGUA:-en} == it ]]; then
-        printf '%s\n' "$1" >&2
-    else
-        printf '%s\n' "$2" >&2
-    fi
-}
-
-# muori ITALIAN ENGLISH [CODE]: the same, and the end.
-muori()
-{
-    dice "$1" "$2"
-    exit "${3:-1}"
-}
+# shellcheck source=tools/voce.sh
+source "${BASH_SOURCE[0]%/*}/voce.sh"
 
 # pacchettiMancanti GROUP...: prints the packages of the groups that are not installed, one a line.
 pacchettiMancanti()
