@@ -20,6 +20,7 @@ enum class Modo : int
 class GIACENZA_EXPORT ErroreChiamata : public Errore
 {
 public:
+    /// Why a call could not be made.
     enum Codice : int
     {
         membroIgnoto = 1,     ///< no member has that name or id
@@ -31,8 +32,10 @@ public:
         senzaInterfaccia = 7, ///< a screen was asked for and the process has no QApplication
     };
 
+    /// codice: why. testo: what can be shown.
     ErroreChiamata(Codice codice, const QString& testo) : Errore(testo), mCodice(codice) {}
 
+    /// Why.
     Codice codice() const noexcept { return mCodice; }
 
 private:

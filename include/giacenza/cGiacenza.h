@@ -48,15 +48,18 @@ public:
     };
     Q_ENUM(IdMembro)
 
+    /// parent: who owns the object, as in Qt; may be null.
     explicit cGiacenza(QObject* parent = nullptr);
     ~cGiacenza() override;
 
     /// The ODBC connection string shared by all screens, kept unchanged: no check, no trimming.
     Q_INVOKABLE QString PercorsoDatabase() const;
+    /// The same, given. percorso: the connection string.
     Q_INVOKABLE void setPercorsoDatabase(const QString& percorso);
 
     /// The settings file; its folder also holds the goods-type list. Kept unchanged.
     Q_INVOKABLE QString PercorsoFileIni() const;
+    /// The same, given. percorso: the file.
     Q_INVOKABLE void setPercorsoFileIni(const QString& percorso);
 
     /// Opens the registration screen, empty, modeless; returns at once. Throws what the screen's loading

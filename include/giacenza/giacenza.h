@@ -40,6 +40,7 @@
 
 #include <giacenza/giacenza_tipi.h>
 
+/** @cond INTERNO What a declaration below begins and ends with. */
 #if defined(__cplusplus)
 #define GIACENZA_C extern "C" __attribute__((visibility("default")))
 #define GIACENZA_SENZA_ECCEZIONI noexcept
@@ -47,6 +48,7 @@
 #define GIACENZA_C __attribute__((visibility("default")))
 #define GIACENZA_SENZA_ECCEZIONI
 #endif
+/** @endcond */
 
 /** The version of the library, "1.2.3". Never null; the library's. */
 GIACENZA_C const char* giacenza_versione(void) GIACENZA_SENZA_ECCEZIONI;
