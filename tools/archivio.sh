@@ -1,12 +1,12 @@
 # shellcheck shell=bash
-# The databases and the settings of ./run. To be sourced after ambiente.sh, with COSTRUITO set to the build
-# folder.
+# The databases and the settings of ./run, and of the installed deposito-prova. To be sourced after voce.sh, with COSTRUITO
+# set to the build folder; or with PROGRAMMI and PARTI, the folders of the programs and of the parts.
 
 # stringaSqlite FILE: the connection string of an embedded database.
 stringaSqlite()
 {
     printf 'DRIVER={SQLite3};Database=%s;StepAPI=1;Timeout=5000;FKSupport=1;LoadExt=%s' \
-        "$1" "$COSTRUITO/lib/giacenza/libgiacenza_sqlite.so"
+        "$1" "${PARTI:-$COSTRUITO/lib/giacenza}/libgiacenza_sqlite.so"
 }
 
 # What chiudiTutto has to put in order: a child, a folder to remove, a server to stop.
@@ -45,7 +45,7 @@ nuovoArchivio()
     local file=$1
     LAVORO=$(mktemp -d "$(dirname "$file")/.nuovo.XXXXXX")
     dice "Preparo i dati dimostrativi in $file…" ""
-    svolgi "$COSTRUITO/bin/genera-dati" "$(stringaSqlite "$LAVORO/archivio.db")" --crea >&2 ||
+    svolgi "${PROGRAMMI:-$COSTRUITO/bin}/genera-dati" "$(stringaSqlite "$LAVORO/archivio.db")" --crea >&2 ||
         muori "I dati dimostrativi non sono stati creati." ""
     # A write-ahead log belongs to the name of its database; one that outlived the generator holds rows.
     [[ ! -s $LAVORO/archivio.db-wal ]] || muori "I dati dimostrativi non sono stati scritti per intero." ""
@@ -100,7 +100,7 @@ create database giacenza character set utf8mb4;
 create user 'giacenza'@'127.0.0.1' identified by '$parola';
 SQL
     dice "Preparo i dati dimostrativi…" ""
-    svolgi "$COSTRUITO/bin/genera-dati" "$amministratore;DATABASE=giacenza" --crea >&2 ||
+    svolgi "${PROGRAMMI:-$COSTRUITO/bin}/genera-dati" "$amministratore;DATABASE=giacenza" --crea >&2 ||
         muori "I dati dimostrativi non sono stati creati." ""
     sed "s/:base\\b/\`giacenza\`/g; s/:utente\\b/'giacenza'@'127.0.0.1'/g" "$CASA/schema/grants.sql" |
         comandaMariadb "$amministratore"
@@ -134,5 +134,5 @@ svolgiGiornata()
         CONNESSIONE=$(stringaSqlite "$1/demo.db")
     fi
     # In the environment, not on a command line that every user of the machine can read.
-    GIACENZA_DATABASE=$CONNESSIONE svolgi "$COSTRUITO/bin/deposito-demo" --cartella "$1"
+    GIACENZA_DATABASE=$CONNESSIONE svolgi "${PROGRAMMI:-$COSTRUITO/bin}/deposito-demo" --cartella "$1"
 }

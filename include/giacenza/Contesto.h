@@ -22,8 +22,8 @@ enum class Tono : int
 /// What a part tells the operator.
 struct Racconto
 {
-    QString testo; ///< plain text, as many lines as it needs
-    Tono tono = Tono::rifiuto;
+    QString testo;             ///< plain text, as many lines as it needs
+    Tono tono = Tono::rifiuto; ///< how it is meant
 };
 
 /// What the component knows of the movement that is being issued, beyond what it hands over with it.
@@ -60,6 +60,7 @@ public:
     ParteConContesto& operator=(const ParteConContesto&) = delete;
     virtual ~ParteConContesto() = default;
 
+    /// contesto: what the component knows now; valid as long as the part.
     virtual void setContesto(const Contesto& contesto) = 0;
 };
 

@@ -46,11 +46,11 @@ public:
 /// What a document is made from: what the print module was told.
 struct RichiestaDocumento
 {
-    TipoDocumento tipo = TipoDocumento::avviso;
-    QString chiave;                    ///< held-shipment number + "_" + year
-    QString percorsoDatabase;          ///< connection string
-    QString percorsoLogo;              ///< a file, or a folder that holds "logo.gif"; empty: no logo
-    std::array<QString, 4> didascalie; ///< the letterhead's four lines, any may be empty
+    TipoDocumento tipo = TipoDocumento::avviso; ///< which document
+    QString chiave;                             ///< held-shipment number + "_" + year
+    QString percorsoDatabase;                   ///< connection string
+    QString percorsoLogo;                       ///< a file, or a folder that holds "logo.gif"; empty: no logo
+    std::array<QString, 4> didascalie;          ///< the letterhead's four lines, any may be empty
 };
 
 /// Where a print module gets the component's own documents from. It belongs to the component and outlives the

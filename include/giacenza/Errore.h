@@ -13,9 +13,12 @@ namespace giacenza {
 class GIACENZA_EXPORT Errore : public std::exception
 {
 public:
+    /// testo: what can be shown.
     explicit Errore(const QString& testo) : mTesto(testo), mUtf8(testo.toUtf8()) {}
 
+    /// The text, in UTF-8.
     const char* what() const noexcept override { return mUtf8.constData(); }
+    /// The text.
     const QString& testo() const noexcept { return mTesto; }
 
 private:
@@ -31,13 +34,17 @@ private:
 class GIACENZA_EXPORT ErroreDatabase : public Errore
 {
 public:
+    /// The parts are those that are read below.
     ErroreDatabase(const QString& sqlstate, int codiceNativo, const QString& testo,
                    const QString& istruzione = {})
         : Errore(testo), mSqlstate(sqlstate), mCodiceNativo(codiceNativo), mIstruzione(istruzione)
     {}
 
+    /// The five characters of the standard.
     const QString& sqlstate() const noexcept { return mSqlstate; }
+    /// The database's own number, 0 when it gave none.
     int codiceNativo() const noexcept { return mCodiceNativo; }
+    /// The SQL text that failed, may be empty.
     const QString& istruzione() const noexcept { return mIstruzione; }
 
 private:

@@ -27,6 +27,7 @@ public:
     virtual void setDidascalie(const std::array<QString, 4>& didascalie) = 0;
     /// stampa: true when the document is to be produced for good; the component always gives true.
     virtual void setStampa(bool stampa) = 0;
+    /// tipo: which document is asked for.
     virtual void setTipoDocumento(TipoDocumento tipo) = 0;
 
     /// Produces the document.

@@ -15,7 +15,9 @@ public:
     /// empty.
     using Scelta = std::function<void(const QStringList& valori)>;
 
+    /// percorso: the connection string of the host's database, as the host gave it.
     virtual void setPercorsoDatabase(const QString& percorso) = 0;
+    /// scelta: who is told of the row that was chosen.
     virtual void setScelta(Scelta scelta) = 0;
 
     /// Shows the list, modal over padre, and returns when it has closed; without a choice the event is not

@@ -15,7 +15,8 @@ namespace giacenza {
 /// screen and is told by fine() when the operator has left it.
 ///
 /// The settings live once for each thread: two objects of one thread share them, and share the screens. The
-/// class is used from the user-interface thread only. Failures of a call are the call's:
+/// class is used from the user-interface thread only: an opening method throws giacenza::ErroreChiamata
+/// (Chiamata.h) on any other, and where there is no QApplication. Failures of a call are the call's:
 /// giacenza::ErroreDatabase comes back unchanged from an opening method when the database cannot be reached,
 /// and no screen is shown.
 class GIACENZA_EXPORT cGiacenza : public QObject
@@ -47,15 +48,18 @@ public:
     };
     Q_ENUM(IdMembro)
 
+    /// parent: who owns the object, as in Qt; may be null.
     explicit cGiacenza(QObject* parent = nullptr);
     ~cGiacenza() override;
 
     /// The ODBC connection string shared by all screens, kept unchanged: no check, no trimming.
     Q_INVOKABLE QString PercorsoDatabase() const;
+    /// The same, given. percorso: the connection string.
     Q_INVOKABLE void setPercorsoDatabase(const QString& percorso);
 
     /// The settings file; its folder also holds the goods-type list. Kept unchanged.
     Q_INVOKABLE QString PercorsoFileIni() const;
+    /// The same, given. percorso: the file.
     Q_INVOKABLE void setPercorsoFileIni(const QString& percorso);
 
     /// Opens the registration screen, empty, modeless; returns at once. Throws what the screen's loading

@@ -1,0 +1,25 @@
+#include "host/finestra.h"
+#include "host/immagini/capitoli.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+void fotografaProgramma(Album& album)
+{
+    const QString ini = QDir(album.cartella).filePath(u"giacenza.ini"_s);
+    const QString logo = QCoreApplication::applicationDirPath() + u"/logo.gif"_s;
+    {
+        deposito::Finestra finestra({album.database, ini, logo});
+        finestra.show();
+        album.scatta(&finestra, u"programma"_s);
+    }
+    deposito::Finestra finestra({u"DRIVER={SQLite3};Database=/non/c'è/giacenza.db"_s, ini, logo});
+    finestra.show();
+    album.regista.preme(&finestra, Qt::Key_F2);
+    Regista::verifica(Regista::controllo(&finestra, u"fraMessaggio"_s)->isVisible(),
+                      u"il programma non dice che l'archivio manca"_s);
+    album.scatta(&finestra, u"programma-errore"_s);
+    album.imposta();
+}
