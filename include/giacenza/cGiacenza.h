@@ -15,7 +15,8 @@ namespace giacenza {
 /// screen and is told by fine() when the operator has left it.
 ///
 /// The settings live once for each thread: two objects of one thread share them, and share the screens. The
-/// class is used from the user-interface thread only. Failures of a call are the call's:
+/// class is used from the user-interface thread only: an opening method throws giacenza::ErroreChiamata
+/// (Chiamata.h) on any other, and where there is no QApplication. Failures of a call are the call's:
 /// giacenza::ErroreDatabase comes back unchanged from an opening method when the database cannot be reached,
 /// and no screen is shown.
 class GIACENZA_EXPORT cGiacenza : public QObject

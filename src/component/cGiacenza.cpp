@@ -1,9 +1,12 @@
-#include <giacenza/cGiacenza.h>
+#include <giacenza/Chiamata.h>
 
 #include "base/forme.h"
 #include "base/impostazioni.h"
 #include "base/messaggi.h"
 #include "component/registraforme.h"
+
+#include <QApplication>
+#include <QThread>
 
 #include <vector>
 
@@ -35,6 +38,18 @@ std::shared_ptr<Forme> formePronte()
     return forme;
 }
 
+// A window made elsewhere would take the process with it.
+void controllaInterfaccia()
+{
+    const auto* applicazione = qobject_cast<QApplication*>(QCoreApplication::instance());
+    if (!applicazione)
+        throw ErroreChiamata(ErroreChiamata::senzaInterfaccia,
+                             u"Per aprire una schermata serve l'interfaccia grafica (QApplication)."_s);
+    if (applicazione->thread() != QThread::currentThread())
+        throw ErroreChiamata(ErroreChiamata::altroThread,
+                             u"Una schermata si apre nel thread dell'interfaccia grafica."_s);
+}
+
 void mostra(QWidget& schermata)
 {
     schermata.setWindowState(schermata.windowState() & ~Qt::WindowMinimized);
@@ -51,6 +66,7 @@ public:
     // The screen that was asked for, bound; null, with a message, in a version that does not have it.
     QWidget* lega(const QString& nome)
     {
+        controllaInterfaccia();
         QWidget* schermata = mForme->forma(nome);
         if (!schermata) {
             mostraMessaggio(nullptr, {u"Questa schermata non è ancora disponibile in questa versione."_s,
