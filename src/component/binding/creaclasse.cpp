@@ -99,6 +99,7 @@ std::unique_ptr<Oggetto> creato(const QString& classe)
     libreria.controllaVersione(*descrittore);
     if (file == questaLibreria())
         return nuovoOggetto();
+    libreria.controllaUso(QString::fromLatin1(giacenza_versione()));
     return std::make_unique<OggettoAltrui>(libreria);
 }
 

@@ -65,6 +65,14 @@ void Libreria::controllaVersione(const Descrittore& descrittore) const
             u"La libreria \"%1\" è della versione %2, il descrittore \"%3\" della %4. Registrare di nuovo la "
             "classe con giacenza-registra."_s.arg(mPercorso, versione(), descrittore.file,
                                                   descrittore.versione));
+}
+
+void Libreria::controllaUso(const QString& versioneDiChiUsa) const
+{
+    if (!stessaMaggiore(versione(), versioneDiChiUsa))
+        rifiuta(ErroreDescrittore::versione,
+                u"La libreria \"%1\" è della versione %2, il programma della %3."_s.arg(mPercorso, versione(),
+                                                                                        versioneDiChiUsa));
     if (mAbi() != GIACENZA_ABI)
         rifiuta(ErroreDescrittore::versione,
                 u"La libreria \"%1\" ha l'interfaccia binaria %2, il programma la %3."_s.arg(mPercorso)

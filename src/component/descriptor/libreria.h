@@ -19,9 +19,10 @@ public:
     QString percorso() const { return mPercorso; }
     QString versione() const { return QString::fromUtf8(mVersione()); }
 
-    /// Throws ErroreDescrittore (versione) when it is of another major version than a descriptor's, or of
-    /// another binary interface than this program's.
+    /// Throws ErroreDescrittore (versione) when it is of another major version than the descriptor.
     void controllaVersione(const Descrittore& descrittore) const;
+    /// The same when it is of another major version or of another binary interface than who is to use it.
+    void controllaUso(const QString& versioneDiChiUsa) const;
 
     const char* (*descrizione)() noexcept = nullptr;
     const char* (*errore_testo)() noexcept = nullptr;
