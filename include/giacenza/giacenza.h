@@ -1,4 +1,5 @@
-/*
+/**
+ * @file
  * The component from C, and from every language that can call C. C99, whole in itself; no exception crosses
  * this border.
  *
@@ -18,8 +19,8 @@
  *     giacenza_rilascia(oggetto);
  *     giacenza_chiudi_interfaccia();
  *
- * RESULTS. A function that can fail returns GIACENZA_BENE (0) or one of the codes below, and keeps code, text
- * and SQLSTATE as the last error of the calling thread. A failed call has done nothing.
+ * RESULTS. A function that can fail returns GIACENZA_BENE (0) or another of the codes of giacenza_tipi.h, and
+ * keeps code, text and SQLSTATE as the last error of the calling thread. A failed call has done nothing.
  *
  * TEXTS are UTF-8 and end with a zero byte. The program's own are read during the call and never kept. Those
  * that the library returns as const char* are the library's: never freed by the program. Those in a
@@ -47,13 +48,13 @@
 #define GIACENZA_SENZA_ECCEZIONI
 #endif
 
-/* The version of the library, "1.2.3". Never null; the library's. */
+/** The version of the library, "1.2.3". Never null; the library's. */
 GIACENZA_C const char* giacenza_versione(void) GIACENZA_SENZA_ECCEZIONI;
 
-/* The number of the library's binary interface: GIACENZA_ABI of the header that it was built with. */
+/** The number of the library's binary interface: GIACENZA_ABI of the header that it was built with. */
 GIACENZA_C uint32_t giacenza_abi(void) GIACENZA_SENZA_ECCEZIONI;
 
-/*
+/**
  * All that the library publishes, as JSON: class, identifiers, version, members, the event, the enumeration.
  * It is what giacenza-registra keeps in the class's descriptor. Null when there is no memory for it; the
  * library's.
@@ -62,26 +63,26 @@ GIACENZA_C const char* giacenza_descrizione(void) GIACENZA_SENZA_ECCEZIONI;
 
 /* ---- The last error of the calling thread: of its last call of a function that can fail. ---- */
 
-/* What that call returned; GIACENZA_BENE before the first. */
+/** What that call returned; GIACENZA_BENE before the first. */
 GIACENZA_C int32_t giacenza_errore_codice(void) GIACENZA_SENZA_ECCEZIONI;
 
-/*
+/**
  * What to show for it, in Italian; of GIACENZA_DATABASE the driver's own text, of GIACENZA_FALLITA the
  * member's. Empty after a success, never null. The library's, until the thread's next call of a function that
  * can fail.
  */
 GIACENZA_C const char* giacenza_errore_testo(void) GIACENZA_SENZA_ECCEZIONI;
 
-/* Its SQLSTATE, five characters, of GIACENZA_DATABASE; else empty. Never null; the library's, as long as the
+/** Its SQLSTATE, five characters, of GIACENZA_DATABASE; else empty. Never null; the library's, as long as the
  * text. */
 GIACENZA_C const char* giacenza_errore_sqlstate(void) GIACENZA_SENZA_ECCEZIONI;
 
-/* The database's own number for it, 0 when it gave none. */
+/** The database's own number for it, 0 when it gave none. */
 GIACENZA_C int32_t giacenza_errore_nativo(void) GIACENZA_SENZA_ECCEZIONI;
 
 /* ---- The user interface, for a program that has no QApplication. ---- */
 
-/*
+/**
  * Makes the QApplication that screens need, on the calling thread, which becomes the user interface's:
  * usually the first of the process. It sets the process's locale from the environment and speaks Italian.
  * Where there is one already on this thread, nothing is done.
@@ -95,7 +96,7 @@ GIACENZA_C int32_t giacenza_errore_nativo(void) GIACENZA_SENZA_ECCEZIONI;
  */
 GIACENZA_C int32_t giacenza_avvia_interfaccia(const char* programma) GIACENZA_SENZA_ECCEZIONI;
 
-/*
+/**
  * Handles what has come for the screens: keys, painting, timers, "fine". When nothing is there it waits for
  * the first thing, and returns after that. To be called again and again while a screen is open, on the thread
  * of the user interface.
@@ -111,7 +112,7 @@ GIACENZA_C int32_t giacenza_avvia_interfaccia(const char* programma) GIACENZA_SE
  */
 GIACENZA_C int32_t giacenza_elabora_eventi(int32_t millisecondi) GIACENZA_SENZA_ECCEZIONI;
 
-/*
+/**
  * Destroys the QApplication that giacenza_avvia_interfaccia() made, the last thing before a program ends; of
  * any other, and when there is none, nothing is done.
  *
@@ -122,7 +123,7 @@ GIACENZA_C int32_t giacenza_chiudi_interfaccia(void) GIACENZA_SENZA_ECCEZIONI;
 
 /* ---- Objects. ---- */
 
-/*
+/**
  * Makes an object of the class. It needs no QApplication until a screen is opened.
  *
  * oggetto: receives it; 0 when the call fails. The program releases it with giacenza_rilascia(); what it does
@@ -130,7 +131,7 @@ GIACENZA_C int32_t giacenza_chiudi_interfaccia(void) GIACENZA_SENZA_ECCEZIONI;
  */
 GIACENZA_C int32_t giacenza_crea(giacenza_oggetto* oggetto) GIACENZA_SENZA_ECCEZIONI;
 
-/*
+/**
  * The same for a class that giacenza-registra has registered: its descriptor is sought in the user's data
  * folder, then in the system's, and the object is made by the library that it names. Where that is another
  * file than this library it is loaded, stays loaded, and its object is used by the functions of this one like
@@ -144,7 +145,7 @@ GIACENZA_C int32_t giacenza_crea(giacenza_oggetto* oggetto) GIACENZA_SENZA_ECCEZ
 GIACENZA_C int32_t giacenza_crea_classe(const char* classe,
                                         giacenza_oggetto* oggetto) GIACENZA_SENZA_ECCEZIONI;
 
-/*
+/**
  * Releases an object: every screen that is loaded on its thread is closed, without "fine" for it. The number
  * is never good again. May be called inside a callback; inside a call of the same object it takes effect when
  * that ends.
@@ -154,7 +155,7 @@ GIACENZA_C int32_t giacenza_crea_classe(const char* classe,
  */
 GIACENZA_C int32_t giacenza_rilascia(giacenza_oggetto oggetto) GIACENZA_SENZA_ECCEZIONI;
 
-/*
+/**
  * Says who is told of an event of the object, in place of who was before.
  *
  * evento: GIACENZA_ID_FINE. funzione: null: nobody. utente: handed on to it, never looked at.
@@ -166,10 +167,10 @@ GIACENZA_C int32_t giacenza_ascolta(giacenza_oggetto oggetto, uint32_t evento, g
 
 /* ---- Members. ---- */
 
-/* How many are published: properties once for each kind, methods, and the event. */
+/** How many are published: properties once for each kind, methods, and the event. */
 GIACENZA_C int32_t giacenza_numero_membri(void) GIACENZA_SENZA_ECCEZIONI;
 
-/*
+/**
  * Describes one of them.
  *
  * indice: from 0, in the order of the slots, the event last. membro: receives it; its size must be set
@@ -179,7 +180,7 @@ GIACENZA_C int32_t giacenza_numero_membri(void) GIACENZA_SENZA_ECCEZIONI;
  */
 GIACENZA_C int32_t giacenza_descrivi_membro(int32_t indice, giacenza_membro* membro) GIACENZA_SENZA_ECCEZIONI;
 
-/*
+/**
  * Finds the dispatch id of a name, which the two kinds of a property share.
  *
  * nome: in any case. id: receives it; 0 when the call fails.
@@ -188,7 +189,7 @@ GIACENZA_C int32_t giacenza_descrivi_membro(int32_t indice, giacenza_membro* mem
  */
 GIACENZA_C int32_t giacenza_trova_membro(const char* nome, uint32_t* id) GIACENZA_SENZA_ECCEZIONI;
 
-/*
+/**
  * Invokes a member.
  *
  * id: its dispatch id. modo: GIACENZA_LEGGI, GIACENZA_SCRIVI or GIACENZA_METODO. argomenti: in order, exactly
@@ -204,7 +205,8 @@ GIACENZA_C int32_t giacenza_invoca(giacenza_oggetto oggetto, uint32_t id, int32_
                                    const giacenza_valore* argomenti, int32_t numero,
                                    giacenza_valore* risultato) GIACENZA_SENZA_ECCEZIONI;
 
-/* Frees the text of a result and makes it GIACENZA_VUOTO, so that twice does no harm. valore: may be null. */
+/** Frees the text of a result and makes it GIACENZA_VUOTO, so that twice does no harm. valore: may be null.
+ */
 GIACENZA_C void giacenza_libera(giacenza_valore* valore) GIACENZA_SENZA_ECCEZIONI;
 
 #undef GIACENZA_SENZA_ECCEZIONI

@@ -8,7 +8,7 @@
 
 static int guasti = 0;
 
-static void verifica(int vero, const char *cosa, int riga)
+static void verifica(int vero, const char* cosa, int riga)
 {
     if (vero)
         return;
@@ -18,10 +18,10 @@ static void verifica(int vero, const char *cosa, int riga)
 }
 #define VERIFICA(espressione) verifica((espressione) != 0, #espressione, __LINE__)
 
-static void senti(giacenza_oggetto oggetto, void *utente)
+static void senti(giacenza_oggetto oggetto, void* utente)
 {
     (void)oggetto;
-    ++*(int *)utente;
+    ++*(int*)utente;
     /* In a callback the interface stays. */
     VERIFICA(giacenza_chiudi_interfaccia() == GIACENZA_OCCUPATO);
 }
@@ -47,14 +47,15 @@ static void prova_senza_interfaccia(void)
     unsetenv("WAYLAND_DISPLAY");
     unsetenv("QT_QPA_PLATFORM");
     VERIFICA(giacenza_avvia_interfaccia("prova") == GIACENZA_SENZA_INTERFACCIA);
-    VERIFICA(strcmp(giacenza_errore_testo(), "Manca lo schermo: nessuna delle variabili DISPLAY, WAYLAND_DISPLAY e "
-                                             "QT_QPA_PLATFORM.") == 0);
+    VERIFICA(strcmp(giacenza_errore_testo(),
+                    "Manca lo schermo: nessuna delle variabili DISPLAY, WAYLAND_DISPLAY e "
+                    "QT_QPA_PLATFORM.") == 0);
     VERIFICA(giacenza_avvia_interfaccia("prov\xE0") == GIACENZA_TESTO_NON_VALIDO);
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
 }
 
 /* What the database refuses comes back with its code; no screen is open then, and nobody hears "fine". */
-static void prova_archivio_che_manca(giacenza_oggetto oggetto, int *fini)
+static void prova_archivio_che_manca(giacenza_oggetto oggetto, int* fini)
 {
     VERIFICA(giacenza_invoca(oggetto, GIACENZA_ID_NUOVA_GIACENZA, GIACENZA_METODO, NULL, 0, NULL) ==
              GIACENZA_DATABASE);
@@ -64,7 +65,7 @@ static void prova_archivio_che_manca(giacenza_oggetto oggetto, int *fini)
     VERIFICA(*fini == 0);
 }
 
-static void prova_apertura(giacenza_oggetto oggetto, const char *database, int *fini)
+static void prova_apertura(giacenza_oggetto oggetto, const char* database, int* fini)
 {
     giacenza_valore valore = {GIACENZA_TESTO, 0, NULL};
     int volte = 0;
@@ -80,7 +81,7 @@ static void prova_apertura(giacenza_oggetto oggetto, const char *database, int *
     VERIFICA(strcmp(giacenza_errore_testo(), "Un oggetto non è stato rilasciato.") == 0);
 }
 
-int main(int argc, char **argv)
+int main(int argc, char** argv)
 {
     giacenza_oggetto oggetto = 0;
     giacenza_valore valore = {GIACENZA_TESTO, 0, "DRIVER={Nessuno};Database=x"};
