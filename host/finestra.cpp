@@ -8,6 +8,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QSettings>
 #include <QTime>
 #include <QWindow>
 
@@ -27,6 +28,8 @@ namespace deposito {
 using giacenza::cGiacenza;
 
 namespace {
+
+const QString voceGeometria = u"finestra/geometria"_s;
 
 /// The masked date as typed; empty when nothing was typed.
 QString dataTypata(const QLineEdit& campo)
@@ -57,7 +60,8 @@ QIcon icona()
 
 Finestra::Finestra(const Opzioni& opzioni, QWidget* parent)
     : QMainWindow(parent), mUi(std::make_unique<Ui::finestraDeposito>()),
-      mGiacenza(std::make_unique<cGiacenza>())
+      mGiacenza(std::make_unique<cGiacenza>()),
+      mAiuto(*this, opzioni, [this](const QString& testo) { mostraMessaggio(testo); })
 {
     mUi->setupUi(this);
     mUi->fraMessaggio->hide();
@@ -100,7 +104,9 @@ void Finestra::apparecchia(const Opzioni& opzioni)
     mUi->verticale->addWidget(mDesk, 1);
     mDesk->azioni().riempiElenco(mUi->menuElenco);
     mDesk->azioni().riempiCaso(mUi->menuCaso);
+    mAiuto.riempi(mUi->menuFile, mUi->menuAiuto);
     mDesk->setFocus();
+    restoreGeometry(QSettings().value(voceGeometria).toByteArray());
 }
 
 void Finestra::collega()
@@ -232,6 +238,7 @@ void Finestra::closeEvent(QCloseEvent* evento)
         return;
     }
     evento->accept();
+    QSettings().setValue(voceGeometria, saveGeometry());
     // The screens do not keep the program alive, nor do they end it: the host's window does.
     QCoreApplication::quit();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "aiuto.h"
 #include "opzioni.h"
 
 #include <giacenza/cGiacenza.h>
@@ -36,6 +37,9 @@ public:
     explicit Finestra(const Opzioni& opzioni, QWidget* parent = nullptr);
     ~Finestra() override;
 
+    /// Brings the window before the operator, wherever it is.
+    void vieniAvanti();
+
 protected:
     bool event(QEvent* evento) override;
     void closeEvent(QCloseEvent* evento) override;
@@ -54,12 +58,11 @@ private:
     void mostraMessaggio(const QString& testo);
     void nascondiMessaggio();
     void sopraLeSchermate(bool sopra);
-    /// Brings the window before the operator, wherever it is.
-    void vieniAvanti();
 
     std::unique_ptr<Ui::finestraDeposito> mUi;
     std::unique_ptr<giacenza::cGiacenza> mGiacenza;
     giacenza::desk::FinestraDesk* mDesk = nullptr;
+    Aiuto mAiuto;
     bool mUscitaAnnunciata = false;
 };
 

@@ -1,6 +1,9 @@
 #include "finestra.h"
+#include "host/avvio/avvio.h"
+#include "host/avvio/istanzaunica.h"
 
 #include <QApplication>
+#include <QSettings>
 
 namespace {
 
@@ -11,6 +14,18 @@ namespace {
     deposito::parlaItaliano(applicazione);
     deposito::leggiOpzioni(applicazione);
     qFatal("the command line asked for a text and gave none");
+}
+
+/// The archive of a start that names none; false when the operator gave up.
+bool trovaArchivio(deposito::Opzioni& opzioni)
+{
+    if (!opzioni.database.isEmpty() || !opzioni.guasto.isEmpty())
+        return true;
+    QSettings impostazioni;
+    deposito::PortachiaviDiSistema portachiavi;
+    const auto scelto = deposito::Avvio(impostazioni, portachiavi).archivio(nullptr);
+    opzioni.database = scelto.value_or(QString());
+    return scelto.has_value();
 }
 
 } // namespace
@@ -25,7 +40,17 @@ int main(int argc, char* argv[])
     QApplication::setQuitOnLastWindowClosed(false);
     deposito::parlaItaliano(applicazione);
 
-    deposito::Finestra finestra(deposito::leggiOpzioni(applicazione));
+    deposito::Opzioni opzioni = deposito::leggiOpzioni(applicazione);
+    deposito::IstanzaUnica unica(opzioni.ini, opzioni.database);
+    if (!opzioni.nuova) {
+        if (unica.chiama())
+            return 0;
+        unica.ascolta();
+    }
+    if (!trovaArchivio(opzioni))
+        return 0;
+    deposito::Finestra finestra(opzioni);
+    QObject::connect(&unica, &deposito::IstanzaUnica::chiamata, &finestra, &deposito::Finestra::vieniAvanti);
     finestra.show();
     return QApplication::exec();
 }

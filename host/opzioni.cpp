@@ -26,6 +26,7 @@ const QString nomeDatabase = u"database"_s;
 const QString nomeFileDatabase = u"database-file"_s;
 const QString nomeIni = u"ini"_s;
 const QString nomeLogo = u"logo"_s;
+const QString nomeNuova = u"nuova"_s;
 
 void aggiungiOpzioni(QCommandLineParser& riga)
 {
@@ -41,6 +42,7 @@ void aggiungiOpzioni(QCommandLineParser& riga)
          u"file"_s},
         {nomeIni, u"File delle impostazioni."_s, u"file"_s},
         {nomeLogo, u"Logo stampato in testa all'avviso di giacenza."_s, u"file"_s},
+        {nomeNuova, u"Apre un'altra finestra, anche se il programma è già aperto."_s},
     });
 }
 
@@ -103,7 +105,8 @@ Opzioni leggiOpzioni(const QCoreApplication& applicazione)
     const StringaArchivio archivio = leggiArchivio(fonteArchivio(riga), ingresso);
     const QString dati = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     return {archivio.stringa, oppure(riga, nomeIni, dati + u"/giacenza/giacenza.ini"_s),
-            oppure(riga, nomeLogo, QCoreApplication::applicationDirPath() + u"/logo.gif"_s), archivio.guasto};
+            oppure(riga, nomeLogo, QCoreApplication::applicationDirPath() + u"/logo.gif"_s), archivio.guasto,
+            riga.isSet(nomeNuova)};
 }
 
 bool parlaItaliano(QCoreApplication& applicazione)

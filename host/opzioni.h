@@ -9,10 +9,11 @@ namespace deposito {
 /// What the host hands on to the component.
 struct Opzioni
 {
-    QString database; ///< ODBC connection string; empty when none was given
-    QString ini;      ///< settings file
-    QString logo;     ///< letterhead logo, a file
-    QString guasto{}; ///< why the connection string could not be read, for the operator; else empty
+    QString database;   ///< ODBC connection string; empty when none was given
+    QString ini;        ///< settings file
+    QString logo;       ///< letterhead logo, a file
+    QString guasto{};   ///< why the connection string could not be read, for the operator; else empty
+    bool nuova = false; ///< a window of its own, also beside one that works on the same archive
 };
 
 /// Names the program: its settings, and what a desktop calls it.

@@ -16,9 +16,9 @@ constexpr int attesa = 1000;
 
 } // namespace
 
-IstanzaUnica::IstanzaUnica(const QString& fileIni, QObject* padre) : QObject(padre)
+IstanzaUnica::IstanzaUnica(const QString& fileIni, const QString& archivio, QObject* padre) : QObject(padre)
 {
-    const QString chi = QDir::homePath() + u'\n' + QFileInfo(fileIni).absoluteFilePath();
+    const QString chi = QDir::homePath() + u'\n' + QFileInfo(fileIni).absoluteFilePath() + u'\n' + archivio;
     const QByteArray impronta = QCryptographicHash::hash(chi.toUtf8(), QCryptographicHash::Sha256);
     mNome = u"deposito-"_s + QString::fromLatin1(impronta.toHex().left(24));
     mServer.setSocketOptions(QLocalServer::UserAccessOption);

@@ -10,8 +10,9 @@ class IstanzaUnica : public QObject
     Q_OBJECT
 
 public:
-    /// fileIni: the settings that this start works with.
-    explicit IstanzaUnica(const QString& fileIni, QObject* padre = nullptr);
+    /// fileIni: the settings that this start works with. archivio: the connection string that it was given,
+    /// empty when it takes what was chosen: another archive is another program.
+    explicit IstanzaUnica(const QString& fileIni, const QString& archivio = {}, QObject* padre = nullptr);
 
     /// Asks the program that runs already to come up; false when none does.
     bool chiama() const;
