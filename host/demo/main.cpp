@@ -1,3 +1,4 @@
+#include "aspetto.h"
 #include "gestione.h"
 #include "registrazione.h"
 #include "riconsegna.h"
@@ -5,7 +6,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
-#include <QFont>
 
 #include <cstdio>
 
@@ -51,9 +51,11 @@ int main(int argc, char** argv)
     opzioni.addOptions({{u"cartella"_s, u"Dove restano immagini e documenti."_s, u"cartella"_s},
                         {u"database"_s, u"Stringa di connessione; altrimenti è in GIACENZA_DATABASE."_s,
                          u"stringa"_s, qEnvironmentVariable("GIACENZA_DATABASE")}});
+    aggiungiAspetto(opzioni);
     opzioni.addHelpOption();
     opzioni.process(applicazione);
     try {
+        impostaAspetto(opzioni);
         return racconta(opzioni.value(u"cartella"_s), opzioni.value(u"database"_s));
     } catch (const std::exception& errore) {
         std::fprintf(stderr, "La dimostrazione si è fermata: %s\n", errore.what());

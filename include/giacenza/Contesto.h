@@ -44,6 +44,10 @@ struct Contesto
     /// it. Empty where the host that made the context has none: the part must look. A part shows no box of
     /// its own.
     std::function<void(const Racconto& racconto)> racconta{};
+
+    /// Tells the component which file holds the document that the part has made (absolute): the screen opens
+    /// it when the operator asks. May be empty, as above.
+    std::function<void(const QString& file)> documento{};
 };
 
 /// What a part from outside also implements when it wants the context. The component hands it over right

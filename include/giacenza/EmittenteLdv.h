@@ -49,7 +49,8 @@ public:
     /// Issues the follow-up of a waybill.
     ///
     /// ldv: the waybill that was held; it lives as long as the call.
-    /// Returns what was issued, in words for a status line; empty when nothing was.
+    /// Returns what was issued, in words for a status line, also when something of it went wrong afterwards
+    /// or when it is not known whether it was; empty only when nothing was.
     virtual QString emetti(const RecordLdv& ldv) = 0;
 };
 

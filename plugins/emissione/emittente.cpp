@@ -12,7 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace giacenza::emissione {
 
-/// The host may have none that listens; then the reason stands in its log at least.
 namespace {
 
 /// What did not work, told apart from what was refused.
@@ -22,7 +21,14 @@ public:
     using Errore::Errore;
 };
 
+QString nome(const LdvEmessa& ldv)
+{
+    return u"lettera di vettura %1/%2"_s.arg(ldv.numero, QString::number(ldv.anno));
+}
+
 } // namespace
+
+/// The host may have none that listens; then the reason stands in its log at least.
 
 void EmittenteDeposito::racconta(const QString& testo, Tono tono) const
 {
@@ -36,6 +42,9 @@ QString EmittenteDeposito::emetti(const RecordLdv& ldv)
 {
     try {
         return emettiOLancia(ldv);
+    } catch (const ErroreEsitoIgnoto& ignoto) {
+        racconta(ignoto.testo(), Tono::guasto);
+        return ignoto.testo();
     } catch (const Guasto& guasto) {
         racconta(guasto.testo(), Tono::guasto);
     } catch (const Errore& rifiuto) {
@@ -57,14 +66,24 @@ void EmittenteDeposito::controllaCartella() const
                 QDir::toNativeSeparators(mCartellaStampa)));
 }
 
-/// Returns the file as the operator reads it.
+/// Returns what is said of it: it was issued already, whatever becomes of the paper.
 QString EmittenteDeposito::stampaLdv(Connessione& connessione, const LdvEmessa& emessa) const
 {
-    const auto byte = comune::pdf(*componiLdv(connessione, emessa, mPercorsoLogo, mContesto.piede), nullptr);
-    const QString file = comune::archivia(
-        mCartellaStampa, u"LDV_%1_%2_%3"_s.arg(emessa.filiale, emessa.numero, QString::number(emessa.anno)),
-        byte.value());
-    return QDir::toNativeSeparators(file);
+    try {
+        const auto byte =
+            comune::pdf(*componiLdv(connessione, emessa, mPercorsoLogo, mContesto.piede), nullptr);
+        const QString chiave =
+            u"LDV_%1_%2_%3"_s.arg(emessa.filiale, emessa.numero, QString::number(emessa.anno));
+        const QString file = comune::archivia(mCartellaStampa, chiave, byte.value());
+        if (mContesto.documento)
+            mContesto.documento(file);
+        return u"stampata in %1"_s.arg(QDir::toNativeSeparators(file));
+    } catch (const std::exception& errore) {
+        racconta(u"La %1 è stata emessa, ma non è stata stampata.\n\n%2"_s.arg(
+                     nome(emessa), QString::fromUtf8(errore.what())),
+                 Tono::guasto);
+        return u"non stampata."_s;
+    }
 }
 
 QString EmittenteDeposito::emettiOLancia(const RecordLdv& ldv) const
@@ -82,19 +101,9 @@ QString EmittenteDeposito::emettiOLancia(const RecordLdv& ldv) const
         throw Guasto(u"La nuova lettera di vettura non è stata emessa: il database non ha accettato "
                      "l'operazione.\n\n%1"_s.arg(errore.testo()));
     }
-    const QString nome = u"lettera di vettura %1/%2"_s.arg(emessa.numero, QString::number(emessa.anno));
     if (!mStampa)
-        return u"Emessa la %1."_s.arg(nome);
-    const auto nonStampata = [&](const QString& motivo) {
-        return Guasto(u"La %1 è stata emessa, ma non è stata stampata.\n\n%2"_s.arg(nome, motivo));
-    };
-    try {
-        return u"Emessa la %1, stampata in %2"_s.arg(nome, stampaLdv(connessione, emessa));
-    } catch (const Errore& errore) {
-        throw nonStampata(errore.testo());
-    } catch (const std::exception& errore) {
-        throw nonStampata(QString::fromUtf8(errore.what()));
-    }
+        return u"Emessa la %1."_s.arg(nome(emessa));
+    return u"Emessa la %1, %2"_s.arg(nome(emessa), stampaLdv(connessione, emessa));
 }
 
 } // namespace giacenza::emissione

@@ -157,10 +157,10 @@ void conferma(Transazione& transazione, const Connessione& connessione, const Ld
     } catch (const ErroreDatabase&) {
         if (connessione.aperta())
             throw;
-        throw Errore(
+        throw ErroreEsitoIgnoto(
             u"Non si sa se la lettera di vettura %1/%2 è stata emessa: la connessione è caduta mentre "
-            u"l'archivio "
-            "la confermava. Cercarla prima di ripetere."_s.arg(chiave.numero, QString::number(chiave.anno)));
+            "l'archivio la confermava. Cercarla prima di ripetere."_s.arg(chiave.numero,
+                                                                          QString::number(chiave.anno)));
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/esitoignoto.h"
 #include "database/connessione.h"
 
 #include <giacenza/Contesto.h>
@@ -24,7 +25,8 @@ struct LdvEmessa
 /// With the check on, the held shipment is counted again inside the transaction.
 ///
 /// Throws Errore, with a text for the operator, when the record is empty, when the sender of a return is not
-/// among the customers, and when another workstation was faster; ErroreDatabase for the rest.
+/// among the customers, and when another workstation was faster; ErroreEsitoIgnoto when
+/// the connection went while the database confirmed; ErroreDatabase for the rest.
 LdvEmessa emettiLdv(Connessione& connessione, const RecordLdv& originale, const Contesto& contesto);
 
 } // namespace giacenza

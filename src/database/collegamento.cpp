@@ -105,6 +105,17 @@ void Collegamento::terminaTransazione(SQLSMALLINT come)
     verifica(SQLEndTran(SQL_HANDLE_DBC, mManiglia, come), SQL_HANDLE_DBC, mManiglia);
 }
 
+QByteArray Collegamento::base() const
+{
+    if (mDialetto != Dialetto::mariadb)
+        return {};
+    QByteArray nome(256, '\0');
+    SQLSMALLINT lunghezza = 0;
+    const SQLRETURN esito = SQLGetInfo(mManiglia, SQL_DATABASE_NAME, nome.data(),
+                                       static_cast<SQLSMALLINT>(nome.size()), &lunghezza);
+    return SQL_SUCCEEDED(esito) ? QByteArray(nome.constData()) : QByteArray();
+}
+
 bool Collegamento::viva() noexcept
 {
     SQLUINTEGER morta = SQL_CD_FALSE;

@@ -29,6 +29,9 @@ public:
     const Limiti& limiti() const noexcept { return mLimiti; }
     SQLHDBC maniglia() const noexcept { return mManiglia; }
 
+    /// The name of the base that the connection works in, in UTF-8; empty where the driver knows none.
+    QByteArray base() const;
+
     /// Asks the driver whether the server is still there; a connection that is not is lost from here on.
     bool viva() noexcept;
 

@@ -72,8 +72,13 @@ void Istruzione::eseguiConValori(const QString& testo, std::span<const Valore> p
 void Istruzione::elencaTabelle()
 {
     const SQLHSTMT maniglia = viva();
-    mCollegamento->sorveglia(
-        [&] { controlla(SQLTables(maniglia, nullptr, 0, nullptr, 0, nullptr, 0, nullptr, 0)); });
+    // Without a name MariaDB's driver lists the tables of every base that the user sees.
+    QByteArray base = mCollegamento->base();
+    SQLCHAR* catalogo = base.isEmpty() ? nullptr : testoOdbc(base);
+    mCollegamento->sorveglia([&] {
+        controlla(SQLTables(maniglia, catalogo, static_cast<SQLSMALLINT>(base.size()), nullptr, 0, nullptr, 0,
+                            nullptr, 0));
+    });
 }
 
 void Istruzione::invia(const QString& testo)

@@ -32,8 +32,9 @@ private:
 /// Has the host's issuer make the waybill that follows: hands over the shared connection string, the print
 /// folder and the logo of the program's folder, the print flag, true, and then the record.
 ///
-/// Returns what was issued, in the issuer's words; empty when nothing was. Throws Errore when there is no
-/// issuer, and for whatever the issuer throws at any step; the rest of the hand-over is then skipped.
+/// Returns what was issued, or may have been, in the issuer's words; empty when nothing was. Throws Errore
+/// when there is no issuer, and for whatever the issuer throws at any step; the rest of the hand-over is then
+/// skipped.
 QString EmettiRiconsegna(const RecordLdv& ldv, bool stampa, const Contesto& contesto);
 
 } // namespace giacenza

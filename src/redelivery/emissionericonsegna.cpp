@@ -127,6 +127,7 @@ bool EmissioneRiconsegna::accettato(const std::optional<ContoRiconsegne>& conto)
 Contesto EmissioneRiconsegna::contesto(const Scelte& scelte,
                                        const std::optional<ContoRiconsegne>& conto) const
 {
+    // Without a date nobody knows which year's held shipment the number is: then none is named.
     const auto giorno = mParti.dataGiacenza.giorno();
     const Movimento movimento = impostazioni().movimento;
     const QPointer<QWidget> finestra = &mSchermata;
@@ -137,13 +138,17 @@ Contesto EmissioneRiconsegna::contesto(const Scelte& scelte,
     return {.lavoro = etichettaReso(movimento),
             .resoAMittente = movimento == Movimento::reso,
             .porto = scelte.porto.toInt(),
-            .numeroGiacenza = mParti.caso.numero(),
+            .numeroGiacenza = giorno ? mParti.caso.numero() : QString(),
             .annoGiacenza = giorno ? giorno->year() : 0,
             .controlloGiacenza = scelte.controllo,
             .riconsegne = conto ? conto->riconsegne : 0,
             .oggi = oggi(),
             .finestra = finestra,
-            .racconta = racconta};
+            .racconta = racconta,
+            .documento = [finestra, stampa = &mParti.stampa](const QString& file) {
+                if (finestra)
+                    stampa->ricorda(file);
+            }};
 }
 
 void EmissioneRiconsegna::emetti(const LdvLetta& ldv, bool stampa, const Contesto& contesto)
@@ -157,10 +162,12 @@ void EmissioneRiconsegna::emetti(const LdvLetta& ldv, bool stampa, const Contest
             esito = errore.testo();
         }
     });
-    mSchermata.stato(esito.isEmpty()
-                         ? u"Nessuna lettera di vettura è stata emessa. Per riprovare uscire e riaprire "
-                           "questa schermata."_s
-                         : esito);
+    if (esito.isEmpty())
+        esito =
+            u"Nessuna lettera di vettura è stata emessa. Per riprovare uscire e riaprire questa schermata."_s;
+    if (!mParti.dataGiacenza.giorno())
+        esito += u" Manca la data della giacenza: non si sa di quale giacenza sia la LDV."_s;
+    mSchermata.stato(esito);
 }
 
 } // namespace giacenza

@@ -11,6 +11,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QScreen>
 
 #include <utility>
@@ -32,8 +33,11 @@ constexpr const char* numeriDigitati[] = {"txtCodiceCli", "txtLDV", "txtRiferime
 
 Disposizione::Disposizione(QWidget* schermata) : QObject(schermata), mSchermata(schermata)
 {
-    if (auto* area = schermata->findChild<AreaForma*>())
+    if (auto* area = schermata->findChild<AreaForma*>()) {
         area->setColonne(schermata->findChild<QBoxLayout*>(u"layFrame2"_s));
+        static const QRegularExpression righe(u"^riga"_s);
+        area->setRigheDivisibili(schermata->findChildren<QBoxLayout*>(righe));
+    }
     for (const char* nome : numeriDigitati)
         if (auto* campo = schermata->findChild<QLineEdit*>(QLatin1String(nome)))
             togliSpaziUscendo(campo);

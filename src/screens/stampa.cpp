@@ -46,9 +46,16 @@ EsitoStampa guida(ModuloStampa& modulo, QWidget* schermata, TipoDocumento tipo, 
     modulo.setStampa(true);
     modulo.setTipoDocumento(tipo);
     bool nonProdotto = false;
-    modulo.stampaDocumento(chiave, nonProdotto);
+    try {
+        modulo.stampaDocumento(chiave, nonProdotto);
+    } catch (...) {
+        return {.motivo = testoErrore(), .file = documentoArchiviato()};
+    }
+    // What a module has kept before its printer failed can still be opened.
     if (nonProdotto)
-        return {.raccontato = true, .motivo = u"Il modulo di stampa non ha prodotto il documento."_s};
+        return {.raccontato = true,
+                .motivo = u"Il modulo di stampa non ha prodotto il documento."_s,
+                .file = documentoArchiviato()};
     return {.prodotto = true, .file = documentoArchiviato()};
 }
 

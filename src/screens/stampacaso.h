@@ -24,6 +24,9 @@ public:
     void stampa(TipoDocumento tipo, const ChiaveGiacenza& caso, const std::array<QString, 4>& didascalie,
                 const TestiStampa& testi);
 
+    /// A document that a part has made on its own: Ctrl+O opens it from now on.
+    void ricorda(const QString& file) { mFile = file; }
+
 private:
     void apri();
 

@@ -5,6 +5,8 @@
 #include <QEvent>
 #include <QScrollBar>
 
+#include <utility>
+
 namespace giacenza {
 
 namespace {
@@ -12,6 +14,15 @@ namespace {
 constexpr int margineFuoco = 12;
 /// Between the content and its scroll bar.
 constexpr int distacco = 6;
+
+/// What the parts of a layout need side by side, whichever way they lie now.
+int larghezzaInFila(const QBoxLayout& parti)
+{
+    int larghezza = 0;
+    for (int i = 0; i < parti.count(); ++i)
+        larghezza += parti.itemAt(i)->minimumSize().width() + (i ? parti.spacing() : 0);
+    return larghezza;
+}
 
 } // namespace
 
@@ -31,14 +42,15 @@ void AreaForma::setColonne(QBoxLayout* colonne)
     disponi();
 }
 
+void AreaForma::setRigheDivisibili(const QList<QBoxLayout*>& righe)
+{
+    mRighe = {righe.begin(), righe.end()};
+    disponi();
+}
+
 int AreaForma::larghezzaAffiancate() const
 {
-    if (!widget() || !mColonne)
-        return 0;
-    int larghezza = 0;
-    for (int i = 0; i < mColonne->count(); ++i)
-        larghezza += mColonne->itemAt(i)->minimumSize().width() + (i ? mColonne->spacing() : 0);
-    return larghezza;
+    return widget() && mColonne ? larghezzaInFila(*mColonne) : 0;
 }
 
 QSize AreaForma::ingombro() const
@@ -54,11 +66,26 @@ void AreaForma::disponi()
     if (!mColonne)
         return;
     // Counted with the bar, whether it is there or not: the columns must not come and go with it.
-    const int barra = verticalScrollBar()->sizeHint().width();
-    const bool strette = width() - barra - distacco < larghezzaAffiancate();
+    const int spazio = width() - verticalScrollBar()->sizeHint().width() - distacco;
+    const bool strette = spazio < larghezzaAffiancate();
     const auto verso = strette ? QBoxLayout::BottomToTop : QBoxLayout::LeftToRight;
     if (mColonne->direction() != verso)
         mColonne->setDirection(verso);
+    for (QBoxLayout* riga : std::as_const(mRighe))
+        if (riga)
+            disponiRiga(*riga, spazio);
+}
+
+void AreaForma::disponiRiga(QBoxLayout& riga, int spazio)
+{
+    if (riga.geometry().isEmpty())
+        return; // not laid out yet
+    // What lies beside the row in the form takes its part.
+    const int intorno = widget()->width() - riga.geometry().width();
+    const bool stretta = spazio < larghezzaInFila(riga) + intorno;
+    const auto verso = stretta ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
+    if (riga.direction() != verso)
+        riga.setDirection(verso);
 }
 
 void AreaForma::resizeEvent(QResizeEvent* evento)

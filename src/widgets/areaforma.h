@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QPointer>
 #include <QScrollArea>
 
@@ -20,6 +21,9 @@ public:
     /// stacked.
     void setColonne(QBoxLayout* colonne);
 
+    /// Rows of the content whose second half goes below the first where they do not fit side by side.
+    void setRigheDivisibili(const QList<QBoxLayout*>& righe);
+
     /// What the content needs with its columns side by side.
     QSize ingombro() const;
 
@@ -31,10 +35,12 @@ protected:
 
 private:
     void disponi();
+    void disponiRiga(QBoxLayout& riga, int spazio);
     int larghezzaAffiancate() const;
     void segui(QWidget* conFuoco);
 
     QPointer<QBoxLayout> mColonne;
+    QList<QPointer<QBoxLayout>> mRighe;
 };
 
 } // namespace giacenza

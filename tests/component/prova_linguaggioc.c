@@ -1,7 +1,11 @@
 /* A program in C, without Qt: the library itself, from the first call to the last. */
 
+/* For RTLD_DEFAULT. */
+#define _GNU_SOURCE
+
 #include <giacenza/giacenza.h>
 
+#include <dlfcn.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
@@ -22,8 +26,16 @@ static void senti(giacenza_oggetto oggetto, void* utente)
 {
     (void)oggetto;
     ++*(int*)utente;
-    /* In a callback the interface stays. */
+}
+
+/* Releases the object that tells it; the interface stays all the same until the callback has returned. */
+static void senti_e_rilascia(giacenza_oggetto oggetto, void* utente)
+{
+    ++*(int*)utente;
+    VERIFICA(giacenza_rilascia(oggetto) == GIACENZA_BENE);
     VERIFICA(giacenza_chiudi_interfaccia() == GIACENZA_OCCUPATO);
+    VERIFICA(strcmp(giacenza_errore_testo(), "Una chiamata è in corso.") == 0);
+    VERIFICA(giacenza_rilascia(oggetto) == GIACENZA_OGGETTO_IGNOTO);
 }
 
 static void prova_senza_interfaccia(void)
@@ -81,6 +93,26 @@ static void prova_apertura(giacenza_oggetto oggetto, const char* database, int* 
     VERIFICA(strcmp(giacenza_errore_testo(), "Un oggetto non è stato rilasciato.") == 0);
 }
 
+/* The operator closes the screen; a program in C has no other way to do it than Qt's own, which is loaded. */
+static void prova_chiusura(const char* database)
+{
+    void (*chiudi_tutto)(void) = NULL;
+    void* const indirizzo = dlsym(RTLD_DEFAULT, "_ZN12QApplication15closeAllWindowsEv");
+    giacenza_oggetto oggetto = 0;
+    int fini = 0;
+    VERIFICA(indirizzo != NULL);
+    VERIFICA(giacenza_crea(&oggetto) == GIACENZA_BENE);
+    prova_apertura(oggetto, database, &fini);
+    VERIFICA(giacenza_ascolta(oggetto, GIACENZA_ID_FINE, senti_e_rilascia, &fini) == GIACENZA_BENE);
+    memcpy(&chiudi_tutto, &indirizzo, sizeof chiudi_tutto);
+    if (chiudi_tutto)
+        chiudi_tutto();
+    VERIFICA(fini == 1);
+    VERIFICA(giacenza_rilascia(oggetto) == GIACENZA_OGGETTO_IGNOTO);
+    VERIFICA(giacenza_elabora_eventi(1) == GIACENZA_BENE);
+    VERIFICA(fini == 1);
+}
+
 int main(int argc, char** argv)
 {
     giacenza_oggetto oggetto = 0;
@@ -102,6 +134,7 @@ int main(int argc, char** argv)
     VERIFICA(giacenza_rilascia(oggetto) == GIACENZA_BENE);
     VERIFICA(fini == 0);
     VERIFICA(giacenza_elabora_eventi(1) == GIACENZA_BENE);
+    prova_chiusura(argv[1]);
     VERIFICA(giacenza_chiudi_interfaccia() == GIACENZA_BENE);
     VERIFICA(giacenza_elabora_eventi(0) == GIACENZA_SENZA_INTERFACCIA);
     /* And once more from the beginning. */

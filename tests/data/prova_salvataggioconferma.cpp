@@ -5,7 +5,7 @@
 #include "support/bancadati.h"
 #include "support/spedizioni.h"
 #include "support/stampa.h"
-#include "tagliaconferma.h"
+#include "support/tagliaconferma.h"
 
 #include <gmock/gmock.h>
 

@@ -6,6 +6,7 @@
 #include "support/spedizioni.h"
 #include "support/stampa.h"
 
+#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <gmock/gmock.h>
@@ -43,8 +44,13 @@ struct Esito
 class InCorso
 {
 public:
-    InCorso(const std::string& nome, QProcessEnvironment ambiente, const QStringList& argomenti)
+    /// ambiente: which display. casa: a folder in which it keeps what it may want to keep.
+    InCorso(const std::string& nome, QProcessEnvironment ambiente, const QString& casa,
+            const QStringList& argomenti)
     {
+        for (const QString& cartella :
+             {u"HOME"_s, u"XDG_DATA_HOME"_s, u"XDG_CONFIG_HOME"_s, u"XDG_RUNTIME_DIR"_s})
+            ambiente.insert(cartella, casa);
         const Ospite quale = ospite(nome);
         ambiente.insert(u"GIACENZA_LIBRERIA"_s, QStringLiteral(LIBRERIA));
         ambiente.insert(u"PYTHONDONTWRITEBYTECODE"_s, u"1"_s);
@@ -84,14 +90,6 @@ protected:
         return unico;
     }
 
-    QProcessEnvironment ambiente() const
-    {
-        QProcessEnvironment ambiente = schermo()->ambiente();
-        for (const QString& nome :
-             {u"HOME"_s, u"XDG_DATA_HOME"_s, u"XDG_CONFIG_HOME"_s, u"XDG_RUNTIME_DIR"_s})
-            ambiente.insert(nome, mCasa.path());
-        return ambiente;
-    }
     QStringList argomenti(const QString& database) const
     {
         return {database, mCasa.filePath(u"giacenza.ini"_s), mCasa.filePath(u"logo.gif"_s)};
@@ -114,7 +112,7 @@ TEST_P(Esempi, ApreAscoltaLaFineEFinisce)
 {
     const BancaDati base(std::get<1>(GetParam()));
     riempiDeposito(base);
-    InCorso processo(quale(), ambiente(), argomenti(base.stringa()));
+    InCorso processo(quale(), schermo()->ambiente(), mCasa.path(), argomenti(base.stringa()));
     schermo()->premi(u"Registrazione giacenza"_s, u"alt+F4"_s);
     const Esito esito = processo.esito();
     EXPECT_EQ(esito.uscita, "fine\n") << "once";
@@ -127,7 +125,7 @@ TEST_P(Esempi, DicePercheNonSiApre)
     QString database = u"DRIVER={SQLite3};Database="_s + mCasa.filePath(u"manca.db"_s);
     if (std::get<1>(GetParam()) == "mariadb")
         database = u"DRIVER={MariaDB Unicode};SERVER=127.0.0.1;PORT=1;UID=x;PWD=x;DATABASE=x"_s;
-    InCorso processo(quale(), ambiente(), argomenti(database));
+    InCorso processo(quale(), schermo()->ambiente(), mCasa.path(), argomenti(database));
     const Esito esito = processo.esito();
     EXPECT_EQ(esito.codice, 1);
     EXPECT_EQ(esito.uscita, "");
@@ -137,10 +135,11 @@ TEST_P(Esempi, DicePercheNonSiApre)
 
 TEST(EsempiRiga, UnaRigaSbagliata)
 {
+    const QTemporaryDir casa;
     QProcessEnvironment ambiente = QProcessEnvironment::systemEnvironment();
     ambiente.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
     for (const char* nome : {"c", "python", "cpp"}) {
-        const Esito esito = InCorso(nome, ambiente, {u"solo uno"_s}).esito();
+        const Esito esito = InCorso(nome, ambiente, casa.path(), {u"solo uno"_s}).esito();
         EXPECT_EQ(esito.codice, 2) << nome;
         EXPECT_THAT(esito.errori, testing::StartsWith("Uso: ospite"));
         EXPECT_EQ(esito.uscita, "");
@@ -168,4 +167,20 @@ TEST(EsempiTardi, CaricaLaLibreriaEdElencaIMembri)
 0x6003000c metodo Esegui, 2 argomenti
 0x00000001 evento fine, 0 argomenti
 )");
+}
+
+TEST(EsempiRegistra, LInstallataRegistraLaLibreriaInstallata)
+{
+    const QTemporaryDir casa;
+    QProcessEnvironment ambiente = QProcessEnvironment::systemEnvironment();
+    ambiente.insert(u"XDG_DATA_HOME"_s, casa.path());
+    QProcess processo;
+    processo.setProcessEnvironment(ambiente);
+    processo.start(QStringLiteral(LAVORO "/installato/bin/giacenza-registra"), {});
+    ASSERT_TRUE(processo.waitForFinished(60'000));
+    EXPECT_EQ(processo.readAllStandardError().toStdString(), "");
+    EXPECT_EQ(processo.exitCode(), 0);
+    EXPECT_THAT(QString::fromUtf8(processo.readAllStandardOutput()).toStdString(),
+                testing::HasSubstr(QStringLiteral("\nLibreria: " LIBRERIA "\n").toStdString()));
+    EXPECT_TRUE(QFileInfo::exists(QStringLiteral(LAVORO "/installato/share/man/man1/giacenza-registra.1")));
 }

@@ -83,6 +83,8 @@ TEST_P(RichiamoCliente, PerClienteSiPrendeLaRigaConITasti)
     EXPECT_EQ(mostrato("barCliente"), u"Ferramenta Lombarda S.r.l."_s);
     QString ldv;
     nelDialogo([&](QDialog& dialogo) {
+        EXPECT_EQ(dialogo.windowTitle(), u"Ricerca Giacenze"_s) << "as on the re-delivery screen";
+        EXPECT_EQ(trova<QLabel>(dialogo, u"lblRif"_s)->text(), u"Num. LDV"_s);
         EXPECT_EQ(trova<QLabel>(dialogo, u"lblCliente"_s)->text(), u"Ferramenta Lombarda S.r.l."_s);
         auto* griglia = trova<QTableView>(dialogo, u"Griglia"_s);
         ASSERT_EQ(griglia->model()->rowCount(), 3);

@@ -7,7 +7,10 @@
 #include "support/modale.h"
 #include "support/stampa.h"
 
+#include <QDesktopServices>
 #include <QLabel>
+#include <QTest>
+#include <QUrl>
 
 using namespace giacenza;
 using namespace giacenza::prove;
@@ -15,6 +18,21 @@ using namespace Qt::StringLiterals;
 using testing::IsEmpty;
 
 namespace {
+
+/// Takes the place of the desktop's programs for files.
+class AperturaDiProva : public QObject
+{
+    Q_OBJECT
+
+public:
+    AperturaDiProva() { QDesktopServices::setUrlHandler(u"file"_s, this, "apri"); }
+    ~AperturaDiProva() override { QDesktopServices::unsetUrlHandler(u"file"_s); }
+
+    QList<QUrl> aperti;
+
+public Q_SLOTS:
+    void apri(const QUrl& file) { aperti << file; }
+};
 
 class RiconsegnaGuasti : public EmissioneDiProva
 {
@@ -71,6 +89,39 @@ TEST_P(RiconsegnaGuasti, SenzaEmittenteLoDiceLaRigaDiStatoEIlBottoneSiSpegne)
     EXPECT_FALSE(bottoneAcceso());
 }
 
+TEST_P(RiconsegnaGuasti, SoloCioCheNonEStatoEmessoSiDiceNonEmesso)
+{
+    mEmissioni.esito = QString();
+    cerca(u"950"_s);
+    emetti();
+    EXPECT_EQ(stato()->text(), u"Nessuna lettera di vettura è stata emessa. Per riprovare uscire e riaprire "
+                               "questa schermata."_s);
+    EXPECT_FALSE(bottoneAcceso());
+}
+
+TEST_P(RiconsegnaGuasti, SenzaLaDataNessunaGiacenzaENominataELoSiDice)
+{
+    cerca(u"950"_s);
+    scrivi("txtDataGia", {});
+    EXPECT_EQ(emetti({.controllo = false}), consegnaIntera(u"950"_s));
+    EXPECT_EQ(mEmissioni.contesti.front().numeroGiacenza, QString());
+    EXPECT_EQ(mEmissioni.contesti.front().annoGiacenza, 0);
+    EXPECT_EQ(stato()->text(), u"Emessa da 950 Manca la data della giacenza: non si sa di quale giacenza sia "
+                               "la LDV."_s);
+}
+
+TEST_P(RiconsegnaGuasti, IlDocumentoDellEmittenteSiApreConCtrlO)
+{
+    AperturaDiProva apertura;
+    mEmissioni.durante = [this] { mEmissioni.contesti.back().documento(u"/tmp/LDV_MI_4716_2026.pdf"_s); };
+    cerca(u"950"_s);
+    emetti();
+    attiva();
+    c("txtLDV")->setFocus();
+    QTest::keyClick(c("txtLDV"), Qt::Key_O, Qt::ControlModifier);
+    EXPECT_THAT(apertura.aperti, testing::ElementsAre(QUrl::fromLocalFile(u"/tmp/LDV_MI_4716_2026.pdf"_s)));
+}
+
 TEST_P(RiconsegnaGuasti, UnEmittenteCheLanciaNonFermaLaSchermata)
 {
     mEmissioni.durante = [] { throw Errore(u"carta finita"_s); };
@@ -112,3 +163,5 @@ TEST_P(RiconsegnaGuasti, ChiusaSottoIlDialogoONelMezzoDellEmissioneFinisceInSile
 }
 
 } // namespace
+
+#include "prova_riconsegnaguasti.moc"

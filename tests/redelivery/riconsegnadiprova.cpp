@@ -103,7 +103,7 @@ QString EmittenteDiProva::emetti(const RecordLdv& ldv)
     mEmissioni.colonne.push_back(ldv.colonne());
     if (mEmissioni.durante)
         mEmissioni.durante();
-    return u"Emessa da %1"_s.arg(numero);
+    return mEmissioni.esito.value_or(u"Emessa da %1"_s.arg(numero));
 }
 
 RiconsegnaDiProva::RiconsegnaDiProva()

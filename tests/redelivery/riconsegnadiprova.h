@@ -20,6 +20,7 @@ struct Emissioni
     std::vector<QStringList> colonne; ///< of each record handed over
     std::function<void()> allInizio;  ///< at the first thing handed over; may throw
     std::function<void()> durante;    ///< while it issues; may throw
+    std::optional<QString> esito;     ///< what it returns, in place of "Emessa da 4711"
     int vivi = 0;                     ///< issuers not yet released
 };
 

@@ -159,6 +159,12 @@ TEST_P(Disposizione, DoveNonCiStaSiArrivaAOgniCampo)
     }
 }
 
+TEST_P(Disposizione, SuUnoSchermoPiccoloSiScorreSoloInGiu)
+{
+    mostra(piccolo);
+    EXPECT_EQ(area()->horizontalScrollBar()->maximum(), 0);
+}
+
 class Normale : public testing::TestWithParam<const char*>
 {};
 

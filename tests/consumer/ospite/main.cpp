@@ -1,6 +1,8 @@
+#include <giacenza/Chiamata.h>
 #include <giacenza/LettoreIni.h>
 #include <giacenza/RicercaTabella.h>
 #include <giacenza/cGiacenza.h>
+#include <giacenza/giacenza.h>
 
 #include <QApplication>
 #include <QPluginLoader>
@@ -42,6 +44,32 @@ void provaLaClasse()
     verifica(giacenza::cGiacenza::IdEsegui == 0x6003000C, "IdEsegui");
 }
 
+// By name, by number, and from C, to the same settings; an exception of the library is known here by its
+// type.
+void provaIlLegame()
+{
+    giacenza::cGiacenza classe;
+    giacenza::chiama(classe, u"percorsodatabase"_s, giacenza::Modo::scrivi, {u"DRIVER={Tardi};"_s});
+    verifica(giacenza::chiama(classe, 0x68030003, giacenza::Modo::leggi) == QVariant(u"DRIVER={Tardi};"_s),
+             "per nome e per numero");
+    try {
+        giacenza::chiama(classe, 0x60030007, giacenza::Modo::metodo);
+        verifica(false, "un numero che manca");
+    } catch (const giacenza::ErroreChiamata& errore) {
+        verifica(errore.codice() == giacenza::ErroreChiamata::membroIgnoto, "membroIgnoto");
+    }
+    giacenza_oggetto oggetto = 0;
+    giacenza_valore valore = {GIACENZA_VUOTO, 0, nullptr};
+    verifica(giacenza_abi() == GIACENZA_ABI, "giacenza_abi");
+    verifica(giacenza_crea(&oggetto) == GIACENZA_BENE, "giacenza_crea");
+    verifica(giacenza_invoca(oggetto, GIACENZA_ID_PERCORSO_DATABASE, GIACENZA_LEGGI, nullptr, 0, &valore) ==
+                 GIACENZA_BENE,
+             "giacenza_invoca");
+    verifica(QString::fromUtf8(valore.testo) == u"DRIVER={Tardi};"_s, "da C");
+    giacenza_libera(&valore);
+    verifica(giacenza_rilascia(oggetto) == GIACENZA_BENE, "giacenza_rilascia");
+}
+
 // The file is a plug-in by what the component looks at, and its part is of the kind that it says.
 void provaIlModulo(const QString& percorso)
 {
@@ -69,6 +97,7 @@ int main(int argc, char** argv)
     giacenza::registraParte(QStringView(giacenza::classeLettoreIni).toString(),
                             [] { return std::make_unique<LettoreDellOspite>(); });
     provaLaClasse();
+    provaIlLegame();
     provaIlModulo(QString::fromLocal8Bit(argc > 1 ? argv[1] : ""));
     giacenza::registraParte(QStringView(giacenza::classeLettoreIni).toString(), {});
     return guasti == 0 ? 0 : 1;

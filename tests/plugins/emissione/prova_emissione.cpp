@@ -3,6 +3,7 @@
 #include "support/ldvdiprova.h"
 #include "support/spedizioni.h"
 #include "support/stampa.h"
+#include "support/tagliaconferma.h"
 
 #include <gmock/gmock.h>
 
@@ -64,12 +65,14 @@ protected:
         Connessione connessione = mBase.connessione();
         return emetti(LdvDiProva(connessione, u"4711"_s), stampa);
     }
-    /// What the operator is told, once, when nothing is issued, or nothing printed.
-    QString racconto(const std::function<QString()>& emissione, Tono tono = Tono::guasto)
+    /// What the operator is told, once, when nothing is issued, or nothing printed; esito: what the issuer
+    /// then returns.
+    QString racconto(const std::function<QString()>& emissione, Tono tono = Tono::guasto,
+                     const QString& esito = {})
     {
         std::vector<Racconto> racconti;
         mContesto.racconta = [&](const Racconto& racconto) { racconti.push_back(racconto); };
-        EXPECT_EQ(emissione(), QString());
+        EXPECT_EQ(emissione(), esito);
         mContesto.racconta = {};
         EXPECT_THAT(racconti, SizeIs(1));
         if (racconti.empty())
@@ -197,11 +200,41 @@ TEST_P(Emissione, UnaStampaFallitaDiceIlNumeroEmesso)
                                         : u"drop table filiali;"_s);
     const LdvDiProva ldv(connessione, u"4711"_s);
     EXPECT_TRUE(
-        racconto([&] {
-            return emetti(ldv);
-        }).startsWith(u"La lettera di vettura 4716/2026 è stata emessa, ma non è stata stampata.\n\n"_s));
+        racconto([&] { return emetti(ldv); }, Tono::guasto,
+                 u"Emessa la lettera di vettura 4716/2026, non stampata."_s)
+            .startsWith(u"La lettera di vettura 4716/2026 è stata emessa, ma non è stata stampata.\n\n"_s));
     EXPECT_EQ(emesse(), u"1"_s);
     EXPECT_TRUE(QDir(mImp).entryList(QDir::Files).isEmpty());
+}
+
+/// What only a server can do.
+class EmissioneSuServer : public Emissione
+{};
+
+INSTANTIATE_TEST_SUITE_P(Basi, EmissioneSuServer, testing::Values("mariadb"),
+                         nomeBase<testing::TestParamInfo<std::string>>);
+
+TEST_P(EmissioneSuServer, UnaConfermaSenzaRispostaEUnGuastoENonUnRifiuto)
+{
+    const quint16 porta = mStringa.section(u"PORT="_s, 1).section(u';', 0, 0).toUShort();
+    const TagliaConferma taglio(porta, TagliaConferma::Quando::primaDellaRisposta, false);
+    mStringa.replace(u"PORT=%1"_s.arg(porta), u"PORT=%1"_s.arg(taglio.porta()));
+    const QString ignoto = u"Non si sa se la lettera di vettura 4716/2026 è stata emessa: la connessione è "
+                           "caduta mentre l'archivio la confermava. Cercarla prima di ripetere."_s;
+    EXPECT_EQ(racconto([this] { return emetti(); }, Tono::guasto, ignoto), ignoto);
+    EXPECT_TRUE(taglio.tagliata());
+    EXPECT_EQ(emesse(), u"1"_s) << "it was there";
+}
+
+TEST_P(Emissione, IlFileStampatoSiDiceAlComponente)
+{
+    QStringList file;
+    mContesto.documento = [&](const QString& stampato) { file << stampato; };
+    emetti(false);
+    EXPECT_THAT(file, SizeIs(0));
+    emetti();
+    EXPECT_THAT(file, ElementsAre(mImp + u"/LDV_MI_4717_2026.pdf"_s));
+    EXPECT_TRUE(QFile::exists(file.value(0)));
 }
 
 TEST_P(Emissione, ChiNonAscoltaNonFermaNienteEIlMotivoStaNelRegistro)

@@ -50,7 +50,8 @@ TEST_P(Emittente, CioCheSiRompeDopoLEmissioneDiceIlNumero)
     emittente.setCartellaStampa(cartella.path());
     emittente.setStampa(true);
     emittente.setDefinitiva(true);
-    EXPECT_EQ(emittente.emetti(LdvDiProva(mConnessione, u"4711"_s)), QString());
+    EXPECT_EQ(emittente.emetti(LdvDiProva(mConnessione, u"4711"_s)),
+              u"Emessa la lettera di vettura 4716/2026, non stampata."_s);
     EXPECT_EQ(racconti, QStringList{u"La lettera di vettura 4716/2026 è stata emessa, ma non è stata "
                                     "stampata.\n\nmemoria finita"_s});
     EXPECT_EQ(mBase.leggi(u"select count(*) from letve00f where ledtlv='2026-11-21'"_s), u"1"_s);
