@@ -133,7 +133,8 @@ create table letve00f (
 ) engine = InnoDB default charset = utf8mb4 collate = utf8mb4_general_nopad_ci;
 
 -- The year comes first in the unique key of the held shipment, so that the list of a year finds it too.
--- The number stands alone with its date in giace_data.
+-- The number stands alone with its date in giace_data. giace_aperte finds the open cases (GIDTBF null) from the one that is
+-- held longest, and giace_giacenza a number without its year: both serve the desk, which works without them.
 create table giace00f (
     GIFILI varchar(10) not null,
     GINRLV varchar(20) character set utf8mb4 collate utf8mb4_nopad_bin not null,
@@ -157,5 +158,7 @@ create table giace00f (
     GIVDTG date,
     primary key (GINRLV, GIANLV, GIFILI),
     unique key giace_numero (GIANGI, GINRGI),
-    key giace_data (GIDTGI, GINRGI)
+    key giace_data (GIDTGI, GINRGI),
+    key giace_aperte (GIDTBF, GIDTGI, GINRGI),
+    key giace_giacenza (GINRGI)
 ) engine = InnoDB default charset = utf8mb4 collate = utf8mb4_general_nopad_ci;

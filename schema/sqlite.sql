@@ -148,6 +148,11 @@ create unique index giace_numero on giace00f (GIANGI, GINRGI);
 
 create index giace_data on giace00f (GIDTGI, GINRGI);
 
+-- The open cases alone, for the desk: what is closed leaves it.
+create index giace_aperte on giace00f (GIDTBF, GIDTGI, GINRGI) where GIDTBF is null;
+
+create index giace_giacenza on giace00f (GINRGI);
+
 create index clien_ragione on clien (RagioneSociale);
 
 create index clien_iva on clien (PartitaIva);

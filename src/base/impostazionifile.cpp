@@ -1,6 +1,10 @@
 #include "base/impostazioni.h"
 #include "base/lettoreini.h"
+#include "base/percorsi.h"
 #include "base/servizi.h"
+
+#include <QDir>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -36,6 +40,14 @@ QStringList LeggiPiede()
             righe << riga;
     }
     return righe;
+}
+
+QString cartellaDocumenti()
+{
+    const QString scelta = LeggiIni(u"DLLStampe"_s, u"CartellaDocumenti"_s);
+    const QFileInfo impostate(percorsoNativo(impostazioni().percorsoFileIni));
+    const QString relativa = scelta.isEmpty() ? u"documenti"_s : percorsoNativo(scelta);
+    return QDir::cleanPath(impostate.absoluteDir().absoluteFilePath(relativa));
 }
 
 ParteDi<ModuloStampa> CaricaModuloStampa()

@@ -12,6 +12,7 @@
 #include <dlfcn.h>
 #include <elf.h>
 #include <link.h>
+#include <mutex>
 
 using namespace Qt::StringLiterals;
 
@@ -29,6 +30,19 @@ QString cartellaPropria()
     if (dladdr(reinterpret_cast<const void*>(&fileModuli), &dove) == 0 || dove.dli_fname == nullptr)
         return QCoreApplication::applicationDirPath();
     return QFileInfo(QFile::decodeName(dove.dli_fname)).absolutePath();
+}
+
+// Folders that a program added; see aggiungiCartellaParti().
+struct Aggiunte
+{
+    std::mutex serratura;
+    QStringList cartelle;
+};
+
+Aggiunte& aggiunte()
+{
+    static Aggiunte uniche;
+    return uniche;
 }
 
 // True for a shared library that has all its bytes: its last table ends within the file.
@@ -72,9 +86,19 @@ QStringList cartelleParti()
     QStringList cartelle =
         qEnvironmentVariable("GIACENZA_PARTI").split(QDir::listSeparator(), Qt::SkipEmptyParts);
     cartelle.append(cartellaPropria() + u"/giacenza"_s);
+    {
+        const std::lock_guard guardia(aggiunte().serratura);
+        cartelle.append(aggiunte().cartelle);
+    }
     cartelle.append(QStringLiteral(GIACENZA_CARTELLA_INSTALLATA));
     cartelle.removeDuplicates();
     return cartelle;
+}
+
+void aggiungiCartellaParti(const QString& cartella)
+{
+    const std::lock_guard guardia(aggiunte().serratura);
+    aggiunte().cartelle.append(cartella);
 }
 
 ParteProvata provaACreare(const FabbricaParte& fabbrica)

@@ -30,6 +30,10 @@ std::unique_ptr<ParteEsterna> creaParteFacoltativa(const QString& nomeClasse);
 /// installation.
 QStringList cartelleParti();
 
+/// For a program that has taken this code into itself and whose parts lie beside the component's library: one
+/// more folder, sought after the program's own.
+void aggiungiCartellaParti(const QString& cartella);
+
 /// creaParte() with the interface asked for; empty with a reason also when the object is of another kind.
 template<class Interfaccia>
 struct ParteDi

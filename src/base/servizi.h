@@ -16,6 +16,11 @@ QString LeggiIni(const QString& sezione, const QString& chiave);
 /// that are not empty, in their order. Throws what LeggiIni() throws.
 QStringList LeggiPiede();
 
+/// The folder in which documents are kept, absolute; it need not exist. Section "DLLStampe", key
+/// "CartellaDocumenti", relative to the settings file; "documenti" beside it when nothing is written there.
+/// Throws what LeggiIni() throws.
+QString cartellaDocumenti();
+
 /// The print module that the settings file names (section "DLLStampe", key "IdentificativoDll"); an empty
 /// reference with the reason when it cannot be made.
 ParteDi<ModuloStampa> CaricaModuloStampa();

@@ -44,11 +44,16 @@ std::optional<CondizioniSosta> leggiCondizioni(Connessione& connessione, const Q
                            righe.valore(u"FAMIGI"_s)};
 }
 
+qint16 giorniAddebitati(const CondizioniSosta& condizioni, const QString& giorni)
+{
+    const QString giorniFranchi = dovuto(condizioni.giorniFranchi, u"FAFRGI"_s);
+    return intero16(somma(QString::number(intero16(giorni)), opposto(giorniFranchi)));
+}
+
 ImportiGiacenza calcolaImporti(const CondizioniSosta& condizioni, const QString& giorni)
 {
     const Decimale fisso(dovuto(condizioni.fisso, u"FADFGI"_s));
-    const QString giorniFranchi = dovuto(condizioni.giorniFranchi, u"FAFRGI"_s);
-    const qint16 daPagare = intero16(somma(QString::number(intero16(giorni)), opposto(giorniFranchi)));
+    const qint16 daPagare = giorniAddebitati(condizioni, giorni);
     if (daPagare <= 0)
         return {fisso, Decimale(u"0"_s)};
     const QString sosta =

@@ -33,6 +33,11 @@ struct ImportiGiacenza
 std::optional<CondizioniSosta> leggiCondizioni(Connessione& connessione, const QString& numeroLdv,
                                                int annoLdv);
 
+/// The days that are charged: those of storage less the free ones, halves to even; zero or less within the
+/// free days. giorni: as for calcolaImporti(). Throws ErroreConversione when FAFRGI is null, or days are no
+/// 16-bit number.
+qint16 giorniAddebitati(const CondizioniSosta& condizioni, const QString& giorni);
+
 /// Works the charges out. giorni: the storage days as the screen shows them.
 ///
 /// The days beyond the free ones are charged, rounded to cents, halves to even, and at least the minimum,

@@ -1,16 +1,10 @@
 #include "screens/stampa.h"
 
-#include "base/impostazioni.h"
-#include "base/servizi.h"
-#include "base/testoerrore.h"
-#include "reports/letters/fontedocumenti.h"
 #include "widgets/attesa.h"
 #include "widgets/primopiano.h"
 
 #include <QPointer>
 #include <QWidget>
-
-using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
@@ -36,52 +30,14 @@ private:
     QPointer<QWidget> mSchermata;
 };
 
-EsitoStampa guida(ModuloStampa& modulo, QWidget* schermata, TipoDocumento tipo, const QString& chiave,
-                  const std::array<QString, 4>& didascalie)
-{
-    collegaFonte(modulo, schermata);
-    modulo.setPercorsoDatabase(impostazioni().percorsoDatabase);
-    modulo.setPercorsoLogo(impostazioni().percorsoLogoIntestazione);
-    modulo.setDidascalie(didascalie);
-    modulo.setStampa(true);
-    modulo.setTipoDocumento(tipo);
-    bool nonProdotto = false;
-    try {
-        modulo.stampaDocumento(chiave, nonProdotto);
-    } catch (...) {
-        return {.motivo = testoErrore(), .file = documentoArchiviato()};
-    }
-    // What a module has kept before its printer failed can still be opened.
-    if (nonProdotto)
-        return {.raccontato = true,
-                .motivo = u"Il modulo di stampa non ha prodotto il documento."_s,
-                .file = documentoArchiviato()};
-    return {.prodotto = true, .file = documentoArchiviato()};
-}
-
 } // namespace
-
-std::array<QString, 4> leggiDidascalie()
-{
-    std::array<QString, 4> didascalie;
-    for (std::size_t i = 0; i < didascalie.size(); ++i)
-        didascalie[i] = LeggiIni(u"Bord"_s, u"CaptionLbl%1"_s.arg(i + 1));
-    return didascalie;
-}
 
 EsitoStampa stampaDocumento(QWidget* schermata, TipoDocumento tipo, const QString& chiave,
                             const std::array<QString, 4>& didascalie)
 {
     const SottoLeAltre sotto(schermata);
     const Attesa attesa;
-    try {
-        const auto modulo = CaricaModuloStampa();
-        if (!modulo.parte)
-            return {.motivo = modulo.motivo};
-        return guida(*modulo.parte, schermata, tipo, chiave, didascalie);
-    } catch (...) {
-        return {.motivo = testoErrore()};
-    }
+    return stampaConModulo(schermata, tipo, chiave, didascalie);
 }
 
 } // namespace giacenza

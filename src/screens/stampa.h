@@ -1,23 +1,8 @@
 #pragma once
 
-#include <giacenza/ModuloStampa.h>
-
-class QWidget;
+#include "reports/letters/stampamodulo.h"
 
 namespace giacenza {
-
-/// How the print module fared with a document.
-struct EsitoStampa
-{
-    bool prodotto = false;
-    bool raccontato = false; ///< the module has told the operator itself why there is none
-    QString motivo = {};     ///< why there is none, in Italian
-    QString file = {};       ///< where it lies, absolute; empty when the module does not say
-};
-
-/// The captions of the notice's four labels, from the settings file (section "Bord", "CaptionLbl1" to
-/// "CaptionLbl4").
-std::array<QString, 4> leggiDidascalie();
 
 /// Has the print module produce a document, with the screen out of the always-on-top state meanwhile.
 ///

@@ -1,6 +1,7 @@
 #include "catalogo.h"
 
 #include "data/istruzioni.h"
+#include "data/istruzionidesk.h"
 #include "data/istruzioniemissione.h"
 #include "data/istruzionireport.h"
 #include "data/istruzioniricerca.h"
@@ -158,6 +159,26 @@ std::vector<VoceCatalogo> verifica(const Campione& c, Dialetto dialetto)
     };
 }
 
+/// What the desk reads.
+std::vector<VoceCatalogo> desk(const Campione& c)
+{
+    const QString annoLdv = QString::number(c.spedizione.anno);
+    const QString annoGiacenza = QString::number(c.giacenza.anno);
+    const QString& numero = c.spedizione.numero;
+    return {
+        {u"casiAperti"_s, casiAperti()},
+        {u"casiApertiFiliale"_s, casiApertiFiliale(), {c.spedizione.filiale, c.spedizione.filiale}},
+        {u"ldvPerNumero"_s, ldvPerNumero(), {numero}},
+        {u"ldvPerNumeroAnno"_s, ldvPerNumeroAnno(), {numero, annoLdv}},
+        {u"ldvPerChiave"_s, ldvPerChiave(), {c.spedizione.filiale, numero, annoLdv}},
+        {u"ldvPerRiferimento"_s, ldvPerRiferimento(), {c.riferimento}},
+        {u"giacenzaPerNumero"_s, giacenzaPerNumero(), {c.giacenza.numero}},
+        {u"giacenzaPerNumeroAnno"_s, giacenzaPerNumeroAnno(), {c.giacenza.numero, annoGiacenza}},
+        {u"casoIntero"_s, casoIntero(), {c.giacenza.numero, annoGiacenza}},
+        {u"lettereLegate"_s, lettereLegate(), {c.giacenza.numero, annoGiacenza}},
+    };
+}
+
 std::vector<VoceCatalogo> scritture(const Campione& c)
 {
     const QDate oggi = c.dataGiacenza.addDays(1);
@@ -182,7 +203,7 @@ std::vector<VoceCatalogo> catalogo(const BancaDati& base)
     std::vector<VoceCatalogo> tutte = letture(c);
     const Dialetto dialetto = base.connessione().dialetto();
     for (const auto& altre :
-         {scritture(c), ricerche(c), soggetti(c), emissione(c, dialetto), verifica(c, dialetto)})
+         {scritture(c), ricerche(c), soggetti(c), emissione(c, dialetto), verifica(c, dialetto), desk(c)})
         tutte.insert(tutte.end(), altre.begin(), altre.end());
     return tutte;
 }

@@ -109,6 +109,20 @@ TEST_P(Piani, gliElenchiDellaRicercaEsconoGiaInOrdine)
     EXPECT_EQ(guardati, 7);
 }
 
+/// Whoever opens the desk waits for the first rows.
+TEST_P(Piani, iCasiApertiEsconoGiaInOrdine)
+{
+    int guardati = 0;
+    for (const VoceCatalogo& voce : catalogo(mBase)) {
+        if (!voce.nome.startsWith(u"casiAperti"_s))
+            continue;
+        ++guardati;
+        const Piano piano = leggiPiano(mConnessione, voce.testo, voce.parametri);
+        EXPECT_FALSE(piano.ordina) << piano.testo.toStdString();
+    }
+    EXPECT_EQ(guardati, 2);
+}
+
 TEST_P(Piani, unaLetturaDiTuttoSiRiconosce)
 {
     const auto scansioni = [this](const QString& istruzione) {

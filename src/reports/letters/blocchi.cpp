@@ -1,8 +1,8 @@
 #include "reports/letters/blocchi.h"
 
+#include "data/codiceldv.h"
 #include "reports/engine/formati.h"
 #include "reports/letters/blocchiinterni.h"
-#include "reports/letters/codiceldv.h"
 
 using namespace Qt::StringLiterals;
 

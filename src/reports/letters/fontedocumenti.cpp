@@ -1,13 +1,9 @@
 #include "reports/letters/fontedocumenti.h"
 
-#include "base/impostazioni.h"
 #include "base/orologio.h"
-#include "base/percorsi.h"
 #include "base/servizi.h"
 #include "reports/letters/reportcondivisi.h"
 
-#include <QDir>
-#include <QFileInfo>
 #include <QPointer>
 #include <QWidget>
 
@@ -35,13 +31,7 @@ public:
         return report.componi(richiesta, oggi(), mPadre);
     }
 
-    QString cartellaDocumenti() const override
-    {
-        const QString scelta = LeggiIni(u"DLLStampe"_s, u"CartellaDocumenti"_s);
-        const QFileInfo impostate(percorsoNativo(impostazioni().percorsoFileIni));
-        const QString relativa = scelta.isEmpty() ? u"documenti"_s : percorsoNativo(scelta);
-        return QDir::cleanPath(impostate.absoluteDir().absoluteFilePath(relativa));
-    }
+    QString cartellaDocumenti() const override { return giacenza::cartellaDocumenti(); }
 
     QString impostazione(const QString& chiave) const override { return LeggiIni(u"DLLStampe"_s, chiave); }
 

@@ -1,12 +1,18 @@
 #pragma once
 
-#include <QString>
+#include "data/istruzioni.h"
 
-namespace giacenza::report {
+#include <optional>
+
+namespace giacenza {
 
 /// What the barcode of a waybill holds: branch, number and year with a hyphen between them, "MI-4711-2026". A
 /// hyphen or backslash inside branch or number has a backslash before it, so that the text names one waybill.
 /// Empty when there is no number.
 QString codiceLdv(const QString& filiale, const QString& numero, const QString& anno);
 
-} // namespace giacenza::report
+/// The waybill that such a text names; nothing for another text. A branch may be empty, as a letter prints
+/// none.
+std::optional<ChiaveSpedizione> leggiCodiceLdv(const QString& codice);
+
+} // namespace giacenza

@@ -1,0 +1,103 @@
+#include "desk/avvisi/emittentecaso.h"
+
+#include "base/orologio.h"
+#include "base/spiegazioni.h"
+#include "base/testoerrore.h"
+#include "data/avviso.h"
+#include "reports/letters/stampamodulo.h"
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza::desk {
+
+namespace {
+
+const QString avvisataOggi = u"avvisata oggi"_s;
+
+/// A failure in few words for the operator.
+QString inItaliano()
+{
+    try {
+        throw;
+    } catch (const Errore& errore) {
+        return inUnaRiga(spiega(errore));
+    } catch (...) {
+        return inUnaRiga(testoErrore());
+    }
+}
+
+} // namespace
+
+std::optional<QString> lasciatoFuori(const Caso& caso, Lavoro lavoro, QDate oggi)
+{
+    if (lavoro == Lavoro::ristampa)
+        return std::nullopt;
+    if (!caso.avvisi.isEmpty() && caso.ultimoAvviso.isValid() && caso.ultimoAvviso >= oggi)
+        return caso.ultimoAvviso == oggi ? avvisataOggi : u"l'ultimo avviso porta una data futura"_s;
+    return std::nullopt;
+}
+
+Connessione& EmittenteCaso::connessione()
+{
+    if (mConnessione.aperta() && !mConnessione.viva())
+        mConnessione.chiudi();
+    mConnessione.apri(mAccesso);
+    return mConnessione;
+}
+
+EsitoCaso EmittenteCaso::contaOra(const Caso& caso)
+{
+    const QDate giorno = oggi();
+    if (const auto chiusa = LeggiDataBuonFine(mAccesso, caso.chiave))
+        return {Esito::rifiutato, u"chiusa il %1"_s.arg(dataBreve(*chiusa))};
+    Recordset ora;
+    ora.apri(connessione(), istruzioni::statoAvviso(caso.chiave));
+    if (ora.eof())
+        return {Esito::rifiutato, u"la giacenza non c'è più"_s};
+    Caso adesso = caso;
+    adesso.avvisi = ora.valore(0).value_or(QString());
+    adesso.ultimoAvviso = leggiData(ora.valore(1).value_or(QString()).left(10)).value_or(QDate());
+    ora.chiudi();
+    if (const auto perche = lasciatoFuori(adesso, Lavoro::avviso, giorno))
+        return {Esito::lasciato, *perche};
+    // Named by its waybill, so that the statement leaves the description alone.
+    const auto numero = contaAvviso(connessione(), mAccesso, caso.ldv, giorno);
+    if (!numero)
+        return {Esito::lasciato, avvisataOggi};
+    return {Esito::fatto, u"avviso n. %1"_s.arg(*numero)};
+}
+
+EsitoCaso EmittenteCaso::conta(const Caso& caso)
+{
+    try {
+        return contaOra(caso);
+    } catch (...) {
+        return {Esito::rifiutato, inItaliano()};
+    }
+}
+
+EsitoCaso EmittenteCaso::svolgi(Lavoro lavoro, const Caso& caso, QWidget* padre)
+{
+    EsitoCaso esito{Esito::fatto, u"ristampato"_s};
+    std::array<QString, 4> didascalie;
+    try {
+        didascalie = leggiDidascalie();
+    } catch (...) {
+        return {Esito::rifiutato, inItaliano()};
+    }
+    if (lavoro == Lavoro::avviso)
+        esito = conta(caso);
+    if (esito.esito != Esito::fatto)
+        return esito;
+    const QString chiave = caso.chiave.numero + u'_' + QString::number(caso.chiave.anno);
+    const EsitoStampa stampa = stampaConModulo(padre, TipoDocumento::avviso, chiave, didascalie);
+    esito.file = stampa.file;
+    if (stampa.prodotto)
+        return esito;
+    const QString motivo = inUnaRiga(stampa.motivo);
+    if (lavoro == Lavoro::ristampa)
+        return {Esito::rifiutato, motivo};
+    return {Esito::incompleto, u"%1, non stampato: %2"_s.arg(esito.parole, motivo)};
+}
+
+} // namespace giacenza::desk

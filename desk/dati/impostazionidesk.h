@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QString>
+
+namespace giacenza::desk {
+
+/// What the settings file says of the desk, section "Desk".
+struct ImpostazioniDesk
+{
+    /// GiorniFerma: after so many days without an event a case stands still.
+    int giorniFerma = 7;
+    /// What the file says and cannot be used, in Italian; empty: all is well.
+    QString guasto{};
+};
+
+/// Reads them anew; what is missing or cannot be used has its default.
+ImpostazioniDesk leggiImpostazioniDesk();
+
+} // namespace giacenza::desk
