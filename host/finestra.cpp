@@ -1,12 +1,13 @@
 #include "finestra.h"
 
+#include "desk/finestra/finestradesk.h"
+#include "desk/finestra/particomponente.h"
 #include "spiegazioni.h"
 #include "ui_finestra.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QPixmap>
 #include <QTime>
 #include <QWindow>
 
@@ -60,11 +61,12 @@ Finestra::Finestra(const Opzioni& opzioni, QWidget* parent)
 {
     mUi->setupUi(this);
     mUi->fraMessaggio->hide();
-    mostraLogo(opzioni.logo);
+    mUi->fraLdv->hide();
 
     mGiacenza->setPercorsoDatabase(opzioni.database);
     mGiacenza->setPercorsoFileIni(opzioni.ini);
     mGiacenza->setPercorsoLogoIntestazione(opzioni.logo);
+    apparecchia(opzioni);
     collega();
 
     const QString archivio = nomeArchivio(opzioni.database);
@@ -80,7 +82,26 @@ Finestra::Finestra(const Opzioni& opzioni, QWidget* parent)
                         "con --database e la stringa di connessione."_s);
 }
 
-Finestra::~Finestra() = default;
+Finestra::~Finestra()
+{
+    // The desk hears the component's screens go, and works with it to its last moment.
+    delete mDesk;
+}
+
+void Finestra::apparecchia(const Opzioni& opzioni)
+{
+    giacenza::desk::cercaPartiAccantoAlComponente();
+    mDesk = new giacenza::desk::FinestraDesk(
+        *mGiacenza, {opzioni.database, opzioni.ini, opzioni.logo},
+        [this](const QString& schermata, const std::function<void()>& apertura) {
+            apri(schermata, apertura);
+        },
+        this);
+    mUi->verticale->addWidget(mDesk, 1);
+    mDesk->azioni().riempiElenco(mUi->menuElenco);
+    mDesk->azioni().riempiCaso(mUi->menuCaso);
+    mDesk->setFocus();
+}
 
 void Finestra::collega()
 {
@@ -88,32 +109,30 @@ void Finestra::collega()
             [this] { apri(u"Nuova giacenza"_s, [this] { mGiacenza->NuovaGiacenza(); }); });
     connect(mUi->azGestione, &QAction::triggered, this,
             [this] { apri(u"Gestione giacenze"_s, [this] { mGiacenza->ConsultaGiacenza(); }); });
-    connect(mUi->azNuovaLdv, &QAction::triggered, this, &Finestra::apriPerLdv);
+    connect(mUi->azNuovaLdv, &QAction::triggered, this, &Finestra::scriviLdv);
+    connect(mDesk->azioni().elenco, &QAction::triggered, mUi->fraLdv, &QWidget::hide);
     connect(mUi->azRiconsegna, &QAction::triggered, this,
             [this] { apriRiconsegna(cGiacenza::ResoDestinatario, u"Riconsegna a destinatario"_s); });
     connect(mUi->azReso, &QAction::triggered, this,
             [this] { apriRiconsegna(cGiacenza::ResoMittente, u"Reso a mittente"_s); });
     connect(mUi->azEsci, &QAction::triggered, this, &QWidget::close);
 
-    const std::pair<QPushButton*, QAction*> pulsanti[] = {
-        {mUi->cmdNuova, mUi->azNuova},           {mUi->cmdNuovaLdv, mUi->azNuovaLdv},
-        {mUi->cmdGestione, mUi->azGestione},     {mUi->cmdReso, mUi->azReso},
-        {mUi->cmdRiconsegna, mUi->azRiconsegna}, {mUi->cmdEsci, mUi->azEsci},
-    };
-    for (const auto& [pulsante, azione] : pulsanti)
-        connect(pulsante, &QPushButton::clicked, azione, &QAction::trigger);
+    connect(mUi->cmdNuovaLdv, &QPushButton::clicked, this, &Finestra::apriPerLdv);
     for (const QLineEdit* campo : {mUi->txtLdv, mUi->txtDataLdv, mUi->txtFiliale, mUi->txtCliente})
-        connect(campo, &QLineEdit::returnPressed, mUi->azNuovaLdv, &QAction::trigger);
+        connect(campo, &QLineEdit::returnPressed, this, &Finestra::apriPerLdv);
 
     connect(mUi->cmdChiudiMessaggio, &QPushButton::clicked, this, &Finestra::nascondiMessaggio);
     connect(mGiacenza.get(), &cGiacenza::fine, this, &Finestra::schermataChiusa);
 }
 
-void Finestra::mostraLogo(const QString& file)
+void Finestra::scriviLdv()
 {
-    const QPixmap logo(file);
-    if (!logo.isNull())
-        mUi->lblLogo->setPixmap(logo.scaledToHeight(72, Qt::SmoothTransformation));
+    // The second time it is what is written there that counts.
+    if (mUi->fraLdv->isVisible())
+        return apriPerLdv();
+    mUi->fraLdv->show();
+    mUi->txtLdv->setFocus(Qt::ShortcutFocusReason);
+    mUi->txtLdv->selectAll();
 }
 
 void Finestra::apri(const QString& schermata, const std::function<void()>& apertura)

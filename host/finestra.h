@@ -14,12 +14,17 @@ namespace Ui {
 class finestraDeposito;
 }
 
+namespace giacenza::desk {
+class FinestraDesk;
+}
+
 namespace deposito {
 
 /// The program's icon, for every window.
 QIcon icona();
 
-/// The host's window: asks the component for its screens and says what came of it.
+/// The host's window: the desk, and around it what asks the component for its screens and says what came of
+/// it.
 ///
 /// The component keeps its screens above all other windows, so this one goes above them as long as it is the
 /// one worked in, and when it has something to ask.
@@ -37,7 +42,10 @@ protected:
 
 private:
     void collega();
-    void mostraLogo(const QString& file);
+    /// Puts the desk and its menus in their place.
+    void apparecchia(const Opzioni& opzioni);
+    /// The line in which a waybill is typed; when it stands there already, the registration of what it holds.
+    void scriviLdv();
     /// Runs one opening method of the component and shows its failure, if it fails.
     void apri(const QString& schermata, const std::function<void()>& apertura);
     void apriPerLdv();
@@ -51,6 +59,7 @@ private:
 
     std::unique_ptr<Ui::finestraDeposito> mUi;
     std::unique_ptr<giacenza::cGiacenza> mGiacenza;
+    giacenza::desk::FinestraDesk* mDesk = nullptr;
     bool mUscitaAnnunciata = false;
 };
 

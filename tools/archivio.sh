@@ -76,6 +76,10 @@ CaptionLbl1=Ufficio giacenze
 CaptionLbl2=Orario: da lunedì a venerdì 8:30 - 12:30 e 14:30 - 18:00
 CaptionLbl3=Ritiro della merce su appuntamento
 CaptionLbl4=Nelle risposte citare il numero di giacenza
+
+[Desk]
+; Dopo quanti giorni senza novità una giacenza è ferma.
+GiorniFerma=7
 INI
     [[ -e $1/listbox.dat ]] ||
         printf '%s\n' "VEDI DDT" "ABBIGLIAMENTO" "ALIMENTARI" "ARREDAMENTO" "CARTA E STAMPATI" "COLLETTAME" \

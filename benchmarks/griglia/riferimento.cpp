@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int colonneMassime = 16;
+constexpr int colonneMassime = 32;
 constexpr int larghezza = 256;
 constexpr long righePagina = 256;
 

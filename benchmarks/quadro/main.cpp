@@ -17,7 +17,8 @@ using Tema = std::vector<Confronto> (*)(const Basi&, const Opzioni&);
 
 const std::map<QString, Tema>& temi()
 {
-    static const std::map<QString, Tema> tutti{{u"grid"_s, temaGriglia}, {u"print"_s, temaStampa}};
+    static const std::map<QString, Tema> tutti{
+        {u"desk"_s, temaDesk}, {u"grid"_s, temaGriglia}, {u"print"_s, temaStampa}};
     return tutti;
 }
 

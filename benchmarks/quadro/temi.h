@@ -11,6 +11,9 @@ namespace banco {
 /// The shipment search: until its first page stands, and how much memory that takes.
 std::vector<Confronto> temaGriglia(const Basi& basi, const Opzioni& opzioni);
 
+/// The desk: until the first open cases stand in its list, all of them, a filter, a scan.
+std::vector<Confronto> temaDesk(const Basi& basi, const Opzioni& opzioni);
+
 /// A storage notice, from the database to the PDF in the archive.
 std::vector<Confronto> temaStampa(const Basi& basi, const Opzioni& opzioni);
 

@@ -86,7 +86,7 @@ Valutazione valutazioneDi(const Caso& caso, QDate oggi, int giorniFerma)
     if (!v.giorni)
         v.senzaImporto = u"manca la data"_s;
     else if (!caso.condizioni)
-        v.senzaImporto = u"mancano le condizioni"_s;
+        v.senzaImporto = u"senza condizioni"_s;
     else
         valutaImporti(*caso.condizioni, v);
     v.stato = primoStato(caso, v, oggi, giorniFerma);

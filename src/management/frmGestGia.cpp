@@ -59,6 +59,13 @@ void frmGestGia::attivata()
 {
     Schermata::attivata();
     mRichiamo.ImpostaModoRicerca(false);
+    mConsegna.attivata();
+}
+
+void frmGestGia::setNumeroGiacenza(const QString& numero)
+{
+    mNumeroGiacenza = numero;
+    mConsegna.arrivata();
 }
 
 void frmGestGia::emettiAvviso()

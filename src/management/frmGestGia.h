@@ -2,6 +2,7 @@
 
 #include "management/chiusuracaso.h"
 #include "management/richiamocaso.h"
+#include "screens/consegna.h"
 #include "screens/emittenteavviso.h"
 #include "screens/particomuni.h"
 
@@ -14,12 +15,19 @@ namespace giacenza {
 class frmGestGia : public Schermata
 {
     Q_OBJECT
+    /// A held shipment handed over by the host: brought up once both are set and the screen is shown.
+    Q_PROPERTY(QString DataGiacenza MEMBER mDataGiacenza)
+    Q_PROPERTY(QString NumeroGiacenza READ numeroGiacenza WRITE setNumeroGiacenza)
 
 public:
     frmGestGia();
     ~frmGestGia() override;
 
     void carica() override;
+
+    QString numeroGiacenza() const { return mNumeroGiacenza; }
+    /// The last of the two that a host sets: the hand-over waits from here on.
+    void setNumeroGiacenza(const QString& numero);
 
 protected:
     void attivata() override;
@@ -37,6 +45,9 @@ private:
     RichiamoCaso mRichiamo;
     EmittenteAvviso mAvviso;
     ChiusuraCaso mChiusura;
+    Consegna mConsegna{*this, [this] { mRichiamo.consegna(mNumeroGiacenza, mDataGiacenza); }};
+    QString mNumeroGiacenza;
+    QString mDataGiacenza;
     QString mAvvisi; ///< notices issued on the case on the screen; empty: none
 };
 

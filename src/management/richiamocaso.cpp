@@ -110,6 +110,20 @@ void RichiamoCaso::richiama()
         richiamaPerNumero();
 }
 
+void RichiamoCaso::consegna(const QString& numero, const QString& data)
+{
+    const auto giorno = leggiData(data);
+    if (numero.isEmpty() || !giorno)
+        return;
+    // The screen may show a case of before.
+    PulisciCampi();
+    mUi.chkRicerca->setChecked(false);
+    ImpostaModoRicerca(false);
+    scrivi(mUi.txtNGiace, numero);
+    scrivi(mUi.txtDataGiace, dataBreve(*giorno));
+    richiama();
+}
+
 void RichiamoCaso::richiamaPerNumero()
 {
     const QString numero = mUi.txtNGiace->text().trimmed();

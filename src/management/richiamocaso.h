@@ -21,6 +21,10 @@ public:
     /// Which fields a held shipment is sought by. Which one the retrieval goes by is the check box's alone.
     void ImpostaModoRicerca(bool perCliente);
 
+    /// Brings up the held shipment of a number and a date, "dd/mm/yyyy", as if the operator had typed them;
+    /// nothing when one is missing.
+    void consegna(const QString& numero, const QString& data);
+
 private:
     void collega();
     void PulisciCampi();

@@ -69,6 +69,31 @@ bool frmRiconsegna::event(QEvent* evento)
     return Schermata::event(evento);
 }
 
+void frmRiconsegna::setCodiceCliente(const QString& codice)
+{
+    mCodiceCliente = codice;
+    mConsegna.arrivata();
+}
+
+void frmRiconsegna::attivata()
+{
+    Schermata::attivata();
+    mConsegna.attivata();
+}
+
+void frmRiconsegna::eseguiConsegna()
+{
+    const auto giorno = leggiData(mDataLdv);
+    if (mNLettVett.isEmpty() || mCodiceCliente.isEmpty() || !giorno)
+        return;
+    // The code of an earlier hand-over is locked: this one's takes its place.
+    if (const Seguito rifiuto = mParti.cliente.imposta(mCodiceCliente))
+        durante(rifiuto);
+    scrivi(mUi->txtLDV, mNLettVett);
+    scrivi(mUi->txtDataLdv, dataBreve(*giorno));
+    cercaPerNumero();
+}
+
 std::function<void()> frmRiconsegna::silenzioso(std::function<void()> azione)
 {
     return gestore([this, azione = std::move(azione)] {

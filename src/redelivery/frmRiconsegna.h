@@ -1,6 +1,7 @@
 #pragma once
 
 #include "redelivery/emissionericonsegna.h"
+#include "screens/consegna.h"
 #include "screens/elencospedizioni.h"
 #include "screens/particomuni.h"
 
@@ -13,6 +14,11 @@ namespace giacenza {
 class frmRiconsegna : public Schermata
 {
     Q_OBJECT
+    /// A waybill that is held, handed over by the host: looked up once all three are set and the screen is
+    /// shown.
+    Q_PROPERTY(QString NLettVett MEMBER mNLettVett)
+    Q_PROPERTY(QString DataLdv MEMBER mDataLdv)
+    Q_PROPERTY(QString CodiceCliente READ codiceCliente WRITE setCodiceCliente)
 
 public:
     frmRiconsegna();
@@ -20,7 +26,12 @@ public:
 
     void carica() override;
 
+    QString codiceCliente() const { return mCodiceCliente; }
+    /// The last of the three that a host sets: the hand-over waits from here on.
+    void setCodiceCliente(const QString& codice);
+
 protected:
+    void attivata() override;
     bool event(QEvent* evento) override;
 
 private:
@@ -29,6 +40,7 @@ private:
     /// A handler on a screen where a database failure is told by the status line alone.
     std::function<void()> silenzioso(std::function<void()> azione);
 
+    void eseguiConsegna();
     bool ControlloCampiRicerca(const ChiaveRicerca& chiave);
     void cercaNellElenco(const ChiaveRicerca& chiave);
     void cercaGiacenza();
@@ -44,6 +56,10 @@ private:
     ChiaveRicerca mNumero;
     ChiaveRicerca mRiferimento;
     EmissioneRiconsegna mEmissione;
+    Consegna mConsegna{*this, silenzioso([this] { eseguiConsegna(); })};
+    QString mNLettVett;
+    QString mDataLdv;
+    QString mCodiceCliente;
 };
 
 } // namespace giacenza

@@ -5,10 +5,6 @@
 #include "ui_frmGiacenza.h"
 #include "widgets/tasti.h"
 
-#include <QApplication>
-
-#include <utility>
-
 using namespace Qt::StringLiterals;
 
 namespace giacenza {
@@ -54,28 +50,17 @@ void frmGiacenza::carica()
 void frmGiacenza::setCodiceCliente(const QString& codice)
 {
     mCodiceCliente = codice;
-    mConsegnaPendente = true;
-    // A screen that is active already gets no activation when it is shown again.
-    accodaConsegna();
+    mConsegna.arrivata();
 }
 
 void frmGiacenza::attivata()
 {
     Schermata::attivata();
-    if (mConsegnaPendente)
-        accodaConsegna();
-}
-
-void frmGiacenza::accodaConsegna()
-{
-    QMetaObject::invokeMethod(this, gestore([this] { eseguiConsegna(); }), Qt::QueuedConnection);
+    mConsegna.attivata();
 }
 
 void frmGiacenza::eseguiConsegna()
 {
-    // Under an open message or dialog it waits: whoever opened it goes on with what is on the screen.
-    if (!isVisible() || QApplication::activeModalWidget() || !std::exchange(mConsegnaPendente, false))
-        return;
     const auto giorno = leggiData(mDataLdv);
     if (mNLettVett.isEmpty() || mFiliale.isEmpty() || mCodiceCliente.isEmpty() || !giorno)
         return;

@@ -2,6 +2,7 @@
 
 #include "registration/ricercaldv.h"
 #include "registration/salvagiacenza.h"
+#include "screens/consegna.h"
 #include "screens/emittenteavviso.h"
 #include "screens/particomuni.h"
 
@@ -40,7 +41,6 @@ protected:
 
 private:
     void collega();
-    void accodaConsegna();
     void eseguiConsegna();
     void scegliData();
     ChiaveCaso chiaveAvviso() const;
@@ -50,11 +50,11 @@ private:
     RicercaLdv mRicerca;
     EmittenteAvviso mAvviso;
     SalvaGiacenza mSalvataggio;
+    Consegna mConsegna{*this, [this] { eseguiConsegna(); }};
     QString mNLettVett;
     QString mDataLdv;
     QString mFiliale;
     QString mCodiceCliente;
-    bool mConsegnaPendente = false;
     bool mAggiungiGiacenza = false;
     bool mControlloGiacenza = false;
     bool mStampaLDV = false;

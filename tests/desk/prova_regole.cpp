@@ -97,7 +97,7 @@ TEST(Importo, senzaCondizioniLoDiceENonVaZero)
     incomplete.condizioni->minimo.reset();
     Caso senzaData = caso(12);
     senzaData.dal = {};
-    for (const auto& [c, parole] : {std::pair{senza, u"mancano le condizioni"_s},
+    for (const auto& [c, parole] : {std::pair{senza, u"senza condizioni"_s},
                                     {incomplete, u"condizioni incomplete"_s},
                                     {senzaData, u"manca la data"_s}}) {
         const Valutazione v = valutazioneDi(c, oggi, setteGiorni);

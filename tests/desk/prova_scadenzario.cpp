@@ -96,7 +96,7 @@ TEST_P(ProvaScadenzario, leggeTuttoCioCheLElencoMostra)
         stati << parole(r.valutazione.stato);
     EXPECT_THAT(
         stati, ElementsAre(u"ferma"_s, u"in addebito"_s, u"in attesa"_s, u"in scadenza"_s, u"da avvisare"_s));
-    EXPECT_EQ(mRighe.at(0).valutazione.senzaImporto, u"mancano le condizioni"_s);
+    EXPECT_EQ(mRighe.at(0).valutazione.senzaImporto, u"senza condizioni"_s);
 }
 
 TEST_P(ProvaScadenzario, diUnaFilialeSoloLeSue)

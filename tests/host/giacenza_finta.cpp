@@ -1,5 +1,7 @@
 #include "giacenza_finta.h"
 
+#include <giacenza/Caso.h>
+
 using namespace Qt::StringLiterals;
 
 GiacenzaFinta& giacenzaFinta()
@@ -95,6 +97,12 @@ QVariant cGiacenza::Esegui(const QString& Azione, const QVariant& Arg)
     Q_UNUSED(Arg);
     segna(u"esegui "_s + Azione);
     return {};
+}
+
+void MostraCaso(cGiacenza&, SchermataCaso schermata, const CasoDaMostrare& caso)
+{
+    apri(u"caso %1 %2|%3|%4|%5|%6"_s.arg(QString::number(static_cast<int>(schermata)), caso.numeroGiacenza,
+                                         caso.dataGiacenza, caso.numeroLdv, caso.dataLdv, caso.cliente));
 }
 
 } // namespace giacenza

@@ -2,6 +2,7 @@
 
 #include "support/stampa.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QLabel>
 #include <QProcess>
@@ -104,9 +105,10 @@ TEST(Deposito, con_un_archivio_che_non_c_e_nessuna_schermata_si_apre_e_la_finest
 {
     deposito::Finestra finestra({u"DRIVER={Nessun driver};Database=x"_s, {}, {}});
     finestra.show();
-    for (const QString& pulsante :
-         {u"cmdNuova"_s, u"cmdNuovaLdv"_s, u"cmdGestione"_s, u"cmdRiconsegna"_s, u"cmdReso"_s}) {
-        QTest::mouseClick(finestra.findChild<QPushButton*>(pulsante), Qt::LeftButton);
+    finestra.findChild<QAction*>(u"azNuovaLdv"_s)->trigger();
+    for (const QString& azione :
+         {u"azNuova"_s, u"azNuovaLdv"_s, u"azGestione"_s, u"azRiconsegna"_s, u"azReso"_s}) {
+        finestra.findChild<QAction*>(azione)->trigger();
         const auto* messaggio = finestra.findChild<QLabel*>(u"lblMessaggio"_s);
         EXPECT_TRUE(messaggio->isVisible());
         EXPECT_THAT(

@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -49,6 +50,7 @@ protected:
     {
         QTest::mouseClick(&figlio<QPushButton>(pulsante), Qt::LeftButton);
     }
+    void scegli(const char16_t* azione) { figlio<QAction>(azione).trigger(); }
     QString stato() { return mFinestra->statusBar()->currentMessage(); }
     bool messaggioVisibile() { return figlio<QFrame>(u"fraMessaggio").isVisible(); }
     QString messaggio() { return figlio<QLabel>(u"lblMessaggio").text(); }
@@ -72,16 +74,16 @@ TEST_F(ProvaFinestra, da_al_componente_i_suoi_percorsi_prima_di_ogni_apertura)
 
 TEST_F(ProvaFinestra, i_tasti_aprono_le_schermate)
 {
-    for (const Qt::Key tasto : {Qt::Key_F2, Qt::Key_F3, Qt::Key_F5, Qt::Key_F6})
+    for (const Qt::Key tasto : {Qt::Key_F2, Qt::Key_F3, Qt::Key_F7, Qt::Key_F6})
         QTest::keyClick(mFinestra.get(), tasto);
     EXPECT_THAT(chiamateDopo(impostate), ElementsAre(u"nuova"_s, u"gestione"_s, u"tipo 1"_s, u"riconsegna"_s,
                                                      u"tipo 2"_s, u"riconsegna"_s));
 }
 
-TEST_F(ProvaFinestra, i_pulsanti_aprono_le_schermate)
+TEST_F(ProvaFinestra, le_voci_dei_menu_aprono_le_schermate)
 {
-    for (const char16_t* pulsante : {u"cmdNuova", u"cmdGestione", u"cmdRiconsegna", u"cmdReso"})
-        premi(pulsante);
+    for (const char16_t* azione : {u"azNuova", u"azGestione", u"azRiconsegna", u"azReso"})
+        scegli(azione);
     EXPECT_THAT(chiamateDopo(impostate), ElementsAre(u"nuova"_s, u"gestione"_s, u"tipo 1"_s, u"riconsegna"_s,
                                                      u"tipo 2"_s, u"riconsegna"_s));
     EXPECT_EQ(stato(), u"Reso a mittente: schermata aperta."_s);
@@ -89,6 +91,9 @@ TEST_F(ProvaFinestra, i_pulsanti_aprono_le_schermate)
 
 TEST_F(ProvaFinestra, la_lettera_di_vettura_passa_com_e_scritta)
 {
+    EXPECT_FALSE(figlio<QWidget>(u"fraLdv").isVisible());
+    QTest::keyClick(mFinestra.get(), Qt::Key_F4);
+    EXPECT_TRUE(figlio<QLineEdit>(u"txtLdv").hasFocus());
     QTest::keyClicks(&figlio<QLineEdit>(u"txtLdv"), u"00123"_s);
     QTest::keyClicks(&figlio<QLineEdit>(u"txtDataLdv"), u"05032015"_s);
     QTest::keyClicks(&figlio<QLineEdit>(u"txtFiliale"), u"MI"_s);
@@ -96,10 +101,15 @@ TEST_F(ProvaFinestra, la_lettera_di_vettura_passa_com_e_scritta)
     QTest::keyClick(&figlio<QLineEdit>(u"txtCliente"), Qt::Key_Return);
     EXPECT_THAT(chiamateDopo(impostate), ElementsAre(u"nuova 00123|05/03/2015|MI|77"_s));
     EXPECT_EQ(stato(), u"Nuova giacenza per la LDV 00123: schermata aperta."_s);
+    QTest::keyClick(mFinestra.get(), Qt::Key_F4);
+    EXPECT_EQ(chiamateDopo(impostate).size(), 2) << "F4 again takes what is written";
+    QTest::keyClick(mFinestra.get(), Qt::Key_Escape);
+    EXPECT_FALSE(figlio<QWidget>(u"fraLdv").isVisible());
 }
 
 TEST_F(ProvaFinestra, campi_vuoti_passano_vuoti)
 {
+    scegli(u"azNuovaLdv");
     premi(u"cmdNuovaLdv");
     EXPECT_THAT(chiamateDopo(impostate), ElementsAre(u"nuova |||"_s));
 }
@@ -108,7 +118,7 @@ TEST_F(ProvaFinestra, un_archivio_che_non_risponde_e_detto_e_la_finestra_resta_i
 {
     giacenzaFinta().errore =
         std::make_exception_ptr(giacenza::ErroreDatabase(u"08001"_s, 2002, u"Can't connect"_s));
-    premi(u"cmdGestione");
+    scegli(u"azGestione");
     EXPECT_TRUE(messaggioVisibile());
     EXPECT_EQ(messaggio(),
               u"La schermata non è stata aperta. L'archivio non è raggiungibile: controllare il "
@@ -117,7 +127,7 @@ TEST_F(ProvaFinestra, un_archivio_che_non_risponde_e_detto_e_la_finestra_resta_i
     EXPECT_EQ(stato(), u"Gestione giacenze: schermata non aperta."_s);
 
     giacenzaFinta().errore = {};
-    premi(u"cmdGestione");
+    scegli(u"azGestione");
     EXPECT_FALSE(messaggioVisibile());
     EXPECT_EQ(stato(), u"Gestione giacenze: schermata aperta."_s);
 }
@@ -125,7 +135,7 @@ TEST_F(ProvaFinestra, un_archivio_che_non_risponde_e_detto_e_la_finestra_resta_i
 TEST_F(ProvaFinestra, ogni_altro_errore_e_detto_col_suo_testo)
 {
     giacenzaFinta().errore = std::make_exception_ptr(giacenza::Errore(u"Località sconosciuta"_s));
-    premi(u"cmdNuova");
+    scegli(u"azNuova");
     EXPECT_EQ(messaggio(), u"La schermata non è stata aperta. Località sconosciuta"_s);
     premi(u"cmdChiudiMessaggio");
     EXPECT_FALSE(messaggioVisibile());
@@ -164,10 +174,10 @@ TEST_F(ProvaFinestra, in_uso_sta_sopra_le_schermate_e_poi_cede_il_posto)
     mFinestra->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(mFinestra.get()));
     EXPECT_TRUE(sopra());
-    premi(u"cmdNuova");
+    scegli(u"azNuova");
     EXPECT_FALSE(sopra()) << "the screen that opens must not stand behind";
     giacenzaFinta().errore = std::make_exception_ptr(giacenza::Errore(u"guasto"_s));
-    premi(u"cmdNuova");
+    scegli(u"azNuova");
     EXPECT_TRUE(sopra()) << "nothing opened";
 }
 
@@ -188,10 +198,10 @@ TEST_F(ProvaFinestra, un_altra_azione_annulla_l_uscita)
 {
     QWidget schermata;
     schermata.show();
-    premi(u"cmdEsci");
-    premi(u"cmdNuova");
+    scegli(u"azEsci");
+    scegli(u"azNuova");
     EXPECT_FALSE(messaggioVisibile());
-    premi(u"cmdEsci");
+    scegli(u"azEsci");
     EXPECT_TRUE(mFinestra->isVisible());
 }
 
@@ -200,27 +210,27 @@ TEST_F(ProvaFinestra, la_schermata_che_si_chiude_porta_via_l_avviso_di_uscita_e_
     {
         QWidget schermata;
         schermata.show();
-        premi(u"cmdEsci");
+        scegli(u"azEsci");
         EXPECT_TRUE(messaggioVisibile());
     }
     Q_EMIT giacenzaFinta().attuale->fine();
     EXPECT_FALSE(messaggioVisibile());
 
     giacenzaFinta().errore = std::make_exception_ptr(giacenza::Errore(u"guasto"_s));
-    premi(u"cmdNuova");
+    scegli(u"azNuova");
     Q_EMIT giacenzaFinta().attuale->fine();
     EXPECT_TRUE(messaggioVisibile());
 }
 
 TEST_F(ProvaFinestra, senza_schermate_si_esce_subito)
 {
-    premi(u"cmdEsci");
+    scegli(u"azEsci");
     EXPECT_FALSE(mFinestra->isVisible());
 }
 
 TEST_F(ProvaFinestra, si_percorre_con_la_tastiera_nell_ordine_di_lettura)
 {
-    figlio<QLineEdit>(u"txtLdv").setFocus();
+    scegli(u"azNuovaLdv");
     QStringList ordine;
     for (int passo = 0; passo < 10; ++passo) {
         ordine << QApplication::focusWidget()->objectName();
@@ -228,7 +238,14 @@ TEST_F(ProvaFinestra, si_percorre_con_la_tastiera_nell_ordine_di_lettura)
     }
     EXPECT_THAT(ordine,
                 ElementsAre(u"txtLdv"_s, u"txtDataLdv"_s, u"txtFiliale"_s, u"txtCliente"_s, u"cmdNuovaLdv"_s,
-                            u"cmdNuova"_s, u"cmdGestione"_s, u"cmdRiconsegna"_s, u"cmdReso"_s, u"cmdEsci"_s));
+                            u"txtCerca"_s, u"cmdCerca"_s, u"txtFiltro"_s, u"cmbFiliale"_s, u"tabCasi"_s));
+}
+
+TEST_F(ProvaFinestra, all_inizio_si_puo_scansionare)
+{
+    EXPECT_TRUE(figlio<QLineEdit>(u"txtCerca").hasFocus());
+    for (const char16_t* menu : {u"menuElenco", u"menuCaso"})
+        EXPECT_GE(figlio<QMenu>(menu).actions().size(), 5);
 }
 
 TEST_F(ProvaFinestra, ogni_lettera_abbreviata_ne_vuol_dire_una_sola)
@@ -253,7 +270,7 @@ TEST_F(ProvaFinestra, sta_in_uno_schermo_piccolo_anche_con_un_messaggio)
 {
     giacenzaFinta().errore = std::make_exception_ptr(
         giacenza::ErroreDatabase(u"HY000"_s, 1, u"una risposta lunga "_s.repeated(40)));
-    premi(u"cmdNuova");
+    scegli(u"azNuova");
     mFinestra->adjustSize();
     EXPECT_LE(mFinestra->width(), 1366);
     EXPECT_LE(mFinestra->height(), 700);

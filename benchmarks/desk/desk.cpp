@@ -1,0 +1,97 @@
+// One run: what the desk does until its operator sees it. The first argument says what:
+//   rows N        the open cases, until N of them are in the list, by the desk's own thread and connection
+//   filter TEXT N the list is there already: until the N that pass are in it
+//   scan TEXT N   a number, on a new connection, until what it led to is known
+
+#include "benchmarks/quadro/esito.h"
+#include "desk/dati/ricerca.h"
+#include "desk/dati/scadenzario.h"
+#include "desk/finestra/modellocasi.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+
+using namespace giacenza;
+using namespace giacenza::desk;
+
+namespace {
+
+constexpr int setteGiorni = 7;
+
+RichiestaElenco richiesta()
+{
+    return {Accesso(qEnvironmentVariable(banco::variabileConnessione)), {}, QDate(2026, 11, 20), setteGiorni};
+}
+
+/// Reads until so many rows are in the model, -1: all.
+void leggi(ModelloCasi& modello, long quante)
+{
+    Scadenzario scadenzario;
+    QEventLoop attesa;
+    QObject::connect(&scadenzario, &Scadenzario::arrivate, &attesa, [&](std::vector<RigaCaso>& righe) {
+        modello.aggiungi(std::move(righe));
+        if (quante >= 0 && modello.rowCount() >= quante)
+            attesa.quit();
+    });
+    QObject::connect(&scadenzario, &Scadenzario::finito, &attesa, &QEventLoop::quit);
+    QObject::connect(&scadenzario, &Scadenzario::fallito, &attesa, [&](const QString& testo) {
+        std::fprintf(stderr, "%s\n", qPrintable(testo));
+        attesa.quit();
+    });
+    scadenzario.leggi(richiesta());
+    attesa.exec();
+}
+
+int righe(long attese)
+{
+    ModelloCasi modello;
+    const banco::Cronometro cronometro;
+    double millisecondi = 0;
+    QObject::connect(&modello, &QAbstractItemModel::modelReset, [&] {
+        if (millisecondi == 0 && modello.rowCount() >= attese)
+            millisecondi = cronometro.millisecondi();
+    });
+    leggi(modello, attese);
+    return banco::stampaEsito(millisecondi, std::min<long>(modello.rowCount(), attese), attese);
+}
+
+int filtro(const QString& testo, long attese)
+{
+    ModelloCasi modello;
+    leggi(modello, -1);
+    const banco::Cronometro cronometro;
+    modello.setFiltro(testo);
+    const double millisecondi = cronometro.millisecondi();
+    return banco::stampaEsito(millisecondi, modello.rowCount(), attese);
+}
+
+int scansione(const QString& testo, long attese)
+{
+    Connessione schermata;
+    schermata.apri(richiesta().accesso);
+    const banco::Cronometro cronometro;
+    Connessione connessione;
+    connessione.apri(richiesta().accesso);
+    const EsitoRicerca esito = cerca(connessione, testo);
+    const double millisecondi = cronometro.millisecondi();
+    return banco::stampaEsito(millisecondi, static_cast<long>(esito.trovate.size()), attese);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QCoreApplication applicazione(argc, argv);
+    const QStringList argomenti = QCoreApplication::arguments();
+    const QString che = argomenti.value(1);
+    try {
+        if (che == u"rows")
+            return righe(argomenti.value(2).toLong());
+        if (che == u"filter")
+            return filtro(argomenti.value(2), argomenti.value(3).toLong());
+        return scansione(argomenti.value(2), argomenti.value(3).toLong());
+    } catch (const std::exception& errore) {
+        std::fprintf(stderr, "%s\n", errore.what());
+        return EXIT_FAILURE;
+    }
+}

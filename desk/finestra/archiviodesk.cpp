@@ -1,0 +1,94 @@
+#include "desk/finestra/archiviodesk.h"
+
+#include "base/spiegazioni.h"
+#include "base/testoerrore.h"
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza::desk {
+
+namespace {
+
+/// An open connection: the one of before when it still answers.
+void prepara(std::unique_ptr<Connessione>& connessione, const Accesso& accesso)
+{
+    if (connessione && connessione->aperta() && connessione->viva())
+        return;
+    connessione = std::make_unique<Connessione>();
+    connessione->apri(accesso);
+}
+
+} // namespace
+
+void ArchivioDesk::chiedi(const Accesso& accesso, std::function<std::function<void()>(Connessione&)> domanda)
+{
+    mSfondo.esegui([this, accesso, domanda = std::move(domanda), questa = ++mDomanda] {
+        std::function<void()> risposta;
+        try {
+            prepara(mConnessione, accesso);
+            risposta = domanda(*mConnessione);
+        } catch (const Errore& errore) {
+            mConnessione.reset();
+            risposta = [this, testo = spiega(errore), dettaglio = errore.testo()] {
+                Q_EMIT fallito(testo, dettaglio);
+            };
+        } catch (...) {
+            mConnessione.reset();
+            risposta = [this, testo = testoErrore()] { Q_EMIT fallito(testo, testo); };
+        }
+        QMetaObject::invokeMethod(
+            this,
+            [this, risposta, questa] {
+                if (questa == mDomanda)
+                    risposta();
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+std::function<void()> ArchivioDesk::risposta(const Sguardo& sguardo, const ChiaveGiacenza& chiave,
+                                             Connessione& connessione)
+{
+    const auto catena = leggiCatena(connessione, chiave, sguardo.cartelle, sguardo.oggi, sguardo.giorniFerma);
+    if (!catena)
+        return [this, nome = nomeGiacenza(chiave)] { Q_EMIT sparito(nome); };
+    return [this, letta = *catena] { Q_EMIT letto(letta); };
+}
+
+void ArchivioDesk::cerca(const Sguardo& sguardo, const QString& digitato)
+{
+    chiedi(sguardo.accesso, [this, sguardo, digitato](Connessione& connessione) -> std::function<void()> {
+        const EsitoRicerca esito = desk::cerca(connessione, digitato);
+        if (esito.trovate.size() == 1 && esito.trovate.front().caso)
+            return risposta(sguardo, *esito.trovate.front().caso, connessione);
+        return [this, esito] { Q_EMIT trovato(esito); };
+    });
+}
+
+void ArchivioDesk::leggi(const Sguardo& sguardo, const ChiaveGiacenza& chiave)
+{
+    chiedi(sguardo.accesso, [this, sguardo, chiave](Connessione& connessione) {
+        return risposta(sguardo, chiave, connessione);
+    });
+}
+
+void ArchivioDesk::leggiFiliali(const Accesso& accesso)
+{
+    mSfondo.esegui([this, accesso] {
+        std::vector<Filiale> filiali;
+        try {
+            prepara(mConnessione, accesso);
+            Recordset riga;
+            riga.apri(*mConnessione, istruzioni::elencoFiliali());
+            for (; !riga.eof(); riga.successivo())
+                filiali.push_back({riga.valore(0).value_or(QString()), riga.valore(1).value_or(QString())});
+        } catch (const Errore&) {
+            mConnessione.reset();
+            return; // The list is read at the same time, and tells why.
+        }
+        QMetaObject::invokeMethod(
+            this, [this, filiali] { Q_EMIT filialiLette(filiali); }, Qt::QueuedConnection);
+    });
+}
+
+} // namespace giacenza::desk

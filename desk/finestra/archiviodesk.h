@@ -1,0 +1,63 @@
+#pragma once
+
+#include "desk/dati/catena.h"
+#include "desk/dati/ricerca.h"
+#include "desk/dati/sfondo.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace giacenza::desk {
+
+/// A branch as the list of branches has it.
+struct Filiale
+{
+    QString codice;
+    QString nome;
+};
+
+/// What the desk looks up besides the list, in a thread of its own, on a connection that stays open between
+/// one scan and the next. Of several questions only the last one's answer comes.
+class ArchivioDesk : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit ArchivioDesk(QObject* padre = nullptr) : QObject(padre) {}
+
+    /// What a case is looked at with.
+    struct Sguardo
+    {
+        Accesso accesso{QString()};
+        Cartelle cartelle;
+        QDate oggi;
+        int giorniFerma = 7;
+    };
+
+    /// A number: trovato() comes, or, for a single case, letto(). From then on what comes is this question's.
+    void cerca(const Sguardo& sguardo, const QString& digitato);
+    /// A case: letto() comes. chiesto: as what it was found, for letto().
+    void leggi(const Sguardo& sguardo, const ChiaveGiacenza& chiave);
+    /// The branches: filialiLette() comes; nothing when they cannot be read, since the list itself tells
+    /// that.
+    void leggiFiliali(const Accesso& accesso);
+
+Q_SIGNALS:
+    void trovato(const giacenza::desk::EsitoRicerca& esito);
+    void letto(const giacenza::desk::Catena& catena);
+    void sparito(const QString& nomeGiacenza);
+    void fallito(const QString& testo, const QString& dettaglio);
+    void filialiLette(const std::vector<giacenza::desk::Filiale>& filiali);
+
+private:
+    void chiedi(const Accesso& accesso, std::function<std::function<void()>(Connessione&)> domanda);
+    std::function<void()> risposta(const Sguardo& sguardo, const ChiaveGiacenza& chiave,
+                                   Connessione& connessione);
+
+    quint64 mDomanda = 0;
+    std::unique_ptr<Connessione> mConnessione; ///< of the thread's
+    Sfondo mSfondo;                            ///< last: it ends before what its work uses
+};
+
+} // namespace giacenza::desk

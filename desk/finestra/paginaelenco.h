@@ -1,0 +1,58 @@
+#pragma once
+
+#include "desk/dati/regole.h"
+
+#include <QWidget>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+
+namespace giacenza::desk {
+
+class ModelloCasi;
+class TabellaCasi;
+struct Filiale;
+
+/// The list of the open cases with its filter, its branch and its totals.
+class PaginaElenco : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PaginaElenco(QWidget* padre = nullptr);
+
+    TabellaCasi* tabella() const { return mTabella; }
+    ModelloCasi* modello() const { return mModello; }
+
+    /// The branch whose cases are wanted; empty: all.
+    QString filiale() const;
+    void setFiliali(const std::vector<Filiale>& filiali);
+
+    /// What stands beside the totals: when it was read, or that it is being read.
+    void setLettura(const QString& testo);
+    /// The cases that are marked.
+    std::vector<Caso> marcati() const;
+    /// Puts the focus into the filter.
+    void filtra();
+    QLineEdit* filtro() const { return mFiltro; }
+
+Q_SIGNALS:
+    void filialeScelta();
+    /// Enter or a double click on a case.
+    void preso(const giacenza::desk::Caso& caso);
+
+private:
+    void componi();
+    void mostraTotali();
+
+    // In the order of the keyboard.
+    ModelloCasi* mModello;
+    QLineEdit* mFiltro;
+    QComboBox* mFiliale;
+    TabellaCasi* mTabella;
+    QLabel* mTotali;
+    QLabel* mLettura;
+};
+
+} // namespace giacenza::desk

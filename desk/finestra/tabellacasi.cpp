@@ -1,0 +1,86 @@
+#include "desk/finestra/tabellacasi.h"
+
+#include "desk/finestra/colonnecasi.h"
+#include "desk/finestra/modellocasi.h"
+
+#include <QHeaderView>
+#include <QScrollBar>
+
+using namespace Qt::StringLiterals;
+
+namespace giacenza::desk {
+
+TabellaCasi::TabellaCasi(ModelloCasi* modello, QWidget* padre)
+    : TabellaDesk(u"Giacenze aperte"_s, padre), mModello(modello)
+{
+    setObjectName(u"tabCasi"_s);
+    setSelectionMode(ExtendedSelection);
+    // Before the view hears of it, and after.
+    connect(modello, &QAbstractItemModel::modelAboutToBeReset, this, &TabellaCasi::ricorda);
+    setModel(modello);
+    connect(modello, &QAbstractItemModel::modelReset, this, &TabellaCasi::rimetti);
+    horizontalHeader()->setSortIndicator(colonnaFranchi, Qt::AscendingOrder);
+    setSortingEnabled(true);
+    QStringList misure;
+    for (const ColonnaCasi& colonna : colonneCasi())
+        misure << (colonna.misura.size() > colonna.titolo.size() ? colonna.misura : colonna.titolo + u"m"_s);
+    setMisure(misure);
+}
+
+QList<int> TabellaCasi::marcate() const
+{
+    QList<int> righe;
+    for (const QItemSelectionRange& tratto : selectionModel()->selection())
+        for (int riga = tratto.top(); riga <= tratto.bottom(); ++riga)
+            righe << riga;
+    if (righe.isEmpty() && currentIndex().isValid())
+        righe << currentIndex().row();
+    std::sort(righe.begin(), righe.end());
+    return righe;
+}
+
+void TabellaCasi::mostraRiga(int riga)
+{
+    setCurrentIndex(mModello->index(riga, 0));
+    scrollTo(currentIndex());
+}
+
+void TabellaCasi::ricorda()
+{
+    const auto nome = [this](int riga) { return nomeGiacenza(mModello->riga(riga).caso.chiave); };
+    mMarcate.clear();
+    for (const QItemSelectionRange& tratto : selectionModel()->selection())
+        for (int riga = tratto.top(); riga <= tratto.bottom(); ++riga)
+            mMarcate.insert(nome(riga));
+    mCorrente = currentIndex().isValid() ? nome(currentIndex().row()) : mCorrente;
+    mColonna = currentIndex().isValid() ? currentIndex().column() : 0;
+    const int prima = rowAt(0);
+    mPrima = prima > 0 ? nome(prima) : QString();
+}
+
+void TabellaCasi::rimetti()
+{
+    QItemSelection scelte;
+    int corrente = -1;
+    int prima = -1;
+    const int ultima = mModello->columnCount() - 1;
+    for (int riga = 0; riga < mModello->rowCount(); ++riga) {
+        const QString nome = nomeGiacenza(mModello->riga(riga).caso.chiave);
+        if (mMarcate.contains(nome))
+            scelte.merge(QItemSelection(mModello->index(riga, 0), mModello->index(riga, ultima)),
+                         QItemSelectionModel::Select);
+        if (nome == mCorrente)
+            corrente = riga;
+        if (nome == mPrima)
+            prima = riga;
+    }
+    if (corrente >= 0)
+        selectionModel()->setCurrentIndex(mModello->index(corrente, mColonna), QItemSelectionModel::NoUpdate);
+    selectionModel()->select(scelte, QItemSelectionModel::ClearAndSelect);
+    if (prima > 0)
+        scrollTo(mModello->index(prima, 0), PositionAtTop);
+    else
+        scrollToTop();
+}
+
+} // namespace giacenza::desk
