@@ -27,18 +27,21 @@ void riempiBlocco(Connessione& connessione, qint64 da, qint64 fino)
         const QString n = QString::number(numero);
         const QString data = dataSql(primo.addDays(numero % giorniAnno));
         const QString cliente = QString::number(primoCliente + numero % clienti);
-        lettere += u"('MI','%1',2025,'%2',%3,'A','Ferramenta delle Rose %1','Milano','MI','ORD-%1',3,45.50,'%1',2025)"_s
-                       .arg(n, data, cliente);
+        lettere +=
+            u"('MI','%1',2025,'%2',%3,'A','Ferramenta delle Rose %1','Milano','MI','ORD-%1',3,45.50,'%1',2025)"_s
+                .arg(n, data, cliente);
         const bool aperta = numero % unaApertaOgni == 0;
         giacenze += u"('MI','%1',2025,%3,'MI','%1',2025,'%2','1','%2','%2 - Destinatario assente',%4)"_s.arg(
             n, data, cliente, aperta ? u"null"_s : u"'%1'"_s.arg(data));
     }
-    connessione.esegui(u"insert into letve00f (lefili, lenrlv, leanlv, ledtlv, lecodi, lecmpe, ledest, lelocd, "
-                       "leprod, lerife, lecoll, lepeso, LERFGI, LEANGI) values "_s +
-                       lettere.join(u','));
-    connessione.esegui(u"insert into giace00f (GIFILI, GINRLV, GIANLV, GICODI, GIFIGI, GINRGI, GIANGI, GIDTGI, "
-                       "GINRAV, GIDTAV, GIDES1, GIDTBF) values "_s +
-                       giacenze.join(u','));
+    connessione.esegui(
+        u"insert into letve00f (lefili, lenrlv, leanlv, ledtlv, lecodi, lecmpe, ledest, lelocd, "
+        "leprod, lerife, lecoll, lepeso, LERFGI, LEANGI) values "_s +
+        lettere.join(u','));
+    connessione.esegui(
+        u"insert into giace00f (GIFILI, GINRLV, GIANLV, GICODI, GIFIGI, GINRGI, GIANGI, GIDTGI, "
+        "GINRAV, GIDTAV, GIDES1, GIDTBF) values "_s +
+        giacenze.join(u','));
 }
 
 void riempi(Connessione& connessione, qint64 righe)
@@ -49,8 +52,9 @@ void riempi(Connessione& connessione, qint64 righe)
         const QString codice = QString::number(primoCliente + i);
         connessione.esegui(
             u"insert into clien (Codice, RagioneSociale) values (%1, 'Cliente %1')"_s.arg(codice));
-        connessione.esegui(u"insert into tabfatturazione (FALCOD, FACODI, FACMPE, FADFGI, FAFRGI, FATGIG, FAMIGI) "
-                           "values ('C', %1, 'A', 2.5, 5, 1.5, 15)"_s.arg(codice));
+        connessione.esegui(
+            u"insert into tabfatturazione (FALCOD, FACODI, FACMPE, FADFGI, FAFRGI, FATGIG, FAMIGI) "
+            "values ('C', %1, 'A', 2.5, 5, 1.5, 15)"_s.arg(codice));
     }
     for (qint64 da = 1; da <= righe; da += blocco)
         riempiBlocco(connessione, da, std::min(da + blocco, righe + 1));
@@ -65,7 +69,8 @@ QString conValori(QString istruzione, const QStringList& valori)
     return istruzione;
 }
 
-/// What is measured on one database: our arguments, the plain program's statement, how many rows come of each.
+/// What is measured on one database: our arguments, the plain program's statement, how many rows come of
+/// each.
 struct Voce
 {
     QString nome;
@@ -104,14 +109,14 @@ std::vector<Confronto> temaDesk(const Basi& basi, const Opzioni& opzioni)
             const QString stringa = basi.stringa(tipo, u"desk_%1"_s.arg(righe),
                                                  [righe](Connessione& nuova) { riempi(nuova, righe); });
             for (const Voce& voce : voci(righe))
-                confronti.push_back({voce.nome,
-                                     tipo,
-                                     righe,
-                                     stringa,
-                                     {u"misura-desk"_s, voce.nostri},
-                                     {u"riferimento-griglia"_s,
-                                      {voce.istruzione, QString::number(voce.lette), u"0"_s}},
-                                     voce.obiettivo});
+                confronti.push_back(
+                    {voce.nome,
+                     tipo,
+                     righe,
+                     stringa,
+                     {u"misura-desk"_s, voce.nostri},
+                     {u"riferimento-griglia"_s, {voce.istruzione, QString::number(voce.lette), u"0"_s}},
+                     voce.obiettivo});
         }
     }
     return confronti;

@@ -96,12 +96,12 @@ std::vector<ColonnaCasi> colonneDiChi()
          [](R r) { return nomeGiacenza(r.caso.chiave); }, giacenzaPrima},
         {u"LDV"_s, u"Numero, anno e filiale della lettera di vettura"_s, u"99999/2026 MI"_s, aSinistra,
          [](R r) { return nomeLdv(r.caso.ldv); }, ldvPrima},
-        {u"Cliente"_s, u"Chi ha spedito"_s, u"Ferramenta Lombarda"_s, aSinistra, cliente,
+        {u"Cliente"_s, u"Chi ha spedito"_s, u"Ferramenta Lomb"_s, aSinistra, cliente,
          [](R a, R b) { return testoPrima(cliente(a), cliente(b)); }},
-        {u"Destinatario"_s, u"A chi era diretta"_s, u"Utensileria del Lago"_s, aSinistra,
+        {u"Destinatario"_s, u"A chi era diretta"_s, u"Utensileria del La"_s, aSinistra,
          [](R r) { return r.caso.destinatario; },
          [](R a, R b) { return testoPrima(a.caso.destinatario, b.caso.destinatario); }},
-        {u"Località"_s, u"Località e provincia del destinatario"_s, u"Sesto San G. MI"_s, aSinistra, luogo,
+        {u"Località"_s, u"Località e provincia del destinatario"_s, u"Sesto S. G. MI"_s, aSinistra, luogo,
          [](R a, R b) { return testoPrima(luogo(a), luogo(b)); }},
     };
 }

@@ -112,6 +112,7 @@ void FinestraDesk::collegaLettura()
     connect(mArchivio, &ArchivioDesk::filialiLette, mElenco, &PaginaElenco::setFiliali);
     connect(mArchivio, &ArchivioDesk::trovato, this, &FinestraDesk::trovato);
     connect(mArchivio, &ArchivioDesk::letto, this, [this](const Catena& catena) {
+        mCercando = false;
         mCaso->mostra(catena);
         if (std::exchange(mRilettura, false))
             return;
@@ -121,11 +122,11 @@ void FinestraDesk::collegaLettura()
         mCaso->setFocus();
     });
     connect(mArchivio, &ArchivioDesk::sparito, this, [this](const QString& nome) {
-        mRilettura = false;
+        mRilettura = mCercando = false;
         dici(u"La giacenza %1 non c'è più."_s.arg(nome), true);
     });
     connect(mArchivio, &ArchivioDesk::fallito, this, [this](const QString& testo, const QString& dettaglio) {
-        mRilettura = false;
+        mRilettura = mCercando = false;
         dici(testo, true, dettaglio);
     });
     connect(&mTimer, &QTimer::timeout, this, &FinestraDesk::aggiorna);
@@ -174,7 +175,8 @@ void FinestraDesk::aggiorna()
     mElenco->setLettura(u"lettura in corso…"_s);
     mScadenzario->leggi({*con, mElenco->filiale(), oggi(), lette.giorniFerma});
     mArchivio->leggiFiliali(*con);
-    if (mPagine->currentWidget() == mCaso && mCaso->catena()) {
+    // Not in the place of what the operator has asked for.
+    if (mPagine->currentWidget() == mCaso && mCaso->catena() && !mCercando) {
         mRilettura = true;
         mArchivio->leggi(sguardo(), mCaso->catena()->riga.caso.chiave);
     }

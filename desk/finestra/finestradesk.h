@@ -98,6 +98,7 @@ private:
     PaginaCaso* mCaso;
     QTimer mTimer;
     bool mPrimaLettura = true;
+    bool mCercando = false;       ///< an answer that the operator waits for is on its way
     bool mRilettura = false;      ///< the case on the screen is being read anew: nothing moves
     std::vector<RigaCaso> mLette; ///< of a reading that replaces an earlier one
     Scadenzario* mScadenzario;

@@ -71,9 +71,12 @@ void FinestraDesk::cerca(const QString& testo)
     const QString pulito = ripulito(testo);
     if (pulito.isEmpty())
         return dici(u"Scrivere o scansionare un numero."_s);
+    if (mArchivioHost.database.isEmpty())
+        return dici(u"Non c'è un archivio in cui cercare."_s, true);
     if (!accesso())
         return;
     mRilettura = false;
+    mCercando = true;
     dici(u"Cerco %1…"_s.arg(pulito));
     mArchivio->cerca(sguardo(), pulito);
     mCampo->cercato();
@@ -81,7 +84,7 @@ void FinestraDesk::cerca(const QString& testo)
 
 void FinestraDesk::trovato(const EsitoRicerca& esito)
 {
-    mRilettura = false;
+    mRilettura = mCercando = false;
     mCampo->cercato();
     if (esito.trovate.empty())
         return dici(u"Nessuna corrispondenza per %1. Cercato come: %2."_s.arg(esito.cercato,
@@ -98,12 +101,16 @@ void FinestraDesk::scelta(const Trovata& trovata)
     if (!trovata.caso)
         return registra(trovata);
     mRilettura = false;
+    mCercando = true;
     mArchivio->leggi(sguardo(), *trovata.caso);
 }
 
 void FinestraDesk::mostraCatena(const Caso& caso)
 {
+    // The number that stands there did not lead here.
+    mCampo->clear();
     mRilettura = false;
+    mCercando = true;
     mArchivio->leggi(sguardo(), caso.chiave);
 }
 

@@ -106,6 +106,8 @@ void PaginaCaso::componi()
     mImporto = voce(griglia, 1, 1, u"Chiudendo oggi"_s);
     mScritto = voce(griglia, 2, 1, u"Già scritto"_s);
     mMotivo = voce(griglia, 3, 0, u"Motivo"_s);
+    // The reason may be long: it has the whole width.
+    griglia->removeWidget(mMotivo);
     griglia->addWidget(mMotivo, 3, 1, 1, 3);
 
     mPassi->setObjectName(u"tabPassi"_s);

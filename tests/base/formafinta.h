@@ -22,6 +22,8 @@ class FormaFinta : public QWidget
     Q_PROPERTY(QString DataLdv READ valore WRITE setDataLdv)
     Q_PROPERTY(QString Filiale READ valore WRITE setFiliale)
     Q_PROPERTY(QString CodiceCliente READ valore WRITE setCodiceCliente)
+    Q_PROPERTY(QString DataGiacenza READ valore WRITE setDataGiacenza)
+    Q_PROPERTY(QString NumeroGiacenza READ valore WRITE setNumeroGiacenza)
 
 public:
     explicit FormaFinta(const QString& nome)
@@ -36,6 +38,8 @@ public:
     void setDataLdv(const QString& valore) { annota(u"DataLdv"_s, valore); }
     void setFiliale(const QString& valore) { annota(u"Filiale"_s, valore); }
     void setCodiceCliente(const QString& valore) { annota(u"CodiceCliente"_s, valore); }
+    void setDataGiacenza(const QString& valore) { annota(u"DataGiacenza"_s, valore); }
+    void setNumeroGiacenza(const QString& valore) { annota(u"NumeroGiacenza"_s, valore); }
 
 Q_SIGNALS:
     void Uscita();

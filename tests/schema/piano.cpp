@@ -56,6 +56,21 @@ void leggiMariadb(Piano& piano, const QJsonValue& valore)
     }
 }
 
+/// A plan names a table as the statement does: what stands for another name is put back.
+void traduci(Piano& piano, const QString& istruzione)
+{
+    static const QRegularExpression altroNome(
+        u"(?:from|join) \\(*(\\w+) (?!on |where |left |inner )(\\w+) (?:on|where) "_s,
+        QRegularExpression::CaseInsensitiveOption);
+    QHash<QString, QString> tabelle;
+    for (auto nomi = altroNome.globalMatch(istruzione); nomi.hasNext();) {
+        const auto nome = nomi.next();
+        tabelle.insert(nome.captured(2).toLower(), nome.captured(1).toLower());
+    }
+    for (AccessoTabella& accesso : piano.accessi)
+        accesso.tabella = tabelle.value(accesso.tabella, accesso.tabella);
+}
+
 } // namespace
 
 QStringList Piano::tabelle() const
@@ -84,11 +99,13 @@ Piano leggiPiano(Connessione& connessione, const QString& istruzione, std::span<
         righe.apri(connessione, u"explain query plan "_s + istruzione, Recordset::Cursore::chiave, parametri);
         for (; !righe.eof(); righe.successivo())
             leggiSqlite(piano, righe.valore(u"detail"_s).value_or(QString()));
+        traduci(piano, istruzione);
         return piano;
     }
     righe.apri(connessione, u"explain format=json "_s + istruzione, Recordset::Cursore::chiave, parametri);
     piano.testo = righe.valore(0).value_or(QString());
     leggiMariadb(piano, QJsonDocument::fromJson(piano.testo.toUtf8()).object());
+    traduci(piano, istruzione);
     return piano;
 }
 
