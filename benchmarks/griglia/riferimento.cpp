@@ -80,7 +80,9 @@ SQLHDBC collega(SQLHENV ambiente, std::string stringa)
 int main(int argc, char* argv[])
 {
     const char* connessione = std::getenv(banco::variabileConnessione);
-    if (argc != 4 || !connessione)
+    // With a word more the statement runs on the connection that is there already.
+    const bool aperta = argc == 5;
+    if ((argc != 4 && !aperta) || !connessione)
         return EXIT_FAILURE;
     const long attese = std::atol(argv[2]);
     SQLHENV ambiente = SQL_NULL_HENV;
@@ -89,7 +91,7 @@ int main(int argc, char* argv[])
     const SQLHDBC schermata = collega(ambiente, connessione);
 
     const banco::Cronometro cronometro;
-    const SQLHDBC ricerca = collega(ambiente, connessione);
+    const SQLHDBC ricerca = aperta ? schermata : collega(ambiente, connessione);
     if (!schermata || !ricerca)
         return EXIT_FAILURE;
     SQLHSTMT istruzione = SQL_NULL_HSTMT;
@@ -102,7 +104,9 @@ int main(int argc, char* argv[])
     const double millisecondi = cronometro.millisecondi();
     const int esito = banco::stampaEsito(millisecondi, righe, attese);
     SQLFreeHandle(SQL_HANDLE_STMT, istruzione);
-    for (const SQLHDBC collegamento : {ricerca, schermata}) {
+    for (const SQLHDBC collegamento : {aperta ? SQLHDBC(SQL_NULL_HDBC) : ricerca, schermata}) {
+        if (collegamento == SQL_NULL_HDBC)
+            continue;
         SQLDisconnect(collegamento);
         SQLFreeHandle(SQL_HANDLE_DBC, collegamento);
     }

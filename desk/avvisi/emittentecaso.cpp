@@ -96,8 +96,8 @@ EsitoCaso EmittenteCaso::svolgi(Lavoro lavoro, const Caso& caso, QWidget* padre)
         return esito;
     const QString motivo = inUnaRiga(stampa.motivo);
     if (lavoro == Lavoro::ristampa)
-        return {Esito::rifiutato, motivo};
-    return {Esito::incompleto, u"%1, non stampato: %2"_s.arg(esito.parole, motivo)};
+        return {Esito::rifiutato, motivo, stampa.file};
+    return {Esito::incompleto, u"%1, non stampato: %2"_s.arg(esito.parole, motivo), stampa.file};
 }
 
 } // namespace giacenza::desk

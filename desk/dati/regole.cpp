@@ -36,6 +36,20 @@ void valutaImporti(const CondizioniSosta& condizioni, Valutazione& v)
     }
 }
 
+/// The same, looked up first among those that were worked out.
+Valutazione giaNoti(ImportiNoti& noti, const CondizioniSosta& c, const Valutazione& v)
+{
+    QString chiave = QString::number(*v.giorni);
+    for (const Valore& valore : {c.fisso, c.giorniFranchi, c.alGiorno, c.minimo})
+        chiave += u'|' + valore.value_or(QString());
+    const auto nota = noti.constFind(chiave);
+    if (nota != noti.constEnd())
+        return *nota;
+    Valutazione nuova = v;
+    valutaImporti(c, nuova);
+    return *noti.insert(chiave, nuova);
+}
+
 Stato primoStato(const Caso& caso, const Valutazione& v, QDate oggi, int giorniFerma)
 {
     if (caso.avvisi.isEmpty())
@@ -78,7 +92,7 @@ QDate ultimoEvento(const Caso& caso, QDate oggi)
     return ultimo;
 }
 
-Valutazione valutazioneDi(const Caso& caso, QDate oggi, int giorniFerma)
+Valutazione valutazioneDi(const Caso& caso, QDate oggi, int giorniFerma, ImportiNoti* noti)
 {
     Valutazione v;
     if (caso.dal.isValid())
@@ -87,17 +101,21 @@ Valutazione valutazioneDi(const Caso& caso, QDate oggi, int giorniFerma)
         v.senzaImporto = u"manca la data"_s;
     else if (!caso.condizioni)
         v.senzaImporto = u"senza condizioni"_s;
-    else
+    else if (!noti)
         valutaImporti(*caso.condizioni, v);
+    else
+        v = giaNoti(*noti, *caso.condizioni, v);
     v.stato = primoStato(caso, v, oggi, giorniFerma);
     return v;
 }
 
-RigaCaso rigaDi(Caso caso, QDate oggi, int giorniFerma)
+RigaCaso rigaDi(Caso caso, QDate oggi, int giorniFerma, ImportiNoti* noti)
 {
-    RigaCaso riga{std::move(caso), {}, {}};
-    riga.valutazione = valutazioneDi(riga.caso, oggi, giorniFerma);
+    RigaCaso riga;
+    riga.caso = std::move(caso);
+    riga.valutazione = valutazioneDi(riga.caso, oggi, giorniFerma, noti);
     const Caso& c = riga.caso;
+    riga.centesimiKg = inCentesimi(c.peso).value_or(0);
     riga.cercabile = QStringList{nomeGiacenza(c.chiave), nomeLdv(c.ldv), c.cliente,
                                  c.ragioneSociale,       c.destinatario, c.riferimento}
                          .join(u'\n')
@@ -120,7 +138,7 @@ void aggiungi(Totali& totali, const RigaCaso& riga)
 {
     ++totali.casi;
     totali.colli += riga.caso.colli;
-    totali.centesimiKg += inCentesimi(riga.caso.peso).value_or(0);
+    totali.centesimiKg += riga.centesimiKg;
     if (riga.valutazione.centesimi)
         totali.centesimi += *riga.valutazione.centesimi;
     else

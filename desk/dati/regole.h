@@ -2,6 +2,8 @@
 
 #include "desk/dati/caso.h"
 
+#include <QHash>
+
 namespace giacenza::desk {
 
 /// What is to be done about a case: the first that fits.
@@ -33,10 +35,13 @@ struct Valutazione
     QString senzaImporto; ///< why centesimi is nothing, in few words
 };
 
+/// What the terms gave for so many days: many cases share them, and exact arithmetic takes its time.
+using ImportiNoti = QHash<QString, Valutazione>;
+
 /// giorniFerma: after so many days without an event a case stands still; 1 or more. The charges are
 /// calcolaImporti()'s with the terms of the waybill's customer, the amounts those that are written at the
 /// closure.
-Valutazione valutazioneDi(const Caso& caso, QDate oggi, int giorniFerma);
+Valutazione valutazioneDi(const Caso& caso, QDate oggi, int giorniFerma, ImportiNoti* noti = nullptr);
 
 /// The last day on which something happened: held, told, a waybill linked. Days ahead count for nothing.
 QDate ultimoEvento(const Caso& caso, QDate oggi);
@@ -46,10 +51,12 @@ struct RigaCaso
 {
     Caso caso;
     Valutazione valutazione;
-    QString cercabile; ///< number, waybill, names and reference, folded; a line each
+    qint64 centesimiKg = 0; ///< its weight in hundredths of a kilogram; 0: unknown
+    QString cercabile;      ///< number, waybill, names and reference, folded; a line each
 };
 
-RigaCaso rigaDi(Caso caso, QDate oggi, int giorniFerma);
+/// noti: amounts of the same terms and days that were worked out already; may be null. Of one thread.
+RigaCaso rigaDi(Caso caso, QDate oggi, int giorniFerma, ImportiNoti* noti = nullptr);
 
 /// What the filter's words are: folded, all of which must be found.
 QStringList paroleFiltro(const QString& filtro);

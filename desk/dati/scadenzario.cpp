@@ -10,6 +10,9 @@ namespace giacenza::desk {
 
 namespace {
 
+/// Milliseconds.
+constexpr unsigned long respiro = 2;
+
 /// Reads row by row; consegna: given each batch. Throws what reading throws.
 void leggiRighe(const RichiestaElenco& richiesta, const std::atomic<bool>& annullata,
                 const std::function<void(std::vector<RigaCaso>)>& consegna)
@@ -22,13 +25,16 @@ void leggiRighe(const RichiestaElenco& richiesta, const std::atomic<bool>& annul
     else
         riga.apri(connessione, istruzioni::casiApertiFiliale(), Recordset::Cursore::soloAvanti,
                   std::vector<Valore>{richiesta.filiale, richiesta.filiale});
+    ImportiNoti noti;
     std::vector<RigaCaso> righe;
     std::size_t quante = Scadenzario::primoLotto;
     for (; !riga.eof() && !annullata; riga.successivo()) {
-        righe.push_back(rigaDi(leggiCaso(riga), richiesta.oggi, richiesta.giorniFerma));
+        righe.push_back(rigaDi(leggiCaso(riga), richiesta.oggi, richiesta.giorniFerma, &noti));
         if (righe.size() == quante) {
             consegna(std::exchange(righe, {}));
-            quante = Scadenzario::lotto;
+            // Whoever shows the first rows goes before: the rest is not in view.
+            if (std::exchange(quante, Scadenzario::lotto) != Scadenzario::lotto)
+                QThread::msleep(respiro);
             righe.reserve(quante);
         }
     }

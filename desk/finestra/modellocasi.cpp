@@ -86,27 +86,28 @@ QVariant ModelloCasi::headerData(int sezione, Qt::Orientation verso, int ruolo) 
     }
 }
 
-void ModelloCasi::ordina(std::vector<int>& righe) const
+void ModelloCasi::filtra(std::size_t da)
 {
-    const auto prima = colonneCasi()[static_cast<std::size_t>(mColonna)].prima;
-    const auto a = [this](int posto) -> const RigaCaso& { return mRighe[static_cast<std::size_t>(posto)]; };
-    // Stable, and read in the order in which they are held: equals stay so.
-    std::stable_sort(righe.begin(), righe.end(), [&](int una, int altra) {
-        return mOrdine == Qt::AscendingOrder ? prima(a(una), a(altra)) : prima(a(altra), a(una));
-    });
-}
-
-void ModelloCasi::filtra()
-{
-    mMostrate.clear();
-    mTotali = {};
-    for (std::size_t i = 0; i < mRighe.size(); ++i) {
+    if (da == 0) {
+        mMostrate.clear();
+        mTotali = {};
+    }
+    const auto primaDiQueste = std::ssize(mMostrate);
+    for (std::size_t i = da; i < mRighe.size(); ++i) {
         if (!passa(mRighe[i], mParole))
             continue;
         mMostrate.push_back(static_cast<int>(i));
         desk::aggiungi(mTotali, mRighe[i]);
     }
-    ordina(mMostrate);
+    const auto prima = colonneCasi()[static_cast<std::size_t>(mColonna)].prima;
+    const auto in = [this](int posto) -> const RigaCaso& { return mRighe[static_cast<std::size_t>(posto)]; };
+    const auto ordine = [&](int una, int altra) {
+        return mOrdine == Qt::AscendingOrder ? prima(in(una), in(altra)) : prima(in(altra), in(una));
+    };
+    // Stable, and read in the order in which they are held: equals stay so.
+    const auto queste = mMostrate.begin() + primaDiQueste;
+    std::stable_sort(queste, mMostrate.end(), ordine);
+    std::inplace_merge(mMostrate.begin(), queste, mMostrate.end(), ordine);
 }
 
 void ModelloCasi::sort(int colonna, Qt::SortOrder ordine)
@@ -131,8 +132,9 @@ void ModelloCasi::sostituisci(std::vector<RigaCaso> righe)
 void ModelloCasi::aggiungi(std::vector<RigaCaso> righe)
 {
     beginResetModel();
+    const std::size_t da = mRighe.size();
     std::move(righe.begin(), righe.end(), std::back_inserter(mRighe));
-    filtra();
+    filtra(da);
     endResetModel();
 }
 

@@ -38,8 +38,8 @@ public:
     std::size_t tutte() const { return mRighe.size(); }
 
 private:
-    void ordina(std::vector<int>& righe) const;
-    void filtra();
+    /// Filters the cases from a position on, and puts those that pass in their places among the others.
+    void filtra(std::size_t da = 0);
 
     std::vector<RigaCaso> mRighe;
     std::vector<int> mMostrate; ///< positions in mRighe

@@ -60,6 +60,8 @@ void TabellaCasi::ricorda()
 
 void TabellaCasi::rimetti()
 {
+    if (mMarcate.isEmpty() && mCorrente.isEmpty() && mPrima.isEmpty())
+        return scrollToTop();
     QItemSelection scelte;
     int corrente = -1;
     int prima = -1;

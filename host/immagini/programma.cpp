@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QLabel>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +14,11 @@ void fotografaProgramma(Album& album)
     {
         deposito::Finestra finestra({album.database, ini, logo});
         finestra.show();
+        auto* lettura = finestra.findChild<QLabel*>(u"lblLettura"_s);
+        Regista::attende([&] { return lettura->text().startsWith(u"letto alle"_s); },
+                         u"l'elenco delle giacenze non è stato letto"_s);
+        // The clock would make another picture each time.
+        lettura->setText(u"letto alle 08:30:00"_s);
         album.scatta(&finestra, u"programma"_s);
     }
     deposito::Finestra finestra({u"DRIVER={SQLite3};Database=/non/c'è/giacenza.db"_s, ini, logo});
