@@ -133,7 +133,7 @@ create table letve00f (
 ) engine = InnoDB default charset = utf8mb4 collate = utf8mb4_general_nopad_ci;
 
 -- The year comes first in the unique key of the held shipment, so that the list of a year finds it too.
--- The number stands alone with its date in giace_data.
+-- The number stands alone with its date in giace_data. giace_cliente is for the statement of a customer's cases.
 create table giace00f (
     GIFILI varchar(10) not null,
     GINRLV varchar(20) character set utf8mb4 collate utf8mb4_nopad_bin not null,
@@ -157,5 +157,6 @@ create table giace00f (
     GIVDTG date,
     primary key (GINRLV, GIANLV, GIFILI),
     unique key giace_numero (GIANGI, GINRGI),
-    key giace_data (GIDTGI, GINRGI)
+    key giace_data (GIDTGI, GINRGI),
+    key giace_cliente (GICODI, GIDTGI)
 ) engine = InnoDB default charset = utf8mb4 collate = utf8mb4_general_nopad_ci;
