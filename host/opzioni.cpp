@@ -26,6 +26,7 @@ const QString nomeDatabase = u"database"_s;
 const QString nomeFileDatabase = u"database-file"_s;
 const QString nomeIni = u"ini"_s;
 const QString nomeLogo = u"logo"_s;
+const QString nomePreparaRegistro = u"prepara-registro"_s;
 
 void aggiungiOpzioni(QCommandLineParser& riga)
 {
@@ -41,6 +42,9 @@ void aggiungiOpzioni(QCommandLineParser& riga)
          u"file"_s},
         {nomeIni, u"File delle impostazioni."_s, u"file"_s},
         {nomeLogo, u"Logo stampato in testa all'avviso di giacenza."_s, u"file"_s},
+        {nomePreparaRegistro,
+         u"Prepara il registro nell'archivio, o lo porta all'ultima versione, e finisce; la stringa "
+         "di connessione è di chi amministra l'archivio."_s},
     });
 }
 
@@ -82,7 +86,7 @@ bool chiedeSoloTesto(int argc, const char* const* argv)
     QCommandLineParser riga;
     aggiungiOpzioni(riga);
     riga.parse(argomenti);
-    return riga.isSet(nomeAiuto) || riga.isSet(nomeVersione);
+    return riga.isSet(nomeAiuto) || riga.isSet(nomeVersione) || riga.isSet(nomePreparaRegistro);
 }
 
 Opzioni leggiOpzioni(const QCoreApplication& applicazione)
@@ -103,7 +107,8 @@ Opzioni leggiOpzioni(const QCoreApplication& applicazione)
     const StringaArchivio archivio = leggiArchivio(fonteArchivio(riga), ingresso);
     const QString dati = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     return {archivio.stringa, oppure(riga, nomeIni, dati + u"/giacenza/giacenza.ini"_s),
-            oppure(riga, nomeLogo, QCoreApplication::applicationDirPath() + u"/logo.gif"_s), archivio.guasto};
+            oppure(riga, nomeLogo, QCoreApplication::applicationDirPath() + u"/logo.gif"_s), archivio.guasto,
+            riga.isSet(nomePreparaRegistro)};
 }
 
 bool parlaItaliano(QCoreApplication& applicazione)

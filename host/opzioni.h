@@ -13,6 +13,7 @@ struct Opzioni
     QString ini;      ///< settings file
     QString logo;     ///< letterhead logo, a file
     QString guasto{}; ///< why the connection string could not be read, for the operator; else empty
+    bool preparaRegistro = false; ///< prepare the archive's register and end
 };
 
 /// Names the program: its settings, and what a desktop calls it.

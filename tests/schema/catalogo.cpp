@@ -2,6 +2,7 @@
 
 #include "data/istruzioni.h"
 #include "data/istruzioniemissione.h"
+#include "data/istruzioniestratto.h"
 #include "data/istruzionireport.h"
 #include "data/istruzioniricerca.h"
 #include "data/istruzionisoggetti.h"
@@ -158,6 +159,17 @@ std::vector<VoceCatalogo> verifica(const Campione& c, Dialetto dialetto)
     };
 }
 
+/// What the statement of a customer reads.
+std::vector<VoceCatalogo> estratto(const Campione& c)
+{
+    const QString giorno = c.dataGiacenza.toString(Qt::ISODate);
+    return {
+        {u"clientiConAperte"_s, clientiConAperte()},
+        {u"giacenzeCliente"_s, giacenzeCliente(), {c.cliente, giorno, giorno}},
+        {u"ldvCollegate"_s, ldvCollegate(), {c.giacenza.numero, QString::number(c.giacenza.anno)}},
+    };
+}
+
 std::vector<VoceCatalogo> scritture(const Campione& c)
 {
     const QDate oggi = c.dataGiacenza.addDays(1);
@@ -182,7 +194,7 @@ std::vector<VoceCatalogo> catalogo(const BancaDati& base)
     std::vector<VoceCatalogo> tutte = letture(c);
     const Dialetto dialetto = base.connessione().dialetto();
     for (const auto& altre :
-         {scritture(c), ricerche(c), soggetti(c), emissione(c, dialetto), verifica(c, dialetto)})
+         {scritture(c), ricerche(c), soggetti(c), emissione(c, dialetto), verifica(c, dialetto), estratto(c)})
         tutte.insert(tutte.end(), altre.begin(), altre.end());
     return tutte;
 }

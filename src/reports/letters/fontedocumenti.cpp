@@ -35,13 +35,7 @@ public:
         return report.componi(richiesta, oggi(), mPadre);
     }
 
-    QString cartellaDocumenti() const override
-    {
-        const QString scelta = LeggiIni(u"DLLStampe"_s, u"CartellaDocumenti"_s);
-        const QFileInfo impostate(percorsoNativo(impostazioni().percorsoFileIni));
-        const QString relativa = scelta.isEmpty() ? u"documenti"_s : percorsoNativo(scelta);
-        return QDir::cleanPath(impostate.absoluteDir().absoluteFilePath(relativa));
-    }
+    QString cartellaDocumenti() const override { return giacenza::cartellaDocumenti(); }
 
     QString impostazione(const QString& chiave) const override { return LeggiIni(u"DLLStampe"_s, chiave); }
 
@@ -66,6 +60,14 @@ void collegaFonte(ModuloStampa& modulo, QWidget* padre)
     fonte.setPadre(padre);
     if (auto* conFonte = dynamic_cast<ModuloStampaConFonte*>(&modulo))
         conFonte->setFonte(&fonte, padre);
+}
+
+QString cartellaDocumenti()
+{
+    const QString scelta = LeggiIni(u"DLLStampe"_s, u"CartellaDocumenti"_s);
+    const QFileInfo impostate(percorsoNativo(impostazioni().percorsoFileIni));
+    const QString relativa = scelta.isEmpty() ? u"documenti"_s : percorsoNativo(scelta);
+    return QDir::cleanPath(impostate.absoluteDir().absoluteFilePath(relativa));
 }
 
 QString documentoArchiviato()
