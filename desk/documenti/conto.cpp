@@ -117,6 +117,15 @@ QString parole(GenereGiorno genere)
     return u"a giornata"_s;
 }
 
+Valore totaleScritto(const DatiConto& dati)
+{
+    Valore totale;
+    for (const Valore& importo : {dati.sostaScritta, dati.fissoScritto})
+        if (importo && eNumero(*importo))
+            totale = somma(totale.value_or(u"0"_s), *importo);
+    return totale;
+}
+
 QString comeScritto(const QString& importo)
 {
     QString testo = importo;

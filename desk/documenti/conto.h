@@ -84,6 +84,10 @@ struct TrattoConto
 };
 std::vector<TrattoConto> tratti(const std::vector<RigaConto>& righe);
 
+/// The sum of the amounts that stand on the case; what is missing counts nothing. Nothing when neither is
+/// there.
+Valore totaleScritto(const DatiConto& dati);
+
 /// An amount as the closure writes it: two decimals, halves away from zero. Throws ErroreConversione.
 QString comeScritto(const QString& importo);
 

@@ -64,10 +64,8 @@ void aggiungiSomme(Foglio& foglio, const Conto& conto)
     foglio.riga(
         {u"Sosta, %1 giorni"_s.arg(conto.giorni), valuta(conto.importi->sosta), scritto(dati.sostaScritta)});
     foglio.riga({u"Fisso"_s, valuta(conto.importi->fisso), scritto(dati.fissoScritto)});
-    const bool entrambi =
-        dati.sostaScritta && dati.fissoScritto && eNumero(*dati.sostaScritta) && eNumero(*dati.fissoScritto);
     foglio.riga({u"Totale al %1"_s.arg(dataBreve(conto.alla)), valuta(conto.importi->totale),
-                 entrambi ? valuta(somma(*dati.sostaScritta, *dati.fissoScritto)) : u"—"_s},
+                 scritto(totaleScritto(dati))},
                 Riga::forte);
 }
 
@@ -103,10 +101,11 @@ void aggiungiConto(Foglio& foglio, const Conto& conto, bool interi)
                                     : u"n. %1 %2"_s.arg(dati.fattura, data(dati.dataFattura)).trimmed()}});
     foglio.capitolo(u"Condizioni del cliente"_s);
     foglio.paragrafo(condizioniInParole(dati.condizioni));
-    for (const QString& avvertenza : conto.avvertenze)
-        foglio.avvertenza(avvertenza);
+    QStringList avvertenze = conto.avvertenze;
     if (!conto.mancante.isEmpty())
-        foglio.avvertenza(conto.mancante);
+        avvertenze.prepend(conto.mancante);
+    if (!avvertenze.isEmpty())
+        foglio.avvertenza(avvertenze.join(u'\n'));
     if (!conto.righe.empty()) {
         foglio.capitolo(u"Giorni di sosta"_s);
         if (interi || conto.righe.size() <= righeIntere)

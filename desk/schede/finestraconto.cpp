@@ -43,7 +43,8 @@ void FinestraConto::componi()
     mAlla = new CampoData(this);
     mAlla->setObjectName(u"txtAlla"_s);
     mAlla->setAccessibleName(u"Conto alla data"_s);
-    auto* etichetta = new QLabel(u"Conto alla Conto &alla datadata"_s, this);
+    mAlla->setMaximumWidth(mAlla->fontMetrics().averageCharWidth() * 18);
+    auto* etichetta = new QLabel(u"Conto alla &data"_s, this);
     etichetta->setBuddy(mAlla);
     auto* ricalcola =
         pulsante(this, u"cmdCalcola"_s, u"&Calcola"_s, u"Calcola il conto alla data scritta (Invio)"_s);
@@ -63,10 +64,18 @@ void FinestraConto::componi()
 
     mStato = scritta(this, u"lblStato"_s);
     tutto->addWidget(mStato);
+    tutto->addLayout(rigaComandi());
+    resize(680, 620);
+
+    connect(ricalcola, &QPushButton::clicked, this, &FinestraConto::calcola);
+}
+
+QLayout* FinestraConto::rigaComandi()
+{
     auto* fondo = new QHBoxLayout;
     mSalva = pulsante(this, u"cmdSalvaPdf"_s, u"&Salva PDF"_s,
                       u"Salva nella cartella dei documenti la pagina che va col buon fine"_s);
-    mSalvaIntero = pulsante(this, u"cmdSalvaIntero"_s, u"Salva PDF giorno per &giornogiorno per giorno"_s,
+    mSalvaIntero = pulsante(this, u"cmdSalvaIntero"_s, u"Salva PDF &giorno per giorno"_s,
                             u"Salva nella cartella dei documenti il conto con una riga per ogni giorno"_s);
     auto* chiudi = pulsante(this, u"cmdChiudi"_s, u"C&hiudi"_s, u"Chiude la finestra (Esc)"_s);
     fondo->addWidget(mSalva);
@@ -75,13 +84,10 @@ void FinestraConto::componi()
     fondo->addWidget(mApri);
     fondo->addStretch();
     fondo->addWidget(chiudi);
-    tutto->addLayout(fondo);
-    resize(680, 620);
-
-    connect(ricalcola, &QPushButton::clicked, this, &FinestraConto::calcola);
     connect(mSalva, &QPushButton::clicked, this, [this] { salva(false); });
     connect(mSalvaIntero, &QPushButton::clicked, this, [this] { salva(true); });
     connect(chiudi, &QPushButton::clicked, this, &QDialog::reject);
+    return fondo;
 }
 
 QWidget* FinestraConto::riquadroTotali()
@@ -165,14 +171,10 @@ void FinestraConto::mostra()
         return importo && eNumero(*importo) ? valuta(*importo) : u"—"_s;
     };
     const auto& importi = mConto.importi;
-    const bool scritti = mDati.sostaScritta && mDati.fissoScritto && eNumero(*mDati.sostaScritta) &&
-                         eNumero(*mDati.fissoScritto);
-    const QString valori[] = {importi ? valuta(importi->sosta) : u"manca"_s,
-                              euro(mDati.sostaScritta),
-                              importi ? valuta(importi->fisso) : u"manca"_s,
-                              euro(mDati.fissoScritto),
-                              importi ? valuta(importi->totale) : u"manca"_s,
-                              scritti ? valuta(somma(*mDati.sostaScritta, *mDati.fissoScritto)) : u"—"_s};
+    const QString valori[] = {
+        importi ? valuta(importi->sosta) : u"manca"_s,  euro(mDati.sostaScritta),
+        importi ? valuta(importi->fisso) : u"manca"_s,  euro(mDati.fissoScritto),
+        importi ? valuta(importi->totale) : u"manca"_s, euro(documenti::totaleScritto(mDati))};
     for (int i = 0; i < 6; ++i)
         mTotali[i]->setText(valori[i]);
 }

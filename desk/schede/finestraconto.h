@@ -37,6 +37,7 @@ public:
 
 private:
     void componi();
+    QLayout* rigaComandi();
     QWidget* riquadroTotali();
     void calcola();
     void mostra();

@@ -36,7 +36,7 @@ QVariant ModelloCronologia::data(const QModelIndex& indice, int ruolo) const
         return corsivo;
     }
     if (ruolo == Qt::TextAlignmentRole)
-        return QVariant(Qt::AlignLeft | Qt::AlignTop);
+        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
     if (ruolo != Qt::DisplayRole)
         return {};
     switch (indice.column()) {

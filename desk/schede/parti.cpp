@@ -43,6 +43,9 @@ QTableView* tavola(QWidget* padre, const QString& nome, const QString& nomeLetto
     nuova->setAlternatingRowColors(true);
     nuova->setShowGrid(false);
     nuova->verticalHeader()->hide();
+    const int altezza = nuova->fontMetrics().height() + 6;
+    nuova->verticalHeader()->setMinimumSectionSize(altezza);
+    nuova->verticalHeader()->setDefaultSectionSize(altezza);
     nuova->horizontalHeader()->setHighlightSections(false);
     return nuova;
 }

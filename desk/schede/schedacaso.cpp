@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
@@ -90,7 +91,7 @@ QWidget* SchedaCaso::riquadroNota()
     mNota->setFixedHeight(mNota->fontMetrics().lineSpacing() * righeNota + 2 * mNota->frameWidth() + 10);
     mAggiungi = pulsante(riquadro, u"cmdAggiungiNota"_s, u"Aggiungi &nota"_s,
                          u"Aggiunge la nota al caso; una nota aggiunta non si cambia più (Ctrl+Invio)"_s);
-    mAggiungi->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return));
+    mNota->installEventFilter(this);
     auto* chi = new QLabel(u"C&hi scrive"_s, riquadro);
     chi->setBuddy(mAutore);
     auto* che = new QLabel(u"&Testo"_s, riquadro);
@@ -102,6 +103,20 @@ QWidget* SchedaCaso::riquadroNota()
     griglia->addWidget(mNota, 1, 1, 1, 2);
     griglia->setColumnStretch(1, 1);
     return riquadro;
+}
+
+/// Enter is a line of the note; with Ctrl it ends the note.
+bool SchedaCaso::eventFilter(QObject* oggetto, QEvent* evento)
+{
+    if (oggetto == mNota && evento->type() == QEvent::KeyPress) {
+        const auto* tasto = static_cast<QKeyEvent*>(evento);
+        const bool invio = tasto->key() == Qt::Key_Return || tasto->key() == Qt::Key_Enter;
+        if (invio && tasto->modifiers().testFlag(Qt::ControlModifier)) {
+            aggiungi();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(oggetto, evento);
 }
 
 void SchedaCaso::permettiNote(bool permesse)

@@ -40,6 +40,9 @@ Q_SIGNALS:
     /// A note was added to the case that is shown.
     void notaAggiunta();
 
+protected:
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
+
 private:
     void componi();
     QWidget* riquadroNota();

@@ -32,7 +32,7 @@ TEST_P(Fascicolo, IlCasoIntero)
     const QString letto = testo(mAperta);
     for (const QString& atteso :
          {u"Fascicolo della giacenza n. 42 / 2026 — fatto il 22/11/2026"_s, u"Messa in giacenza"_s,
-          u"Avviso n. 3"_s, u"Richiamano lunedì."_s, u"Neri ("_s, u"Totale al 22/11/2026 29,00 €"_s,
+          u"Avviso n. 3"_s, u"Richiamano lunedì."_s, u" Neri "_s, u"Totale al 22/11/2026 29,00 €"_s,
           u"Avviso di giacenza"_s, u"Lettera di vettura n. 4711 / 2026"_s,
           u"Lettera di vettura n. 4720 / 2026"_s})
         EXPECT_TRUE(letto.contains(atteso)) << atteso.toStdString() << '\n' << letto.toStdString();

@@ -52,6 +52,8 @@ TEST_P(SchedaConto, UnAltraDataSiScriveEInvioCalcola)
 {
     FinestraConto finestra(mBase.accesso(), mAperta, carta());
     finestra.show();
+    finestra.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
     auto* data = trova<CampoData>(finestra, u"txtAlla"_s);
     data->setFocus();
     data->selectAll();
