@@ -1,19 +1,30 @@
 #include "finestra.h"
 #include "host/avvio/avvio.h"
 #include "host/avvio/istanzaunica.h"
+#include "registro.h"
 
 #include <QApplication>
 #include <QSettings>
 
+#include <cstdio>
+#include <cstdlib>
+
 namespace {
 
-/// --help and --version: a text, also where there is no display, as on a server or in a script.
+/// --help, --version and --prepara-registro: a text, also where there is no display, as on a server or in a
+/// script.
 [[noreturn]] void rispondiSenzaSchermo(int argc, char** argv)
 {
     QCoreApplication applicazione(argc, argv);
     deposito::parlaItaliano(applicazione);
-    deposito::leggiOpzioni(applicazione);
-    qFatal("the command line asked for a text and gave none");
+    const deposito::Opzioni opzioni = deposito::leggiOpzioni(applicazione);
+    if (!opzioni.preparaRegistro)
+        qFatal("the command line asked for a text and gave none");
+    const deposito::EsitoRegistro esito = opzioni.guasto.isEmpty()
+                                              ? deposito::preparaRegistroDi(opzioni.database)
+                                              : deposito::EsitoRegistro{opzioni.guasto, false};
+    std::fprintf(esito.pronto ? stdout : stderr, "%s\n", qUtf8Printable(esito.testo));
+    std::exit(esito.pronto ? EXIT_SUCCESS : EXIT_FAILURE);
 }
 
 /// The archive of a start that names none; false when the operator gave up.

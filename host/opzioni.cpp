@@ -27,6 +27,7 @@ const QString nomeFileDatabase = u"database-file"_s;
 const QString nomeIni = u"ini"_s;
 const QString nomeLogo = u"logo"_s;
 const QString nomeNuova = u"nuova"_s;
+const QString nomePreparaRegistro = u"prepara-registro"_s;
 
 void aggiungiOpzioni(QCommandLineParser& riga)
 {
@@ -43,6 +44,9 @@ void aggiungiOpzioni(QCommandLineParser& riga)
         {nomeIni, u"File delle impostazioni."_s, u"file"_s},
         {nomeLogo, u"Logo stampato in testa all'avviso di giacenza."_s, u"file"_s},
         {nomeNuova, u"Apre un'altra finestra, anche se il programma è già aperto."_s},
+        {nomePreparaRegistro,
+         u"Prepara il registro nell'archivio, o lo porta all'ultima versione, e finisce; la stringa "
+         "di connessione è di chi amministra l'archivio."_s},
     });
 }
 
@@ -84,7 +88,7 @@ bool chiedeSoloTesto(int argc, const char* const* argv)
     QCommandLineParser riga;
     aggiungiOpzioni(riga);
     riga.parse(argomenti);
-    return riga.isSet(nomeAiuto) || riga.isSet(nomeVersione);
+    return riga.isSet(nomeAiuto) || riga.isSet(nomeVersione) || riga.isSet(nomePreparaRegistro);
 }
 
 Opzioni leggiOpzioni(const QCoreApplication& applicazione)
@@ -106,7 +110,7 @@ Opzioni leggiOpzioni(const QCoreApplication& applicazione)
     const QString dati = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
     return {archivio.stringa, oppure(riga, nomeIni, dati + u"/giacenza/giacenza.ini"_s),
             oppure(riga, nomeLogo, QCoreApplication::applicationDirPath() + u"/logo.gif"_s), archivio.guasto,
-            riga.isSet(nomeNuova)};
+            riga.isSet(nomeNuova), riga.isSet(nomePreparaRegistro)};
 }
 
 bool parlaItaliano(QCoreApplication& applicazione)

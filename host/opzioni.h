@@ -14,6 +14,7 @@ struct Opzioni
     QString logo;       ///< letterhead logo, a file
     QString guasto{};   ///< why the connection string could not be read, for the operator; else empty
     bool nuova = false; ///< a window of its own, also beside one that works on the same archive
+    bool preparaRegistro = false; ///< prepare the archive's register and end
 };
 
 /// Names the program: its settings, and what a desktop calls it.

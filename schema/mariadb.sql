@@ -135,6 +135,7 @@ create table letve00f (
 -- The year comes first in the unique key of the held shipment, so that the list of a year finds it too.
 -- The number stands alone with its date in giace_data. giace_aperte finds the open cases (GIDTBF null) from the one that is
 -- held longest, and giace_giacenza a number without its year: both serve the desk, which works without them.
+-- giace_cliente is for the statement of a customer's cases.
 create table giace00f (
     GIFILI varchar(10) not null,
     GINRLV varchar(20) character set utf8mb4 collate utf8mb4_nopad_bin not null,
@@ -160,5 +161,6 @@ create table giace00f (
     unique key giace_numero (GIANGI, GINRGI),
     key giace_data (GIDTGI, GINRGI),
     key giace_aperte (GIDTBF, GIDTGI, GINRGI),
-    key giace_giacenza (GINRGI)
+    key giace_giacenza (GINRGI),
+    key giace_cliente (GICODI, GIDTGI)
 ) engine = InnoDB default charset = utf8mb4 collate = utf8mb4_general_nopad_ci;

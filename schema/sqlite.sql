@@ -119,7 +119,7 @@ create index letve_cliente_numero on letve00f (lecodi, lefili, cast(lenrlv as un
 create index letve_anno on letve00f (leanlv, cast(lenrlv as unsigned));
 
 -- The year comes first in the unique key of the held shipment, so that the list of a year finds it too.
--- The number stands alone with its date in giace_data.
+-- The number stands alone with its date in giace_data. giace_cliente is for the statement of a customer's cases.
 create table giace00f (
     GIFILI varchar(10) not null collate nocase,
     GINRLV varchar(20) not null,
@@ -152,6 +152,7 @@ create index giace_data on giace00f (GIDTGI, GINRGI);
 create index giace_aperte on giace00f (GIDTBF, GIDTGI, GINRGI) where GIDTBF is null;
 
 create index giace_giacenza on giace00f (GINRGI);
+create index giace_cliente on giace00f (GICODI, GIDTGI);
 
 create index clien_ragione on clien (RagioneSociale);
 

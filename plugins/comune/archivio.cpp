@@ -100,11 +100,12 @@ QString nomeSicuro(const QString& nome)
     return sicuro.isEmpty() ? u"documento"_s : sicuro;
 }
 
-QString archivia(const QString& cartella, const QString& nome, const QByteArray& byte)
+QString archivia(const QString& cartella, const QString& nome, const QByteArray& byte,
+                 const QString& estensione)
 {
     const QDir dir = apriCartella(cartella);
     const QString base = dir.absoluteFilePath(nomeSicuro(nome));
-    QString percorso = base + u".pdf"_s;
+    QString percorso = base + estensione;
     QFile file(dir.absoluteFilePath(u".%1.%2.tmp"_s.arg(
         nomeSicuro(nome), QString::number(QRandomGenerator::global()->generate64(), 36))));
     auto togli = qScopeGuard([&] { file.remove(); });
@@ -113,7 +114,7 @@ QString archivia(const QString& cartella, const QString& nome, const QByteArray&
     for (int copia = 2; !rinomina(file.fileName(), percorso); ++copia) {
         if (errno != EEXIST)
             nonScritto(percorso);
-        percorso = u"%1-%2.pdf"_s.arg(base, QString::number(copia));
+        percorso = u"%1-%2%3"_s.arg(base, QString::number(copia), estensione);
     }
     togli.dismiss();
     return percorso;

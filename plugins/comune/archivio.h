@@ -10,11 +10,12 @@ namespace giacenza::comune {
 /// "_-." becomes "-", and so does a leading point.
 QString nomeSicuro(const QString& nome);
 
-/// Keeps a PDF in a folder, which is made if it is missing, and returns the file's path.
+/// Keeps a document in a folder, which is made if it is missing, and returns the file's path.
 ///
-/// nome: made safe by nomeSicuro(). The file is nome + ".pdf", or the next free one of "-2", "-3"...: an
-/// earlier document is never replaced. Either the whole file is there under its name, or no file is. Throws
-/// Errore, which names folder or file.
-QString archivia(const QString& cartella, const QString& nome, const QByteArray& byte);
+/// nome: made safe by nomeSicuro(). estensione: with its point. The file is nome + estensione, or the next
+/// free one of "-2", "-3"...: an earlier document is never replaced. Either the whole file is there under its
+/// name, or no file is. Throws Errore, which names folder or file.
+QString archivia(const QString& cartella, const QString& nome, const QByteArray& byte,
+                 const QString& estensione = QStringLiteral(".pdf"));
 
 } // namespace giacenza::comune

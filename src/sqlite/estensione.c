@@ -1,10 +1,14 @@
-/* What the statements use of MariaDB and SQLite lacks: year(). */
+/* What SQLite lacks: year(), which the statements use of MariaDB, and who is at work, for the register of
+   schema/registro-sqlite.sql. */
 
 #include <sqlite3ext.h>
 SQLITE_EXTENSION_INIT1
 
+#include <pwd.h>
 #include <stdbool.h>
 #include <stddef.h>
+#include <stdlib.h>
+#include <unistd.h>
 
 static int cifra(unsigned char c)
 {
@@ -58,6 +62,25 @@ static void year(sqlite3_context* contesto, int quanti, sqlite3_value** valori)
         sqlite3_result_int(contesto, anno);
 }
 
+/* printf() without an argument, null in every SQLite: here the user, as the program says it in GIACENZA_UTENTE,
+   else the account of the system; null where there is none. So a trigger may ask for the user without a function
+   that other programs lack. */
+static void utente(sqlite3_context* contesto, int quanti, sqlite3_value** valori)
+{
+    (void)quanti;
+    (void)valori;
+    const char* detto = getenv("GIACENZA_UTENTE");
+    if (detto && *detto) {
+        sqlite3_result_text(contesto, detto, -1, SQLITE_TRANSIENT);
+        return;
+    }
+    char memoria[4096];
+    struct passwd conto;
+    struct passwd* trovato = NULL;
+    if (getpwuid_r(geteuid(), &conto, memoria, sizeof memoria, &trovato) == 0 && trovato)
+        sqlite3_result_text(contesto, trovato->pw_name, -1, SQLITE_TRANSIENT);
+}
+
 /* The name that the database derives from a file called libgiacenza_sqlite.so. */
 __attribute__((visibility("default"))) int sqlite3_giacenzasqlite_init(sqlite3* db, char** errore,
                                                                        const sqlite3_api_routines* funzioni);
@@ -68,5 +91,8 @@ int sqlite3_giacenzasqlite_init(sqlite3* db, char** errore, const sqlite3_api_ro
     SQLITE_EXTENSION_INIT2(funzioni);
     /* Deterministic, so that it may stand in an index; innocuous, so that a view or schema may use it. */
     const int caratteri = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
-    return sqlite3_create_function(db, "year", 1, caratteri, NULL, year, NULL, NULL);
+    const int esito = sqlite3_create_function(db, "year", 1, caratteri, NULL, year, NULL, NULL);
+    if (esito != SQLITE_OK)
+        return esito;
+    return sqlite3_create_function(db, "printf", 0, SQLITE_UTF8 | SQLITE_INNOCUOUS, NULL, utente, NULL, NULL);
 }

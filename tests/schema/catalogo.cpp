@@ -3,6 +3,7 @@
 #include "data/istruzioni.h"
 #include "data/istruzionidesk.h"
 #include "data/istruzioniemissione.h"
+#include "data/istruzioniestratto.h"
 #include "data/istruzionireport.h"
 #include "data/istruzioniricerca.h"
 #include "data/istruzionisoggetti.h"
@@ -179,6 +180,17 @@ std::vector<VoceCatalogo> desk(const Campione& c)
     };
 }
 
+/// What the statement of a customer reads.
+std::vector<VoceCatalogo> estratto(const Campione& c)
+{
+    const QString giorno = c.dataGiacenza.toString(Qt::ISODate);
+    return {
+        {u"clientiConAperte"_s, clientiConAperte()},
+        {u"giacenzeCliente"_s, giacenzeCliente(), {c.cliente, giorno, giorno}},
+        {u"ldvCollegate"_s, ldvCollegate(), {c.giacenza.numero, QString::number(c.giacenza.anno)}},
+    };
+}
+
 std::vector<VoceCatalogo> scritture(const Campione& c)
 {
     const QDate oggi = c.dataGiacenza.addDays(1);
@@ -203,7 +215,8 @@ std::vector<VoceCatalogo> catalogo(const BancaDati& base)
     std::vector<VoceCatalogo> tutte = letture(c);
     const Dialetto dialetto = base.connessione().dialetto();
     for (const auto& altre :
-         {scritture(c), ricerche(c), soggetti(c), emissione(c, dialetto), verifica(c, dialetto), desk(c)})
+         {scritture(c), ricerche(c), soggetti(c), emissione(c, dialetto), verifica(c, dialetto), desk(c),
+          estratto(c)})
         tutte.insert(tutte.end(), altre.begin(), altre.end());
     return tutte;
 }

@@ -31,6 +31,8 @@ const QStringList colonneLarghe{u"lefili"_s, u"gifili"_s, u"leanlv"_s, u"gianlv"
 
 /// Statements whose condition names nothing better of the table.
 const QStringList ammesse{
+    // All open cases, counted for each customer: once, when the statements of all of them are asked for.
+    u"clientiConAperte"_s,
     // The held shipments of the year, then of each its waybill, to see whose it is: a database that knows
     // nothing
     // of its rows may start here, and one that knows them starts with the customer's waybills.
@@ -218,7 +220,9 @@ TEST(Catalogo, haOgniIstruzioneDelComponente)
                                                   QRegularExpression::MultilineOption);
     QHash<QString, int> forme;
     const QDir cartella(QStringLiteral(GIACENZA_SORGENTI "/data"));
-    const QStringList intestazioni = cartella.entryList({u"istruzioni*.h"_s});
+    QStringList intestazioni = cartella.entryList({u"istruzioni*.h"_s});
+    // The register's tables are no part of the schema; its own tests send these.
+    EXPECT_EQ(intestazioni.removeAll(u"istruzioniregistro.h"_s), 1);
     for (const QString& nome : intestazioni) {
         QFile file(cartella.filePath(nome));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();

@@ -1,6 +1,7 @@
 #include "support/bancadati.h"
 
 #include "data/archivio.h"
+#include "schema/registro.h"
 #include "schema/script.h"
 
 #include <gtest/gtest.h>
@@ -157,7 +158,11 @@ void eseguiTutte(Connessione& connessione, const QString& istruzioni)
         connessione.esegui(istruzione);
 }
 
-BancaDati::BancaDati(const std::string& tipo, Contenuto contenuto) : mMotore(creaMotore(tipo, contenuto)) {}
+BancaDati::BancaDati(const std::string& tipo, Contenuto contenuto) : mMotore(creaMotore(tipo, contenuto))
+{
+    if (contenuto == Contenuto::schema && qEnvironmentVariableIsSet("GIACENZA_PROVE_REGISTRO"))
+        preparaRegistro(accessoAmministratore());
+}
 
 BancaDati::~BancaDati() = default;
 
@@ -169,6 +174,11 @@ QString BancaDati::stringa() const
 Accesso BancaDati::accesso() const
 {
     return accessoTracciato(stringa());
+}
+
+Accesso BancaDati::accessoAmministratore() const
+{
+    return accessoTracciato(mMotore->stringaAmministratore());
 }
 
 Connessione BancaDati::connessione() const

@@ -27,6 +27,9 @@ enum class Contenuto
 ///     INSTANTIATE_TEST_SUITE_P(Basi, Salvataggio, testing::Values("sqlite", "mariadb"),
 ///                              nomeBase<testing::TestParamInfo<std::string>>);
 ///
+/// With GIACENZA_PROVE_REGISTRO in the environment a database with the schema has the register too: what a
+/// test finds must be the same.
+///
 /// "mariadb" needs the label "server" in the test's CMakeLists.txt: ctest starts the server. A database that
 /// cannot be made throws, and so fails the test, with what is missing.
 class BancaDati
@@ -43,6 +46,8 @@ public:
     QString stringa() const;
     /// The same, with the tracer of the thread: what is opened with it tells impostaTraccia()'s.
     Accesso accesso() const;
+    /// The way of a user who may do everything.
+    Accesso accessoAmministratore() const;
 
     /// A new open connection as workstation, and as a user who may do everything; both traced.
     Connessione connessione() const;

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "database/accesso.h"
+#include "desk/documenti/carta.h"
+#include "desk/documenti/serieestratti.h"
+
+#include <QDialog>
+
+#include <memory>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPlainTextEdit;
+class QProgressBar;
+class QPushButton;
+
+namespace giacenza {
+class CampoData;
+}
+
+namespace giacenza::schede {
+
+/// The statements of one customer or of all that have open cases, for a period, as PDF, CSV and workbook.
+///
+///     FinestraEstratti finestra(accesso, cliente, da, a, cartaDelleLettere(logo), this);
+///     finestra.exec();
+class FinestraEstratti : public QDialog
+{
+    Q_OBJECT
+
+public:
+    /// cliente: the code of one; empty: all with open cases, until one is chosen.
+    FinestraEstratti(const Accesso& accesso, const QString& cliente, QDate da, QDate a,
+                     const documenti::Carta& carta, QWidget* padre = nullptr);
+    ~FinestraEstratti() override;
+
+    /// While statements are being made, closing stops after the one that is at work.
+    void reject() override;
+
+private:
+    void componi();
+    QLayout* rigaPeriodo();
+    QLayout* rigaCartella();
+    void leggiClienti(const QString& cliente);
+    std::vector<documenti::ClienteAperto> scelti() const;
+    documenti::Forme forme() const;
+    void comincia();
+    void avanti();
+    void finisci();
+    void dici(const QString& testo);
+
+    Accesso mAccesso;
+    documenti::Carta mCarta;
+    std::vector<documenti::ClienteAperto> mClienti;
+    std::unique_ptr<documenti::SerieEstratti> mSerie;
+    bool mFermata = false;
+    QComboBox* mCliente = nullptr;
+    CampoData* mDa = nullptr;
+    CampoData* mA = nullptr;
+    QCheckBox* mForme[3] = {};
+    QLineEdit* mCartella = nullptr;
+    QPushButton* mEsegui = nullptr;
+    QPushButton* mFerma = nullptr;
+    QProgressBar* mAvanzamento = nullptr;
+    QPlainTextEdit* mEsiti = nullptr;
+    QLabel* mStato = nullptr;
+};
+
+} // namespace giacenza::schede
