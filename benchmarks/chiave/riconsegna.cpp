@@ -7,6 +7,7 @@
 #include "emissione/emittente.h"
 #include "redelivery/frmRiconsegna.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QChildEvent>
 #include <QDialog>
@@ -34,6 +35,7 @@ public:
     void prepara(const Caso& caso) override
     {
         registraParte(QString::fromUtf16(classeEmittenteLdv), {});
+        attiva();
         scrivi(u"txtCodiceCli"_s, caso.cliente);
         scrivi(u"txtLDV"_s, caso.numero);
         scrivi(u"txtDataLdv"_s, dataBreve(caso.data));
@@ -80,7 +82,7 @@ private:
         auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (!dialogo)
             return;
-        dialogo->findChild<QAbstractButton*>(u"optStampaLDV"_s)->setChecked(false);
+        dialogo->findChild<QAbstractButton*>(u"optStampaLDVNo"_s)->setChecked(true);
         mFase.emplace();
         dialogo->findChild<QPushButton*>(u"cmdEsci"_s)->click();
     }

@@ -39,6 +39,12 @@ OperazioneSuSchermata::OperazioneSuSchermata(std::unique_ptr<Schermata> schermat
 {
     mSchermata->carica();
     mSchermata->show();
+    attiva();
+}
+
+void OperazioneSuSchermata::attiva() const
+{
+    mSchermata->activateWindow();
     if (!QTest::qWaitForWindowActive(mSchermata.get()))
         throw Errore(u"The screen did not become active."_s);
 }

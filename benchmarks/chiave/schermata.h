@@ -28,6 +28,8 @@ protected:
         return trovato;
     }
 
+    /// Without a window manager nobody gives the screen the focus back when a dialog over it has closed.
+    void attiva() const;
     void scrivi(const QString& nome, const QString& testo) const;
     void premi(const QString& nome, Qt::Key tasto) const;
     /// Fails unless the control shows this.

@@ -93,8 +93,10 @@ Misura misura(const Confronto& confronto, const Corse& corse)
     constexpr double breve = 20; // milliseconds
     Concorrente nostro(confronto.nostro);
     Concorrente riferimento(confronto.riferimento);
-    if (confronto.stesseIstruzioni)
-        pretendiStesseIstruzioni(confronto.nome, nostro.istruzioni(), riferimento.istruzioni());
+    if (confronto.stesseIstruzioni) {
+        const QStringList nostre = nostro.istruzioni();
+        pretendiStesseIstruzioni(confronto.nome, nostre, riferimento.istruzioni());
+    }
     riferimento.scalda();
     nostro.scalda();
     corriInsieme(nostro, riferimento, corse.lunghe);
