@@ -53,26 +53,22 @@ void smettiDiRegistrare()
 int servi(Operazione& operazione)
 {
     Ripristino ripristino;
-    return servi(
-        [&](const std::vector<std::string>& parti) {
-            const Caso caso(parti);
-            operazione.prepara(caso);
-            const double millisecondi = operazione.esegui(caso);
-            ripristino.esegui(caso);
-            return millisecondi;
-        },
-        [&](const std::vector<std::string>& parti) {
-            const Caso caso(parti);
-            operazione.prepara(caso);
-            operazione.registra();
-            std::vector<std::string> inviate;
-            impostaTraccia(
-                [&](EventoDati evento, const QString& testo) { inviate.push_back(riga(evento, testo)); });
-            operazione.esegui(caso);
-            smettiDiRegistrare();
-            ripristino.esegui(caso);
-            return inviate;
-        });
+    return servi([&](const std::vector<std::string>& parti) { operazione.prepara(Caso(parti)); },
+                 [&](const std::vector<std::string>& parti) { return operazione.esegui(Caso(parti)); },
+                 [&](const std::vector<std::string>& parti) { ripristino.esegui(Caso(parti)); },
+                 [&](const std::vector<std::string>& parti) {
+                     const Caso caso(parti);
+                     operazione.prepara(caso);
+                     operazione.registra();
+                     std::vector<std::string> inviate;
+                     impostaTraccia([&](EventoDati evento, const QString& testo) {
+                         inviate.push_back(riga(evento, testo));
+                     });
+                     operazione.esegui(caso);
+                     smettiDiRegistrare();
+                     ripristino.esegui(caso);
+                     return inviate;
+                 });
 }
 
 } // namespace banco

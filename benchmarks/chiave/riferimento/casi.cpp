@@ -87,7 +87,6 @@ double avviso(Base& schermo, const Parti& parti)
 
 double chiusura(Base& schermo, const Parti& parti)
 {
-    schermo.apri(); // bringing the case up did it
     const banco::Cronometro cronometro;
     Base nuova;
     nuova.apri();

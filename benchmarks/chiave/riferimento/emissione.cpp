@@ -129,7 +129,6 @@ void emetti(const Riga& originale, const Parti& parti)
 
 double emissione(Base& schermo, const Parti& parti)
 {
-    schermo.apri(); // the lookup did it
     std::vector<int> tutte;
     for (int colonna = 1; colonna <= ultima; ++colonna)
         tutte.push_back(colonna);

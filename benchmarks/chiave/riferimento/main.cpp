@@ -38,11 +38,9 @@ int main(int argc, char* argv[])
         Base altra;
         schermo.apri();
         return banco::servi(
-            [&](const Parti& parti) {
-                const double millisecondi = scelta->second(schermo, parti);
-                ripristina(altra, parti);
-                return millisecondi;
-            },
+            [&](const Parti&) { schermo.apri(); }, // a screen has its case up, and its connection
+            [&](const Parti& parti) { return scelta->second(schermo, parti); },
+            [&](const Parti& parti) { ripristina(altra, parti); },
             [&](const Parti& parti) {
                 schermo.apri();
                 std::vector<std::string> inviate;
