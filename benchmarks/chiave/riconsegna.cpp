@@ -23,7 +23,7 @@ namespace banco {
 namespace {
 
 /// The whole re-delivery, but for the dialog that asks for the freight terms: from the press of the button to
-/// the beginning of the dialog, and from its confirmation to the end.
+/// the beginning of the dialog, and from when it is gone to the end.
 class Emissione : public OperazioneSuSchermata, public QObject
 {
 public:
@@ -83,7 +83,7 @@ private:
         if (!dialogo)
             return;
         dialogo->findChild<QAbstractButton*>(u"optStampaLDVNo"_s)->setChecked(true);
-        mFase.emplace();
+        QObject::connect(dialogo, &QObject::destroyed, this, [this] { mFase.emplace(); });
         dialogo->findChild<QPushButton*>(u"cmdEsci"_s)->click();
     }
 

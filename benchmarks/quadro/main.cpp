@@ -26,7 +26,7 @@ enum Uscita
 std::vector<Tema> tuttiITemi()
 {
     std::vector<Tema> tutti;
-    for (const auto& temi : {temiChiave, temiGriglia, temiStampa})
+    for (const auto& temi : {temiChiave, temiGriglia, temiStampa, temiAvvio})
         for (Tema& tema : temi())
             tutti.push_back(std::move(tema));
     return tutti;

@@ -25,6 +25,9 @@ std::vector<Tema> temiChiave();
 /// The shipment search: first page, second page, whole scroll, the dialog.
 std::vector<Tema> temiGriglia();
 
+/// From the start of a process to the registration screen.
+std::vector<Tema> temiAvvio();
+
 /// A storage notice, from the database to the PDF in the archive.
 std::vector<Tema> temiStampa();
 

@@ -64,6 +64,7 @@ void Istruzione::eseguiConValori(const QString& testo, std::span<const Valore> p
     mTesto = testo;
     viva();
     mCollegamento->esegui(EventoDati::istruzione, testo, [&] {
+        contaParametri(testo.count(u'?'), parametri);
         lega(parametri);
         invia(testo);
     });
@@ -99,12 +100,10 @@ void Istruzione::prepara(const QString& testo)
     });
 }
 
-void Istruzione::contaParametri(std::span<const Valore> parametri)
+void Istruzione::contaParametri(qsizetype segni, std::span<const Valore> parametri) const
 {
-    SQLSMALLINT segni = 0;
-    controlla(SQLNumParams(mManiglia, &segni));
     // The drivers would take null for what is missing.
-    if (static_cast<std::size_t>(segni) != parametri.size())
+    if (segni != std::ssize(parametri))
         throw ErroreDatabase(
             u"07002"_s, 0,
             u"L'istruzione aspetta %1 valori e ne riceve %2."_s.arg(segni).arg(parametri.size()), mTesto);
@@ -135,7 +134,9 @@ void Istruzione::eseguiPreparata(std::span<const Valore> parametri)
 {
     const SQLHSTMT maniglia = viva();
     mCollegamento->esegui(EventoDati::istruzione, mTesto, [&] {
-        contaParametri(parametri);
+        SQLSMALLINT segni = 0;
+        controlla(SQLNumParams(mManiglia, &segni));
+        contaParametri(segni, parametri);
         lega(parametri);
         const SQLRETURN esito = SQLExecute(maniglia);
         if (esito != SQL_NO_DATA)
