@@ -12,12 +12,12 @@
 /// library, so that these hold no code of ours.
 namespace banco {
 
-/// Fills the processor's caches with something else, and forgets the peak of memory that this took. Between
+/// Fills the processor core's own caches with something else, and forgets the peak of memory that this took. Between
 /// two presses of an operator seconds pass and other programs run; a loop of bare calls would find all of its
 /// code and data at hand, a program with a screen to paint would not.
 inline void raffredda()
 {
-    constexpr std::size_t quanti = 32U << 20;
+    constexpr std::size_t quanti = 4U << 20;
     constexpr std::size_t riga = 64;
     {
         std::vector<unsigned char> altro(quanti, 1);
