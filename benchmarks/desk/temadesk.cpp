@@ -77,13 +77,13 @@ struct Voce
     QStringList nostri;
     QString istruzione;
     qint64 lette;
-    double obiettivo = 0;
+    Obiettivo obiettivo = {};
     bool aperta = false; ///< neither connects within the time
 };
 
 std::vector<Voce> voci(qint64 righe)
 {
-    constexpr double obiettivo = 1.3;
+    constexpr Obiettivo obiettivo{.rapporto = 1.3};
     const qint64 aperte = righe / unaApertaOgni;
     const QString una = QString::number(aperte / 2 * unaApertaOgni);
     const QString tutte = istruzioni::casiAperti();
@@ -95,38 +95,44 @@ std::vector<Voce> voci(qint64 righe)
         // What the operator waits for, beside the whole of the bare statement; then beside as many of its
         // rows.
         {u"desk"_s, {u"rows"_s, QString::number(prime)}, tutte, aperte, obiettivo},
-        {u"desk-first-rows"_s, {u"rows"_s, QString::number(prime)}, tutte, prime},
-        {u"desk-all"_s, {u"rows"_s, QString::number(aperte)}, tutte, aperte},
-        {u"desk-filter"_s, {u"filter"_s, u"ord-%1"_s.arg(una), u"1"_s}, filtrate, 1, obiettivo},
-        {u"desk-scan"_s, {u"scan"_s, u"MI-%1-2025"_s.arg(una), u"1"_s}, scansione, 1, obiettivo, true},
+        {u"desk_first_rows"_s, {u"rows"_s, QString::number(prime)}, tutte, prime},
+        {u"desk_all"_s, {u"rows"_s, QString::number(aperte)}, tutte, aperte},
+        {u"desk_filter"_s, {u"filter"_s, u"ord-%1"_s.arg(una), u"1"_s}, filtrate, 1, obiettivo},
+        {u"desk_scan"_s, {u"scan"_s, u"MI-%1-2025"_s.arg(una), u"1"_s}, scansione, 1, obiettivo, true},
     };
+}
+
+Confronto confronto(const Voce& voce, const QString& tipo, const QString& stringa, qint64 righe)
+{
+    QStringList riferimento{voce.istruzione, QString::number(voce.lette), u"0"_s};
+    if (voce.aperta)
+        riferimento << u"open"_s;
+    return {voce.nome,
+            tipo,
+            righe,
+            {u"misura-desk"_s, voce.nostri, stringa},
+            {u"riferimento-griglia"_s, riferimento, stringa},
+            voce.obiettivo};
+}
+
+std::vector<Confronto> confronti(const Basi& basi, const Opzioni& opzioni)
+{
+    std::vector<Confronto> elenco;
+    for (const QString& tipo : opzioni.basi)
+        for (const qint64 righe : opzioni.misure({1'000'000})) {
+            const QString stringa = basi.stringa(tipo, u"desk_%1"_s.arg(righe),
+                                                 [righe](Connessione& nuova) { riempi(nuova, righe); });
+            for (const Voce& voce : voci(righe))
+                elenco.push_back(confronto(voce, tipo, stringa, righe));
+        }
+    return elenco;
 }
 
 } // namespace
 
-std::vector<Confronto> temaDesk(const Basi& basi, const Opzioni& opzioni)
+std::vector<Tema> temiDesk()
 {
-    const std::vector<qint64> tutte{1'000'000};
-    std::vector<Confronto> confronti;
-    for (const QString& tipo : opzioni.basi) {
-        for (const qint64 righe : opzioni.righe.empty() ? tutte : opzioni.righe) {
-            const QString stringa = basi.stringa(tipo, u"desk_%1"_s.arg(righe),
-                                                 [righe](Connessione& nuova) { riempi(nuova, righe); });
-            for (const Voce& voce : voci(righe)) {
-                QStringList riferimento{voce.istruzione, QString::number(voce.lette), u"0"_s};
-                if (voce.aperta)
-                    riferimento << u"open"_s;
-                confronti.push_back({voce.nome,
-                                     tipo,
-                                     righe,
-                                     stringa,
-                                     {u"misura-desk"_s, voce.nostri},
-                                     {u"riferimento-griglia"_s, riferimento},
-                                     voce.obiettivo});
-            }
-        }
-    }
-    return confronti;
+    return {{u"desk"_s, confronti}};
 }
 
 } // namespace banco

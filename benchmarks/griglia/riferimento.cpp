@@ -64,15 +64,31 @@ bool esegui(SQLHSTMT istruzione, std::string testo)
     return riuscita(SQLExecDirect(istruzione, byte(testo), SQL_NTS), "SQLExecDirect");
 }
 
+/// The session as the component sets it: the same statements then mean the same.
+bool prepara(SQLHDBC collegamento, bool mariadb)
+{
+    SQLHSTMT istruzione = SQL_NULL_HSTMT;
+    SQLAllocHandle(SQL_HANDLE_STMT, collegamento, &istruzione);
+    bool fatta =
+        esegui(istruzione, mariadb ? "select @@lower_case_table_names" : "pragma busy_timeout=15000") &&
+        SQL_SUCCEEDED(SQLFetch(istruzione)) && SQL_SUCCEEDED(SQLFreeStmt(istruzione, SQL_CLOSE));
+    if (mariadb)
+        fatta = fatta && esegui(istruzione, "SET SESSION sql_mode=concat_ws(',',nullif(@@sql_mode,''),"
+                                            "'NO_BACKSLASH_ESCAPES'), max_statement_time=30");
+    SQLFreeHandle(SQL_HANDLE_STMT, istruzione);
+    return fatta;
+}
+
 SQLHDBC collega(SQLHENV ambiente, std::string stringa)
 {
+    const bool mariadb = stringa.find("MariaDB") != std::string::npos;
     SQLHDBC collegamento = SQL_NULL_HDBC;
     SQLAllocHandle(SQL_HANDLE_DBC, ambiente, &collegamento);
     if (!riuscita(SQLDriverConnect(collegamento, nullptr, byte(stringa), SQL_NTS, nullptr, 0, nullptr,
                                    SQL_DRIVER_NOPROMPT),
                   "SQLDriverConnect"))
         return SQL_NULL_HDBC;
-    return collegamento;
+    return prepara(collegamento, mariadb) ? collegamento : SQL_NULL_HDBC;
 }
 
 } // namespace

@@ -56,51 +56,59 @@ struct Voce
     QString nome;
     QString programma;
     ModoRicerca modo;
-    qint64 lette;
-    double obiettivo = 0;
+    bool tutto; ///< scrolled down to the last row
+    qint64 pagine;
+    Obiettivo obiettivo = {};
 };
 
-std::vector<Voce> voci(qint64 righe)
+Confronto confronto(const Voce& voce, const QString& tipo, const QString& stringa, qint64 righe)
 {
-    constexpr double obiettivo = 1.3;
-    constexpr auto perNumero = ModoRicerca::letteraVettura;
-    constexpr auto perRiferimento = ModoRicerca::riferimento;
-    return {
-        {u"grid"_s, u"misura-griglia"_s, perNumero, righePagina, obiettivo},
-        {u"grid-by-reference"_s, u"misura-griglia"_s, perRiferimento, righePagina, obiettivo},
-        // The whole dialog, until it is painted: what the operator waits for.
-        {u"grid-dialog"_s, u"misura-finestra"_s, perNumero, righePagina},
-        {u"grid-second-page"_s, u"misura-griglia"_s, perNumero, 2 * righePagina},
-        // Scrolled down to the last row.
-        {u"grid-all"_s, u"misura-griglia"_s, perNumero, righe},
-    };
+    const qint64 lette = voce.tutto ? righe : std::min(righe, voce.pagine * righePagina);
+    const qint64 limite = tipo == u"mariadb"_s && lette == righePagina ? righePagina + 1 : 0;
+    const QStringList argomenti{istruzione(voce.modo), QString::number(lette)};
+    return {voce.nome,
+            tipo,
+            righe,
+            {voce.programma, argomenti + QStringList{QString::number(static_cast<int>(voce.modo))}, stringa},
+            {u"riferimento-griglia"_s, argomenti + QStringList{QString::number(limite)}, stringa},
+            voce.obiettivo};
+}
+
+std::vector<Confronto> confronti(const std::vector<Voce>& voci, const Basi& basi, const Opzioni& opzioni)
+{
+    std::vector<Confronto> elenco;
+    for (const QString& tipo : opzioni.basi)
+        for (const qint64 righe : opzioni.misure({10'000, 1'000'000})) {
+            const QString stringa = basi.stringa(tipo, u"griglia_%1"_s.arg(righe),
+                                                 [righe](Connessione& nuova) { riempi(nuova, righe); });
+            for (const Voce& voce : voci)
+                elenco.push_back(confronto(voce, tipo, stringa, righe));
+        }
+    return elenco;
 }
 
 } // namespace
 
-std::vector<Confronto> temaGriglia(const Basi& basi, const Opzioni& opzioni)
+std::vector<Tema> temiGriglia()
 {
-    const std::vector<qint64> tutte{10'000, 1'000'000};
-    std::vector<Confronto> confronti;
-    for (const QString& tipo : opzioni.basi) {
-        for (const qint64 righe : opzioni.righe.empty() ? tutte : opzioni.righe) {
-            const QString stringa = basi.stringa(tipo, u"griglia_%1"_s.arg(righe),
-                                                 [righe](Connessione& nuova) { riempi(nuova, righe); });
-            for (const Voce& voce : voci(righe)) {
-                const qint64 limite = tipo == u"mariadb"_s && voce.lette == righePagina ? righePagina + 1 : 0;
-                const QStringList argomenti{istruzione(voce.modo), QString::number(voce.lette)};
-                confronti.push_back(
-                    {voce.nome,
-                     tipo,
-                     righe,
-                     stringa,
-                     {voce.programma, argomenti + QStringList{QString::number(static_cast<int>(voce.modo))}},
-                     {u"riferimento-griglia"_s, argomenti + QStringList{QString::number(limite)}},
-                     voce.obiettivo});
-            }
-        }
-    }
-    return confronti;
+    const auto tema = [](const QString& nome, const std::vector<Voce>& voci) {
+        return Tema{nome, [voci](const Basi& basi, const Opzioni& opzioni) {
+                        return confronti(voci, basi, opzioni);
+                    }};
+    };
+    constexpr auto perNumero = ModoRicerca::letteraVettura;
+    constexpr auto perRiferimento = ModoRicerca::riferimento;
+    constexpr Obiettivo primaPagina{.rapporto = 1.2, .picco = 40};
+    constexpr Obiettivo tutte{.rapporto = 1.3};
+    const QString modello = u"misura-griglia"_s;
+    return {
+        tema(u"grid"_s, {{u"grid"_s, modello, perNumero, false, 1, primaPagina},
+                         {u"grid_by_reference"_s, modello, perRiferimento, false, 1, primaPagina},
+                         // The whole dialog, until it is painted: what the operator waits for.
+                         {u"grid_dialog"_s, u"misura-finestra"_s, perNumero, false, 1},
+                         {u"grid_second_page"_s, modello, perNumero, false, 2}}),
+        tema(u"grid_all"_s, {{u"grid_all"_s, modello, perNumero, true, 0, tutte}}),
+    };
 }
 
 } // namespace banco

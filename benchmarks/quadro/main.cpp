@@ -1,3 +1,4 @@
+#include "benchmarks/quadro/precedente.h"
 #include "benchmarks/quadro/relazione.h"
 #include "benchmarks/quadro/temi.h"
 
@@ -5,20 +6,29 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <cstdio>
-#include <map>
 
 using namespace banco;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-using Tema = std::vector<Confronto> (*)(const Basi&, const Opzioni&);
-
-const std::map<QString, Tema>& temi()
+/// As ./bench --help lists them.
+enum Uscita
 {
-    static const std::map<QString, Tema> tutti{
-        {u"desk"_s, temaDesk}, {u"grid"_s, temaGriglia}, {u"print"_s, temaStampa}};
+    fatto = 0,
+    fallito = 1,
+    piuLento = 3
+};
+
+/// In the order in which they are measured.
+std::vector<Tema> tuttiITemi()
+{
+    std::vector<Tema> tutti;
+    for (const auto& temi : {temiChiave, temiGriglia, temiStampa, temiDesk, temiAvvio})
+        for (Tema& tema : temi())
+            tutti.push_back(std::move(tema));
     return tutti;
 }
 
@@ -28,26 +38,48 @@ void stampa(const QString& testo)
     std::fflush(stdout);
 }
 
-void misuraTutto(const Opzioni& opzioni)
+std::vector<Tema> temiChiesti(const QStringList& nomi)
 {
-    for (const QString& tema : opzioni.temi)
-        if (!temi().contains(tema))
-            throw giacenza::Errore(u"There is no topic \"%1\"."_s.arg(tema));
+    std::vector<Tema> temi = tuttiITemi();
+    for (const QString& nome : nomi)
+        if (std::none_of(temi.begin(), temi.end(), [&](const Tema& tema) { return tema.nome == nome; })) {
+            QStringList noti;
+            for (const Tema& tema : temi)
+                noti += tema.nome;
+            throw giacenza::Errore(u"There is no \"%1\". There is: %2."_s.arg(nome, noti.join(u", "_s)));
+        }
+    if (!nomi.isEmpty())
+        std::erase_if(temi, [&](const Tema& tema) { return !nomi.contains(tema.nome); });
+    return temi;
+}
+
+std::vector<Misura> misuraTutto(const Opzioni& opzioni)
+{
     const Basi basi(opzioni);
     std::vector<Misura> misure;
     bool primo = true;
-    for (const auto& [nome, tema] : temi()) {
-        if (!opzioni.temi.isEmpty() && !opzioni.temi.contains(nome))
-            continue;
-        const std::vector<Confronto> confronti = tema(basi, opzioni);
+    for (const Tema& tema : temiChiesti(opzioni.nomi)) {
+        const std::vector<Confronto> confronti = tema.confronti(basi, opzioni);
         if (std::exchange(primo, false))
             stampa(testata());
         for (const Confronto& confronto : confronti) {
             misure.push_back(misura(confronto, opzioni.corse));
             stampa(riga(misure.back()));
+            // What was measured stays if a later one fails.
+            scriviRelazione(opzioni.relazione, misure);
         }
     }
-    scriviRelazione(opzioni.relazione, misure);
+    return misure;
+}
+
+Uscita confronta(const std::vector<Precedente>& precedenti, const std::vector<Misura>& misure)
+{
+    const QStringList lente = rallentate(precedenti, misure);
+    for (const QString& lenta : lente)
+        stampa(lenta + u'\n');
+    if (lente.isEmpty())
+        stampa(u"Nothing got slower.\n"_s);
+    return lente.isEmpty() ? fatto : piuLento;
 }
 
 } // namespace
@@ -56,10 +88,16 @@ int main(int argc, char* argv[])
 {
     const QCoreApplication applicazione(argc, argv);
     try {
-        misuraTutto(leggiOpzioni(QCoreApplication::arguments()));
+        const Opzioni opzioni = leggiOpzioni(QCoreApplication::arguments());
+        if (opzioni.precedente.isEmpty()) {
+            misuraTutto(opzioni);
+            return fatto;
+        }
+        // Read first: it may be the very file that is written.
+        const std::vector<Precedente> precedenti = leggiPrecedenti(opzioni.precedente);
+        return confronta(precedenti, misuraTutto(opzioni));
     } catch (const std::exception& errore) {
         std::fprintf(stderr, "%s\n", errore.what());
-        return EXIT_FAILURE;
+        return fallito;
     }
-    return EXIT_SUCCESS;
 }

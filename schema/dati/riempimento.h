@@ -8,7 +8,7 @@
 
 namespace giacenza::dimostrazione {
 
-inline constexpr int massimoSpedizioni = 5'000'000;
+inline constexpr int massimoSpedizioni = 10'000'000;
 
 struct Richiesta
 {

@@ -12,33 +12,39 @@ namespace giacenza {
 
 namespace {
 
-// A reader that the host registers, or a plug-in file brings, goes before the component's own.
-std::unique_ptr<LettoreIni> lettore()
+/// What a plug-in file brings or the host registers, and goes before the component's own.
+std::unique_ptr<LettoreIni> lettoreEsterno()
 {
     std::unique_ptr<ParteEsterna> esterno = creaParteFacoltativa(QStringView(classeLettoreIni).toString());
-    if (auto* lettore = dynamic_cast<LettoreIni*>(esterno.get())) {
+    auto* lettore = dynamic_cast<LettoreIni*>(esterno.get());
+    if (lettore)
         esterno.release();
-        return std::unique_ptr<LettoreIni>(lettore);
-    }
-    return std::make_unique<LettoreIniProprio>();
+    return std::unique_ptr<LettoreIni>(lettore);
 }
 
 } // namespace
 
 QString LeggiIni(const QString& sezione, const QString& chiave)
 {
-    return lettore()->leggi(impostazioni().percorsoFileIni, sezione, chiave);
+    return LeggiIni(sezione, QStringList(chiave)).front();
+}
+
+QStringList LeggiIni(const QString& sezione, const QStringList& chiavi)
+{
+    const QString& percorso = impostazioni().percorsoFileIni;
+    const std::unique_ptr<LettoreIni> esterno = lettoreEsterno();
+    if (!esterno)
+        return LettoreIniProprio::leggi(percorso, sezione, chiavi);
+    QStringList valori;
+    for (const QString& chiave : chiavi)
+        valori += esterno->leggi(percorso, sezione, chiave);
+    return valori;
 }
 
 QStringList LeggiPiede()
 {
-    constexpr int righePiede = 3;
-    QStringList righe;
-    for (int i = 1; i <= righePiede; ++i) {
-        const QString riga = LeggiIni(u"Lettere"_s, u"Piede%1"_s.arg(i));
-        if (!riga.trimmed().isEmpty())
-            righe << riga;
-    }
+    QStringList righe = LeggiIni(u"Lettere"_s, QStringList{u"Piede1"_s, u"Piede2"_s, u"Piede3"_s});
+    righe.removeIf([](const QString& riga) { return riga.trimmed().isEmpty(); });
     return righe;
 }
 

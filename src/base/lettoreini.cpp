@@ -12,12 +12,22 @@ namespace giacenza {
 
 QString LettoreIniProprio::leggi(const QString& percorsoFile, const QString& sezione, const QString& chiave)
 {
+    return leggi(percorsoFile, sezione, QStringList(chiave)).front();
+}
+
+QStringList LettoreIniProprio::leggi(const QString& percorsoFile, const QString& sezione,
+                                     const QStringList& chiavi)
+{
     const auto byte = leggiFileLimitato(percorsoNativo(percorsoFile), limiteImpostazioni);
     const QByteArray testo = decodifica(byte.value_or(QByteArray())).testo.toUtf8();
     CSimpleIniA voci(true, true);
-    if (voci.LoadData(testo.constData(), static_cast<size_t>(testo.size())) < 0)
-        return {};
-    return QString::fromUtf8(voci.GetValue(sezione.toUtf8().constData(), chiave.toUtf8().constData(), ""));
+    const bool letto = voci.LoadData(testo.constData(), static_cast<size_t>(testo.size())) >= 0;
+    QStringList valori;
+    for (const QString& chiave : chiavi)
+        valori += letto ? QString::fromUtf8(
+                              voci.GetValue(sezione.toUtf8().constData(), chiave.toUtf8().constData(), ""))
+                        : QString();
+    return valori;
 }
 
 } // namespace giacenza

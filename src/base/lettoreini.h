@@ -2,6 +2,8 @@
 
 #include <giacenza/LettoreIni.h>
 
+#include <QStringList>
+
 namespace giacenza {
 
 /// The component's own settings reader: it reads the file anew at each call. The file is UTF-8, with or
@@ -12,6 +14,8 @@ class LettoreIniProprio : public LettoreIni
 {
 public:
     QString leggi(const QString& percorsoFile, const QString& sezione, const QString& chiave) override;
+    /// The values of several keys of one section, of which the file is read once.
+    static QStringList leggi(const QString& percorsoFile, const QString& sezione, const QStringList& chiavi);
 };
 
 } // namespace giacenza

@@ -8,6 +8,13 @@ using namespace Qt::StringLiterals;
 
 namespace giacenza::odbc {
 
+namespace {
+
+/// Bytes of a bound value, its terminator among them.
+constexpr SQLLEN larghezzaLegata = 256;
+
+} // namespace
+
 Istruzione::Istruzione(std::shared_ptr<Collegamento> collegamento) : mCollegamento(std::move(collegamento))
 {
     if (!mCollegamento->aperto())
@@ -64,6 +71,7 @@ void Istruzione::eseguiConValori(const QString& testo, std::span<const Valore> p
     mTesto = testo;
     viva();
     mCollegamento->esegui(EventoDati::istruzione, testo, [&] {
+        contaParametri(testo.count(u'?'), parametri);
         lega(parametri);
         invia(testo);
     });
@@ -99,12 +107,10 @@ void Istruzione::prepara(const QString& testo)
     });
 }
 
-void Istruzione::contaParametri(std::span<const Valore> parametri)
+void Istruzione::contaParametri(qsizetype segni, std::span<const Valore> parametri) const
 {
-    SQLSMALLINT segni = 0;
-    controlla(SQLNumParams(mManiglia, &segni));
     // The drivers would take null for what is missing.
-    if (static_cast<std::size_t>(segni) != parametri.size())
+    if (segni != std::ssize(parametri))
         throw ErroreDatabase(
             u"07002"_s, 0,
             u"L'istruzione aspetta %1 valori e ne riceve %2."_s.arg(segni).arg(parametri.size()), mTesto);
@@ -135,7 +141,9 @@ void Istruzione::eseguiPreparata(std::span<const Valore> parametri)
 {
     const SQLHSTMT maniglia = viva();
     mCollegamento->esegui(EventoDati::istruzione, mTesto, [&] {
-        contaParametri(parametri);
+        SQLSMALLINT segni = 0;
+        controlla(SQLNumParams(mManiglia, &segni));
+        contaParametri(segni, parametri);
         lega(parametri);
         const SQLRETURN esito = SQLExecute(maniglia);
         if (esito != SQL_NO_DATA)
@@ -199,16 +207,44 @@ bool Istruzione::leggi(Riga& riga, int colonne)
     riga.celle.reserve(static_cast<std::size_t>(colonne));
     mLetti.resize(0);
     const bool letta = mCollegamento->sorveglia([&] {
+        // Binding pays from the second row on: the rest then comes with one call for each row.
+        if (++mRighe == 2)
+            legaColonne(colonne);
         const SQLRETURN esito = SQLFetch(maniglia);
         if (esito == SQL_NO_DATA)
             return false;
         controlla(esito);
         for (int colonna = 1; colonna <= colonne; ++colonna)
-            riga.celle.push_back(leggiCella(static_cast<SQLUSMALLINT>(colonna)));
+            riga.celle.push_back(mLegateLunghe.empty() ? leggiCella(static_cast<SQLUSMALLINT>(colonna))
+                                                       : cellaLegata(colonna));
         return true;
     });
     riga.dati = QByteArray(mLetti.constData(), mLetti.size());
     return letta;
+}
+
+void Istruzione::legaColonne(int colonne)
+{
+    const auto quante = static_cast<std::size_t>(colonne);
+    mLegate.resize(quante * larghezzaLegata);
+    mLegateLunghe.resize(quante);
+    for (std::size_t i = 0; i < quante; ++i)
+        controlla(SQLBindCol(mManiglia, static_cast<SQLUSMALLINT>(i + 1), SQL_C_CHAR,
+                             &mLegate[i * larghezzaLegata], larghezzaLegata, &mLegateLunghe[i]));
+}
+
+/// A value that did not fit is read anew, in pieces.
+Riga::Cella Istruzione::cellaLegata(int colonna)
+{
+    const auto posto = static_cast<std::size_t>(colonna - 1);
+    const SQLLEN lunga = mLegateLunghe[posto];
+    const auto inizio = static_cast<qint32>(mLetti.size());
+    if (lunga == SQL_NULL_DATA)
+        return {inizio, -1};
+    if (lunga == SQL_NO_TOTAL || lunga >= larghezzaLegata)
+        return leggiCella(static_cast<SQLUSMALLINT>(colonna));
+    mLetti.append(&mLegate[posto * larghezzaLegata], lunga);
+    return {inizio, static_cast<qint32>(lunga)};
 }
 
 /// Most values fit the first call; of a longer one the driver tells how much is left, or that it cannot tell.

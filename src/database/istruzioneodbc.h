@@ -48,8 +48,8 @@ public:
     /// Sends the text without running it.
     void prepara(const QString& testo);
     void eseguiPreparata(std::span<const Valore> parametri);
-    /// Both for one use, which on MariaDB takes one round trip instead of two. parametri: one for each "?" of
-    /// the text, since here nobody counts them.
+    /// Both for one use, which on MariaDB takes one round trip instead of two. A "?" of the text is always
+    /// the place of a value, also within quotes.
     void eseguiConValori(const QString& testo, std::span<const Valore> parametri);
 
     /// Ends a statement whose rows, if it gives any, nobody wants: SQLite's driver runs one that gives rows
@@ -68,16 +68,21 @@ private:
     SQLHSTMT viva() const;
     void controlla(SQLRETURN esito);
     void invia(const QString& testo);
-    void contaParametri(std::span<const Valore> parametri);
+    void contaParametri(qsizetype segni, std::span<const Valore> parametri) const;
     void lega(std::span<const Valore> parametri);
     Riga::Cella leggiCella(SQLUSMALLINT colonna);
+    void legaColonne(int colonne);
+    Riga::Cella cellaLegata(int colonna);
 
     std::shared_ptr<Collegamento> mCollegamento;
     SQLHSTMT mManiglia = SQL_NULL_HSTMT;
     QString mTesto;
     std::vector<QByteArray> mValori; // bound; must outlive the execution
     std::vector<SQLLEN> mLunghezze;
-    QByteArray mLetti; // the row being read: kept rows are copied to their size
+    QByteArray mLetti;         // the row being read: kept rows are copied to their size
+    int mRighe = 0;            // that were read
+    std::vector<char> mLegate; // what the driver fills by itself from the second row on
+    std::vector<SQLLEN> mLegateLunghe;
 };
 
 } // namespace giacenza::odbc

@@ -1,30 +1,45 @@
 #include "database/nomicolonne.h"
 
+#include <algorithm>
+
 namespace giacenza {
 
-/// Surrogates are left out: their case shows only in pairs.
-std::size_t NomiColonne::Impronta::operator()(const QString& nome) const noexcept
+namespace {
+
+/// A number that names of one spelling but for case have in common. Surrogates are left out: their case shows
+/// only in pairs.
+std::size_t impronta(const QString& nome)
 {
     constexpr std::size_t base = 31;
-    std::size_t impronta = 0;
-    for (const QChar carattere : nome)
-        if (!carattere.isSurrogate())
-            impronta = impronta * base + carattere.toCaseFolded().unicode();
-    return impronta;
+    constexpr char16_t fineAscii = 0x80;
+    std::size_t somma = 0;
+    for (const QChar carattere : nome) {
+        const char16_t codice = carattere.unicode();
+        if (codice < fineAscii)
+            somma = somma * base + (codice >= u'A' && codice <= u'Z' ? codice + (u'a' - u'A') : codice);
+        else if (!carattere.isSurrogate())
+            somma = somma * base + carattere.toCaseFolded().unicode();
+    }
+    return somma;
 }
 
-bool NomiColonne::Uguale::operator()(const QString& uno, const QString& altro) const noexcept
-{
-    return uno.compare(altro, Qt::CaseInsensitive) == 0;
-}
+} // namespace
 
 qsizetype NomiColonne::posto(const QString& nome) const
 {
-    if (mPosti.empty())
+    if (mPosti.empty()) {
+        mPosti.reserve(mNomi.size());
         for (int colonna = 0; colonna < quanti(); ++colonna)
-            mPosti.try_emplace((*this)[colonna], colonna); // the first of equal names stays
-    const auto trovato = mPosti.find(nome);
-    return trovato == mPosti.end() ? -1 : trovato->second;
+            mPosti.emplace_back(impronta((*this)[colonna]), colonna);
+        std::sort(mPosti.begin(), mPosti.end());
+    }
+    const std::pair<std::size_t, qsizetype> primo(impronta(nome), 0);
+    // Of equal names the first stands first.
+    for (auto questo = std::lower_bound(mPosti.begin(), mPosti.end(), primo);
+         questo != mPosti.end() && questo->first == primo.first; ++questo)
+        if ((*this)[questo->second].compare(nome, Qt::CaseInsensitive) == 0)
+            return questo->second;
+    return -1;
 }
 
 } // namespace giacenza

@@ -2,7 +2,6 @@
 
 #include <QString>
 
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -26,18 +25,9 @@ public:
     qsizetype posto(const QString& nome) const;
 
 private:
-    struct Impronta
-    {
-        std::size_t operator()(const QString& nome) const noexcept;
-    };
-    struct Uguale
-    {
-        bool operator()(const QString& uno, const QString& altro) const noexcept;
-    };
-
     std::vector<QString> mNomi;
-    mutable std::unordered_map<QString, qsizetype, Impronta, Uguale>
-        mPosti; // empty before the first question
+    /// By a number that does not know case; empty before the first question.
+    mutable std::vector<std::pair<std::size_t, qsizetype>> mPosti;
 };
 
 } // namespace giacenza

@@ -33,12 +33,10 @@ void Recordset::Interno::apri(const QString& testo, Cursore cursore, std::span<c
 {
     istruzione = testo;
     auto lettura = std::make_unique<odbc::Istruzione>(collegamento);
-    if (parametri.empty()) {
+    if (parametri.empty())
         lettura->esegui(testo);
-    } else {
-        lettura->prepara(testo);
-        lettura->eseguiPreparata(parametri);
-    }
+    else
+        lettura->eseguiConValori(testo, parametri);
     nomi = NomiColonne(lettura->nomiColonne());
     if (nomi.vuoti())
         fallisci("07005", u"L'istruzione non dà righe."_s);

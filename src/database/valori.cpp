@@ -1,7 +1,5 @@
 #include "database/valori.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -15,6 +13,15 @@ bool eCifra(QChar carattere)
     return carattere >= u'0' && carattere <= u'9';
 }
 
+/// Whether a text has a digit for each "0" of a form, and its other characters where they are.
+bool haForma(QStringView testo, QStringView forma)
+{
+    return testo.size() == forma.size() &&
+           std::equal(testo.begin(), testo.end(), forma.begin(), [](QChar carattere, QChar atteso) {
+               return atteso == u'0' ? eCifra(carattere) : carattere == atteso;
+           });
+}
+
 } // namespace
 
 bool soloCifre(const QString& testo)
@@ -24,14 +31,13 @@ bool soloCifre(const QString& testo)
 
 std::optional<QDate> leggiData(const QString& testo)
 {
-    static const QRegularExpression breve(u"\\A([0-9]{2})/([0-9]{2})/([0-9]{4})\\z"_s);
-    static const QRegularExpression perSql(u"\\A([0-9]{4})-([0-9]{2})-([0-9]{2})\\z"_s);
-    QDate giorno;
-    if (const auto gruppi = breve.match(testo); gruppi.hasMatch()) {
-        giorno = QDate(gruppi.captured(3).toInt(), gruppi.captured(2).toInt(), gruppi.captured(1).toInt());
-    } else if (const auto sql = perSql.match(testo); sql.hasMatch()) {
-        giorno = QDate(sql.captured(1).toInt(), sql.captured(2).toInt(), sql.captured(3).toInt());
-    }
+    // By hand: a row that is shown has some ten of them.
+    const bool breve = haForma(testo, u"00/00/0000");
+    if (!breve && !haForma(testo, u"0000-00-00"))
+        return std::nullopt;
+    const QStringView cifre = testo;
+    const QDate giorno = breve ? QDate(cifre.mid(6).toInt(), cifre.mid(3, 2).toInt(), cifre.left(2).toInt())
+                               : QDate(cifre.left(4).toInt(), cifre.mid(5, 2).toInt(), cifre.mid(8).toInt());
     return giorno.isValid() ? std::optional(giorno) : std::nullopt;
 }
 

@@ -47,6 +47,33 @@ TEST_P(AccessoAllArchivio, ELaStringaDellHost)
     EXPECT_EQ(accessoTracciato(u"DSN=terza"_s).stringa, u"DSN=terza"_s);
 }
 
+TEST_P(AccessoAllArchivio, IlFileCheMancaSiTrovaComunqueSiaScrittaLaStringa)
+{
+    for (const QString& stringa : {u"DRIVER={SQLite3};Database=/manca/a b.db;Timeout=1"_s,
+                                   u"driver=SQLite3; DATABASE = /manca/a b.db "_s,
+                                   u"Database={/manca/a b.db};Driver={SQLite3 ODBC; =Driver}"_s,
+                                   u"X=;Driver=SQLITE;Database=/manca/a b.db;"_s}) {
+        impostazioni().percorsoDatabase = stringa;
+        try {
+            accessoHost();
+            ADD_FAILURE() << stringa.toStdString();
+        } catch (const ErroreDatabase& errore) {
+            EXPECT_EQ(errore.testo(), u"Il file dell'archivio non c'è: /manca/a b.db"_s);
+            EXPECT_EQ(errore.sqlstate(), u"08001"_s);
+        }
+    }
+    for (const QString& stringa :
+         {u"DRIVER={MariaDB};DATABASE=/manca/a.db"_s, u"Driver=SQLite3;Database=:memory:"_s,
+          u"Driver=SQLite3;MioDatabase=/manca/a.db"_s, u"Driver=SQLite3;Database={"_s, u"SQLite3"_s,
+          u"Driver=SQLite3;Database={:memory:}"_s}) {
+        impostazioni().percorsoDatabase = stringa;
+        if (stringa.endsWith(u'{'))
+            EXPECT_THROW(accessoHost(), ErroreDatabase) << "a brace that is not closed is a name";
+        else
+            EXPECT_EQ(accessoHost().stringa, stringa);
+    }
+}
+
 TEST_P(AccessoAllArchivio, LaTracciaValeAncheSeArrivaAConnessioneAperta)
 {
     Connessione connessione;

@@ -110,6 +110,30 @@ TEST_P(Valori, diDieciMegabyteTornanoInteri)
     EXPECT_EQ(recordset.valore(1), u"1"_s);
 }
 
+/// The first row is read value by value, the others as the driver fills them in; a value that does not fit
+/// there is read anew.
+TEST_P(Valori, diOgniLunghezzaTornanoInteriAncheInRigheSuccessive)
+{
+    QStringList attesi;
+    for (const int lunghezza : {3, 0, 254, 255, 256, 257, 511, 70'000, 5, 300, -1, 7}) {
+        attesi += lunghezza < 0 ? u"NULL"_s : u"è"_s.repeated(lunghezza / 2) + QString(lunghezza % 2, u'x');
+        const QString id = QString::number(attesi.size());
+        Comando(mConnessione, u"insert into prova (id, testo) values (?, ?)"_s)
+            .esegui(std::vector<Valore>{id, lunghezza < 0 ? Valore() : Valore(attesi.back())});
+    }
+    for (const auto cursore : {Recordset::Cursore::chiave, Recordset::Cursore::soloAvanti}) {
+        Recordset righe;
+        righe.apri(mConnessione, u"select testo, id, testo from prova order by id"_s, cursore);
+        QStringList lette;
+        for (; !righe.eof(); righe.successivo()) {
+            lette += righe.valore(0).value_or(u"NULL"_s);
+            EXPECT_EQ(righe.valore(1), QString::number(lette.size()));
+            EXPECT_EQ(righe.valore(2), righe.valore(0));
+        }
+        EXPECT_EQ(lette, attesi);
+    }
+}
+
 TEST_P(Valori, conUnCarattereNulloSonoRifiutati)
 {
     Comando inserisci(mConnessione, u"insert into prova (id, testo) values (?, ?)"_s);

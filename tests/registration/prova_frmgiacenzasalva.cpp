@@ -74,6 +74,28 @@ TEST_P(RegistrazioneSalva, SalvaEAvvisaSoloConITasti)
               (QList<QStringList>{{u"1"_s, u"2026-11-21"_s, u"20/11/2026 - L'insegna manca"_s}}));
 }
 
+TEST_P(RegistrazioneSalva, MandaLeIstruzioniDelSalvataggioEDelSuoAvvisoENullaDiPiu)
+{
+    consegna(u"4711"_s);
+    scrivi("txtDescGia", u"Assente"_s);
+    EXPECT_THAT(
+        istruzioni([&] { clicca("cmdSalva"); }),
+        ElementsAre(u"select Lerico, lerfgi, leangi from letve00f where lenrlv='4711' and "
+                    "ledtlv='2026-11-12';"_s,
+                    u"select * from giace00f"_s, // described, not executed
+                    u"select UltimoNumGiacenza from ekelvorqzt_tabge00f;"_s,
+                    u"update ekelvorqzt_tabge00f set UltimoNumGiacenza=42;"_s,
+                    u"insert into giace00f (GIFILI, GINRLV, GIANLV, GICODI, GIFIGI, GIGGSO, GIDES1, GIANGI, "
+                    "GIDTGI, GINRGI) values (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)"_s,
+                    u"update letve00f set LERFGI='42', LEANGI='2026', LEDTCO=null where lenrlv='4711' and "
+                    "leanlv='2026';"_s,
+                    u"select GINRAV, GIDTAV from giace00f where gifili='MI' and ginrlv='4711' and "
+                    "gianlv='2026';"_s,
+                    u"UPDATE giace00f SET GINRAV='1', GIDTAV='2026-11-21' WHERE GIFILI='MI' AND "
+                    "GINRLV='4711' AND GIANLV=2026;"_s));
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(u"Giacenza aggiunta in database."_s));
+}
+
 TEST_P(RegistrazioneSalva, SenzaClienteORiferimentoSalvaNonFaNiente)
 {
     apri();

@@ -57,10 +57,10 @@ TEST(Opzioni, quelleSbagliateSiSpiegano)
     EXPECT_EQ(rifiuto({u"a"_s, u"--oggi"_s}), u"Dopo --oggi manca il suo valore."_s);
     EXPECT_EQ(rifiuto({u"a"_s, u"--oggi"_s, u"2026-02-29"_s}),
               u"Dopo --oggi va una data aaaa-mm-gg, non \"2026-02-29\"."_s);
-    const QStringList numeri{u""_s, u"-1"_s, u"+5"_s, u"1e3"_s, u"5000001"_s, u"99999999999"_s, u"mille"_s};
+    const QStringList numeri{u""_s, u"-1"_s, u"+5"_s, u"1e3"_s, u"10000001"_s, u"99999999999"_s, u"mille"_s};
     for (const QString& numero : numeri) {
         EXPECT_EQ(rifiuto({u"a"_s, u"--spedizioni"_s, numero}),
-                  u"Dopo --spedizioni va un numero intero da 0 a 5.000.000, non \"%1\"."_s.arg(numero));
+                  u"Dopo --spedizioni va un numero intero da 0 a 10.000.000, non \"%1\"."_s.arg(numero));
     }
 }
 

@@ -93,7 +93,7 @@ TEST_F(GeneraDati, unComandoErratoSiSpiega)
     const Uscita uscita = generaDati({u"--spedizioni"_s, u"tante"_s, u"DSN=x"_s});
     EXPECT_EQ(uscita.codice, 2);
     EXPECT_EQ(uscita.errori,
-              "Dopo --spedizioni va un numero intero da 0 a 5.000.000, non \"tante\". L'uso si legge con "
+              "Dopo --spedizioni va un numero intero da 0 a 10.000.000, non \"tante\". L'uso si legge con "
               "genera-dati --aiuto\n");
 }
 

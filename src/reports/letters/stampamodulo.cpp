@@ -38,10 +38,9 @@ EsitoStampa guida(ModuloStampa& modulo, QWidget* padre, TipoDocumento tipo, cons
 
 std::array<QString, 4> leggiDidascalie()
 {
-    std::array<QString, 4> didascalie;
-    for (std::size_t i = 0; i < didascalie.size(); ++i)
-        didascalie[i] = LeggiIni(u"Bord"_s, u"CaptionLbl%1"_s.arg(i + 1));
-    return didascalie;
+    const QStringList lette = LeggiIni(
+        u"Bord"_s, QStringList{u"CaptionLbl1"_s, u"CaptionLbl2"_s, u"CaptionLbl3"_s, u"CaptionLbl4"_s});
+    return {lette[0], lette[1], lette[2], lette[3]};
 }
 
 EsitoStampa stampaConModulo(QWidget* padre, TipoDocumento tipo, const QString& chiave,
