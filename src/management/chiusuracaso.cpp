@@ -45,7 +45,7 @@ void ChiusuraCaso::scrivi(const ChiaveGiacenza& caso)
     const QDate giorno = prima.value_or(oggi());
     mSchermata.connessione().esegui(prima ? istruzioni::chiusuraRipetuta(caso, giorni)
                                           : istruzioni::chiusura(caso, giorno, giorni));
-    giacenza::scrivi(mUi.lblDataBuonFine, dataBreve(giorno));
+    scriviDelCaso(mUi.lblDataBuonFine, dataBreve(giorno));
     mScritta();
 }
 
@@ -67,7 +67,7 @@ void ChiusuraCaso::SalvaCostiGiacenza(const ChiaveSpedizione& ldv, const Importi
     schermo.esegui(istruzioni::salvaCosti(ldv, importi.fisso, importi.sosta));
     QString mostrato = importi.sosta.testo();
     FormattaNumero(mostrato);
-    giacenza::scrivi(mUi.txtImponibile, mostrato);
+    scriviDelCaso(mUi.txtImponibile, mostrato);
     schermo.chiudi();
     for (QWidget* campo : {mUi.txtRiferimento, mUi.txtAnnoRif, mUi.txtFiliale, mUi.txtLDV})
         campo->setEnabled(false);

@@ -25,10 +25,12 @@ CampoFiliale::CampoFiliale(Schermata& schermata, QLineEdit* codice, QLabel* barr
     QObject::connect(codice, &QLineEdit::textEdited, &schermata, [this] { scrivi(mBarra, {}); });
     // A code half typed is no wrong one yet; a row, or a lookup that clears it, is told at once.
     QObject::connect(codice, &QLineEdit::editingFinished, &schermata, [this] { avverti(); });
-    QObject::connect(codice, &QLineEdit::textChanged, &schermata, [this] {
+    const auto senzaDigitare = [this] {
         if (!mCodice->hasFocus() || testo(mCodice).isEmpty())
             avverti();
-    });
+    };
+    QObject::connect(codice, &QLineEdit::textChanged, &schermata, senzaDigitare);
+    quandoCambiaAvanzo(codice, senzaDigitare);
 }
 
 void CampoFiliale::leggiFiliali()
@@ -58,6 +60,8 @@ void CampoFiliale::cerca()
 
 void CampoFiliale::leggiNome()
 {
+    // Also where the focus waits in the field: nothing was typed there.
+    avverti();
     const QString codice = testo(mCodice);
     if (codice.isEmpty())
         return;

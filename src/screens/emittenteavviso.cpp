@@ -45,7 +45,7 @@ std::optional<QString> EmittenteAvviso::conta(const ChiaveGiacenza& caso, const 
     const auto numero =
         contaAvviso(mSchermata.connessione(), accessoHost(), mDifferenze.chiave(caso), giorno, descrizione);
     if (numero) {
-        scrivi(mDataAvviso, dataSql(giorno));
+        scriviDelCaso(mDataAvviso, dataSql(giorno));
         mDifferenze.contato(*numero);
     }
     QString detto =
