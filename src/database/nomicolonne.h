@@ -2,7 +2,6 @@
 
 #include <QString>
 
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -21,23 +20,11 @@ public:
     /// colonna: 0 to quanti() - 1.
     const QString& operator[](qsizetype colonna) const { return mNomi[static_cast<std::size_t>(colonna)]; }
 
-    /// -1 for a name that is not there. Screens ask for some forty columns of a row: the first question puts
-    /// the names in order for all that follow.
+    /// -1 for a name that is not there.
     qsizetype posto(const QString& nome) const;
 
 private:
-    struct Impronta
-    {
-        std::size_t operator()(const QString& nome) const noexcept;
-    };
-    struct Uguale
-    {
-        bool operator()(const QString& uno, const QString& altro) const noexcept;
-    };
-
     std::vector<QString> mNomi;
-    mutable std::unordered_map<QString, qsizetype, Impronta, Uguale>
-        mPosti; // empty before the first question
 };
 
 } // namespace giacenza
