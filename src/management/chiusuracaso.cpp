@@ -40,6 +40,8 @@ void ChiusuraCaso::ChiudiGiacenza()
 void ChiusuraCaso::scrivi(const ChiaveGiacenza& caso)
 {
     const QString giorni = testo(mUi.barGiorniSosta);
+    // Before the date is read, on a connection of its own: the wait is shown from here on.
+    mSchermata.attendi();
     // The first date stays, also one that another workstation wrote since the case was brought up.
     const auto prima = LeggiDataBuonFine(accessoHost(), caso);
     const QDate giorno = prima.value_or(oggi());

@@ -57,7 +57,6 @@ void frmGestGia::carica()
 
 void frmGestGia::attivata()
 {
-    Schermata::attivata();
     mRichiamo.ImpostaModoRicerca(false);
 }
 

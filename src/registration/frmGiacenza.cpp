@@ -61,7 +61,6 @@ void frmGiacenza::setCodiceCliente(const QString& codice)
 
 void frmGiacenza::attivata()
 {
-    Schermata::attivata();
     if (mConsegnaPendente)
         accodaConsegna();
 }

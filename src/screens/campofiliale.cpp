@@ -54,6 +54,7 @@ void CampoFiliale::cerca()
         scrivi(mCodice, valori.value(0));
         scrivi(mBarra, valori.value(1));
     });
+    mSchermata.attendi();
     mSchermata.durante(
         [&] { ricerca.parte->mostra(istruzioni::elencoFiliali(), u"Ricerca Filiale"_s, &mSchermata); });
 }
