@@ -67,8 +67,9 @@ void frmRicercaTabella::aggiornaStato()
 {
     const bool vuota = mFiltrate->rowCount() == 0;
     mUi->cmdSeleziona->setEnabled(!vuota);
+    mUi->lblStato->setToolTip(mInterruzione);
     if (!mInterruzione.isEmpty())
-        mUi->lblStato->setText(u"La lettura si è interrotta: %1"_s.arg(mInterruzione));
+        mUi->lblStato->setText(u"La lettura si è interrotta: restano le righe già lette."_s);
     else if (vuota)
         mUi->lblStato->setText(mUi->txtFiltro->text().isEmpty()
                                    ? u"L'elenco è vuoto."_s

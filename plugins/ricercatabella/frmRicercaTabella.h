@@ -39,6 +39,6 @@ private:
     std::unique_ptr<Ui::frmRicercaTabella> mUi;
     std::unique_ptr<RigheTabella> mRighe;
     QSortFilterProxyModel* mFiltrate;
-    QString mInterruzione;
+    QString mInterruzione; ///< the driver's words
     std::optional<QStringList> mScelta;
 };

@@ -31,7 +31,7 @@ public:
     void leggiTutto();
 
 Q_SIGNALS:
-    /// Reading ended before the last row.
+    /// Reading ended before the last row. motivo: the driver's words.
     void interrotta(const QString& motivo);
 
 private:

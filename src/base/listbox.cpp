@@ -55,6 +55,9 @@ void rifiutaSeNonEUnaVoce(const QString& riga)
         throw ErroreNumerato(erroreNaturaMerce, u"Nessun valore da aggiungere"_s);
     if (riga.contains(u'\n') || riga.contains(u'\r'))
         throw ErroreNumerato(erroreNaturaMerce, u"Il valore è di più righe"_s);
+    // It would be written as a question mark.
+    if (!riga.isValidUtf16())
+        throw ErroreNumerato(erroreNaturaMerce, u"Il valore contiene un carattere incompleto"_s);
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "base/testoerrore.h"
 
+#include "base/spiegazioni.h"
+
 #include <exception>
 
 using namespace Qt::StringLiterals;
@@ -10,6 +12,8 @@ QString testoErrore()
 {
     try {
         throw;
+    } catch (const Errore& errore) {
+        return spiega(errore);
     } catch (const std::exception& errore) {
         return QString::fromUtf8(errore.what());
     } catch (...) {

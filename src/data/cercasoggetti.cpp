@@ -6,6 +6,9 @@ void CercaSoggetti::cerca(const Accesso& accesso, const RichiestaSoggetti& richi
 {
     mRighe.chiudi();
     const QString istruzione = istruzioni::ricercaSoggetti(richiesta.tabella, richiesta.campo);
+    // Between two searches the dialog may have been open for long.
+    if (!mConnessione.viva())
+        mConnessione.chiudi();
     mConnessione.apri(accesso);
     Valore cercato = richiesta.testo.trimmed();
     if (richiesta.campo == CampoSoggetto::codice) {

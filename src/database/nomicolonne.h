@@ -20,8 +20,7 @@ public:
     /// colonna: 0 to quanti() - 1.
     const QString& operator[](qsizetype colonna) const { return mNomi[static_cast<std::size_t>(colonna)]; }
 
-    /// -1 for a name that is not there. Screens ask for some forty columns of a row: the first question puts
-    /// the names in order for all that follow.
+    /// -1 for a name that is not there.
     qsizetype posto(const QString& nome) const;
 
 private:

@@ -3,8 +3,10 @@
 #include "ui_frmPorto.h"
 
 #include "base/impostazioni.h"
+#include "base/spiegazioni.h"
 #include "data/archivio.h"
 #include "dialogs/porto.h"
+#include "widgets/attesa.h"
 
 #include <QKeyEvent>
 
@@ -31,19 +33,24 @@ frmPorto::~frmPorto() = default;
 
 void frmPorto::caricaElenco()
 {
+    const Attesa attesa;
     try {
+        // The dialog may have been open for long.
+        if (!mConnessione.viva())
+            mConnessione.chiudi();
         mConnessione.apri(accessoHost());
         CaricaPorto(mUi->cmbPorto, mConnessione);
         stato({});
     } catch (const Errore& errore) {
         // The issue may go on without freight terms, so this is told and stops nothing.
         mUi->cmbPorto->setCurrentIndex(-1);
-        stato(u"I termini di porto non si leggono: %1"_s.arg(errore.testo()));
+        stato(u"I termini di porto non si leggono: %1"_s.arg(spiega(errore)), errore.testo());
     }
 }
 
-void frmPorto::stato(const QString& testo)
+void frmPorto::stato(const QString& testo, const QString& parole)
 {
+    mUi->lblStato->setToolTip(parole);
     mUi->lblStato->setText(testo);
     mUi->lblStato->setVisible(!testo.isEmpty());
 }

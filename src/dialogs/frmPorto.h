@@ -54,7 +54,7 @@ protected:
 private:
     void annulla();
     void caricaElenco();
-    void stato(const QString& testo);
+    void stato(const QString& testo, const QString& parole = {});
 
     std::unique_ptr<Ui::frmPorto> mUi;
     Connessione mConnessione;

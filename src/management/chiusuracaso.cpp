@@ -40,12 +40,14 @@ void ChiusuraCaso::ChiudiGiacenza()
 void ChiusuraCaso::scrivi(const ChiaveGiacenza& caso)
 {
     const QString giorni = testo(mUi.barGiorniSosta);
+    // Before the date is read, on a connection of its own: the wait is shown from here on.
+    mSchermata.attendi();
     // The first date stays, also one that another workstation wrote since the case was brought up.
     const auto prima = LeggiDataBuonFine(accessoHost(), caso);
     const QDate giorno = prima.value_or(oggi());
     mSchermata.connessione().esegui(prima ? istruzioni::chiusuraRipetuta(caso, giorni)
                                           : istruzioni::chiusura(caso, giorno, giorni));
-    giacenza::scrivi(mUi.lblDataBuonFine, dataBreve(giorno));
+    scriviDelCaso(mUi.lblDataBuonFine, dataBreve(giorno));
     mScritta();
 }
 
@@ -67,7 +69,7 @@ void ChiusuraCaso::SalvaCostiGiacenza(const ChiaveSpedizione& ldv, const Importi
     schermo.esegui(istruzioni::salvaCosti(ldv, importi.fisso, importi.sosta));
     QString mostrato = importi.sosta.testo();
     FormattaNumero(mostrato);
-    giacenza::scrivi(mUi.txtImponibile, mostrato);
+    scriviDelCaso(mUi.txtImponibile, mostrato);
     schermo.chiudi();
     for (QWidget* campo : {mUi.txtRiferimento, mUi.txtAnnoRif, mUi.txtFiliale, mUi.txtLDV})
         campo->setEnabled(false);

@@ -57,7 +57,6 @@ void frmGestGia::carica()
 
 void frmGestGia::attivata()
 {
-    Schermata::attivata();
     mRichiamo.ImpostaModoRicerca(false);
     mConsegna.attivata();
 }
@@ -86,12 +85,12 @@ void frmGestGia::emettiAvviso()
     if (riga.isEmpty())
         return;
     const QString prima = testo(mUi->txtDescGia);
-    scrivi(mUi->txtDescGia, prima + riga);
+    scriviDelCaso(mUi->txtDescGia, prima + riga);
     try {
         mAvviso.EmettiAvvisoGiacenza(false, testo(mUi->txtDescGia));
     } catch (const std::exception&) {
         // Nothing was written: the next try would lengthen the description once more.
-        scrivi(mUi->txtDescGia, prima);
+        scriviDelCaso(mUi->txtDescGia, prima);
         throw;
     }
 }

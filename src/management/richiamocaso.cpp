@@ -160,6 +160,9 @@ void RichiamoCaso::richiamaPerCliente()
 
 bool RichiamoCaso::mostra(const QString& istruzione)
 {
+    // What was typed about the case that goes is not the next one's.
+    if (!mParti.caso.numero().isEmpty())
+        segnaDelCaso(mUi.txtDescGia);
     pulisciEsito();
     if (!mParti.spedizione.mostra(istruzione))
         return false;

@@ -77,7 +77,6 @@ void frmRiconsegna::setCodiceCliente(const QString& codice)
 
 void frmRiconsegna::attivata()
 {
-    Schermata::attivata();
     mConsegna.attivata();
 }
 

@@ -55,7 +55,6 @@ void frmGiacenza::setCodiceCliente(const QString& codice)
 
 void frmGiacenza::attivata()
 {
-    Schermata::attivata();
     mConsegna.attivata();
 }
 

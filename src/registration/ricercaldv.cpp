@@ -30,8 +30,13 @@ RicercaLdv::RicercaLdv(Schermata& schermata, const Ui::frmGiacenza& forma, Parti
                      [this](bool giacente) { segnaGiacenza(giacente); });
     schermata.convalida().aggiungi(forma.txtFiliale, [this] { return lasciaFiliale(); });
     QObject::connect(forma.txtDescGia, &QPlainTextEdit::textChanged, &schermata, [this] { avvertiMotivo(); });
+    quandoCambiaAvanzo(forma.txtDescGia, [this] { avvertiMotivo(); });
+    // Queued: a hand-over changes the customer first, and then the shipment.
+    QObject::connect(
+        forma.txtCodiceCli, &QLineEdit::textChanged, &schermata, [this] { clienteCambiato(); },
+        Qt::QueuedConnection);
     segnaGiacenza(false);
-    forma.lblClienteLdv->hide();
+    segnaCliente({});
 }
 
 void RicercaLdv::collega(ChiaveRicerca& chiave, QPushButton* bottone)
@@ -51,18 +56,50 @@ void RicercaLdv::segnaGiacenza(bool giacente)
     avvertiMotivo();
 }
 
+void RicercaLdv::registrata()
+{
+    segnaGiacenza(true);
+    // From now on they are the case's, and nobody has to take them back.
+    for (Ripristino* digitato : {mMotivoDigitato, mFilialeDigitata})
+        digitato->dimentica();
+    segnaDelCaso(mUi.txtDescGia);
+    segnaDelCaso(mUi.txtFilialeGia);
+}
+
 void RicercaLdv::rigaMostrata(const Recordset& riga)
 {
-    const QString suo = riga.valore(u"lecodi"_s).value_or(QString());
-    // "01001" and "1001" are one customer.
-    const bool altro = !suo.isEmpty() && suo.toLongLong() != mParti.cliente.codice().trimmed().toLongLong();
-    mUi.lblClienteLdv->setText(altro ? u"LDV del cliente %1"_s.arg(suo) : QString());
-    mUi.lblClienteLdv->setVisible(altro);
+    segnaCliente(riga.valore(u"lecodi"_s).value_or(QString()));
+}
+
+void RicercaLdv::segnaCliente(const QString& suo)
+{
+    mClienteLdv = suo;
+    const QString altrui = diAltroCliente();
+    mUi.lblClienteLdv->setText(altrui);
+    mUi.lblClienteLdv->setVisible(!altrui.isEmpty());
 }
 
 QString RicercaLdv::diAltroCliente() const
 {
-    return mUi.lblClienteLdv->text();
+    // "01001" and "1001" are one customer.
+    const bool altro =
+        !mClienteLdv.isEmpty() && mClienteLdv.toLongLong() != mParti.cliente.codice().trimmed().toLongLong();
+    return altro ? u"LDV del cliente %1"_s.arg(mClienteLdv) : QString();
+}
+
+void RicercaLdv::clienteCambiato()
+{
+    const QString prima = mUi.lblClienteLdv->text();
+    segnaCliente(mClienteLdv);
+    const QString altrui = mUi.lblClienteLdv->text();
+    if (altrui == prima)
+        return;
+    if (!altrui.isEmpty())
+        return mSchermata.stato(altrui);
+    // What the line said of the customer is true no more.
+    const QString detto = mUi.lblStato->text();
+    if (detto.startsWith(prima))
+        mSchermata.stato(detto.sliced(prima.size() + (detto.startsWith(prima + u". "_s) ? 2 : 0)));
 }
 
 void RicercaLdv::avvertiMotivo()
@@ -73,8 +110,10 @@ void RicercaLdv::avvertiMotivo()
 
 void RicercaLdv::PulisciCampi()
 {
-    mMotivoDigitato->ricorda();
-    mFilialeDigitata->ricorda();
+    // After a mistyped number the clerk goes on with what he had typed for the right one.
+    for (Ripristino* digitato : {mMotivoDigitato, mFilialeDigitata})
+        digitato->ricorda(!mTrovata);
+    mTrovata = false;
     const auto righe = mUi.Frame2->findChildren<QLineEdit*>();
     for (QLineEdit* riga : righe)
         if (!qobject_cast<CampoData*>(riga) && !qobject_cast<QComboBox*>(riga->parentWidget()))
@@ -85,13 +124,20 @@ void RicercaLdv::PulisciCampi()
     for (QLabel* etichetta : {mUi.barFilSped, mUi.barVettore, mUi.barLineaCli, mUi.barFilialeGia,
                               mUi.barGiorniSosta, mUi.lblNrGia, mUi.barLdv})
         scrivi(etichetta, {});
-    mUi.lblClienteLdv->clear();
-    mUi.lblClienteLdv->hide();
+    segnaCliente({});
     segnaGiacenza(false);
-    mSchermata.stato(
-        mMotivoDigitato->pronto() || mFilialeDigitata->pronto()
-            ? u"La ricerca ha svuotato motivo e filiale della giacenza: Ctrl+Z nel campo li riporta."_s
-            : QString());
+}
+
+QString RicercaLdv::offerta() const
+{
+    const bool motivo = mMotivoDigitato->pronto();
+    const bool filiale = mFilialeDigitata->pronto();
+    if (motivo && filiale)
+        return u"La ricerca ha svuotato motivo e filiale della giacenza: Ctrl+Z nel campo li riporta."_s;
+    if (motivo)
+        return u"La ricerca ha svuotato il motivo della giacenza: Ctrl+Z nel campo lo riporta."_s;
+    return filiale ? u"La ricerca ha svuotato la filiale della giacenza: Ctrl+Z nel campo la riporta."_s
+                   : QString();
 }
 
 Seguito RicercaLdv::lascia(ChiaveRicerca& chiave)
@@ -187,15 +233,18 @@ void RicercaLdv::cercate()
 
 bool RicercaLdv::mostra(const QString& istruzione, const QString& nonTrovata)
 {
-    if (!mParti.spedizione.mostra(istruzione)) {
-        mSchermata.stato(nonTrovata);
-        return false;
+    mTrovata = mParti.spedizione.mostra(istruzione);
+    if (mTrovata) {
+        if (!mGiacente)
+            mParti.dataGiacenza.sostituisciAvanzo();
+        avvertiMotivo();
+        scrivi(mUi.barLdv, u"%1 del %2"_s.arg(tag(mUi.txtLDV), testo(mUi.txtDataLdv)));
     }
-    if (!mGiacente)
-        mParti.dataGiacenza.sostituisciAvanzo();
-    avvertiMotivo();
-    scrivi(mUi.barLdv, u"%1 del %2"_s.arg(tag(mUi.txtLDV), testo(mUi.txtDataLdv)));
-    return true;
+    QString detto = mTrovata ? diAltroCliente() : nonTrovata;
+    if (!detto.isEmpty() && !offerta().isEmpty())
+        detto += mTrovata ? u". "_s : u" "_s;
+    mSchermata.stato(detto + offerta());
+    return mTrovata;
 }
 
 void RicercaLdv::prosegui(bool trovata)

@@ -27,8 +27,8 @@ public:
     /// Whose the waybill on the screen is, in words, when it is another customer's; else empty.
     QString diAltroCliente() const;
 
-    /// The visible mark of a waybill that is held already.
-    void segnaGiacenza(bool giacente);
+    /// The shipment on the screen has become a held shipment.
+    void registrata();
 
 private:
     void collega(ChiaveRicerca& chiave, QPushButton* bottone);
@@ -44,6 +44,13 @@ private:
     void prosegui(bool trovata);
     Seguito lasciaFiliale();
     void avvertiMotivo();
+    /// The visible mark of a waybill that is held already.
+    void segnaGiacenza(bool giacente);
+    /// The visible mark of a waybill of another customer. suo: its customer; empty: there is no waybill.
+    void segnaCliente(const QString& suo);
+    void clienteCambiato();
+    /// What the last lookup cleared and Ctrl+Z brings back, in words; empty: nothing.
+    QString offerta() const;
 
     Schermata& mSchermata;
     const Ui::frmGiacenza& mUi;
@@ -56,7 +63,9 @@ private:
     Avvertenza mMotivo;
     Ripristino* mMotivoDigitato;
     Ripristino* mFilialeDigitata;
+    QString mClienteLdv; ///< of the waybill on the screen
     bool mGiacente = false;
+    bool mTrovata = false; ///< by the last lookup
 };
 
 } // namespace giacenza

@@ -104,13 +104,13 @@ void SalvaGiacenza::inserisci()
         mSchermata.messaggio(u"Impossibile aggiungere la nuova giacenza."_s, Stile::critico);
         return;
     }
-    mRicerca.segnaGiacenza(true);
+    mRicerca.registrata();
     const QString altrui = mRicerca.diAltroCliente();
     mSchermata.stato(altrui);
     mSchermata.messaggio(u"Giacenza aggiunta in database."_s, Stile::informazione);
     avvisa();
     if (!altrui.isEmpty())
-        mSchermata.stato(altrui + u". "_s + mUi.lblStato->text());
+        mSchermata.stato(altrui + u". "_s + mUi.lblStato->text(), altrui + u". "_s + mUi.lblStato->toolTip());
 }
 
 void SalvaGiacenza::avvisa()

@@ -3,32 +3,17 @@
 #include "data/archivio.h"
 #include "database/recordset.h"
 
-#include <QGuiApplication>
-#include <QLabel>
 #include <QWidget>
 
-using namespace Qt::StringLiterals;
+#include <utility>
 
 namespace giacenza {
 
-namespace {
-
-const QString attesa = u"Attendo l'archivio…"_s;
-
-} // namespace
-
 ArchivioSchermata::ArchivioSchermata(QWidget* schermata) : QObject(schermata), mSchermata(schermata) {}
-
-ArchivioSchermata::~ArchivioSchermata()
-{
-    if (mInAttesa)
-        QGuiApplication::restoreOverrideCursor();
-}
 
 Connessione& ArchivioSchermata::connessione()
 {
-    if (!mInOperazione)
-        inizia();
+    attendi();
     mConnessione.apri(accessoHost());
     return mConnessione;
 }
@@ -38,16 +23,12 @@ void ArchivioSchermata::rilascia() noexcept
     ChiudiOggettiDB(nullptr, &mConnessione, Rilascio::si, Mantieni::no);
 }
 
-void ArchivioSchermata::inizia()
+void ArchivioSchermata::attendi()
 {
-    mInOperazione = true;
-    if (mRiga && mSchermata->isVisible()) {
-        mInAttesa = true;
-        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-        mPrima = mRiga->text();
-        mRiga->setText(attesa);
-        mRiga->repaint();
-    }
+    if (std::exchange(mInOperazione, true))
+        return;
+    if (mRiga && mSchermata->isVisible())
+        mAttesa.emplace(mRiga);
     // Whatever runs the loop next ends the operation: the way back from the handler, a message, a dialog.
     QMetaObject::invokeMethod(this, &ArchivioSchermata::finisci, Qt::QueuedConnection);
     if (mConnessione.aperta() && !mConnessione.viva())
@@ -57,11 +38,7 @@ void ArchivioSchermata::inizia()
 void ArchivioSchermata::finisci()
 {
     mInOperazione = false;
-    if (!std::exchange(mInAttesa, false))
-        return;
-    QGuiApplication::restoreOverrideCursor();
-    if (mRiga->text() == attesa)
-        mRiga->setText(mPrima);
+    mAttesa.reset();
 }
 
 } // namespace giacenza

@@ -1,18 +1,19 @@
 #pragma once
 
 #include "database/connessione.h"
+#include "widgets/attesa.h"
 
 #include <QObject>
 
-class QLabel;
+#include <optional>
+
 class QWidget;
 
 namespace giacenza {
 
 /// A screen's connection, for one operation after another. An operation is what the screen does from one turn
 /// of the event loop to the next. At its start a connection that died meanwhile is replaced, without a word,
-/// and the screen shows that it waits: by the pointer, and by a line that is painted at once, since nothing
-/// else will be until the archive answers.
+/// and the screen shows that it waits: by the pointer, and by its line (Attesa).
 class ArchivioSchermata : public QObject
 {
     Q_OBJECT
@@ -20,7 +21,9 @@ class ArchivioSchermata : public QObject
 public:
     /// schermata: the screen, and this object's parent.
     explicit ArchivioSchermata(QWidget* schermata);
-    ~ArchivioSchermata() override;
+
+    /// Begins an operation, if none is going on: for a wait that is not on this connection.
+    void attendi();
 
     /// The connection, opened when it is closed. Throws ErroreDatabase.
     Connessione& connessione();
@@ -31,15 +34,13 @@ public:
     void setRigaStato(QLabel* riga) { mRiga = riga; }
 
 private:
-    void inizia();
     void finisci();
 
     QWidget* mSchermata;
     QLabel* mRiga = nullptr;
     Connessione mConnessione;
-    QString mPrima; ///< what the line said
+    std::optional<Attesa> mAttesa;
     bool mInOperazione = false;
-    bool mInAttesa = false; ///< the waiting is shown
 };
 
 } // namespace giacenza

@@ -3,12 +3,14 @@
 #include "widgets/campodata.h"
 
 #include <QComboBox>
+#include <QDynamicPropertyChangeEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QStyle>
 
 #include <stdexcept>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -53,6 +55,27 @@ void proprio(QWidget* controllo)
     segnaAvanzo(controllo, false);
 }
 
+class CambioAvanzo : public QObject
+{
+public:
+    CambioAvanzo(QWidget* controllo, std::function<void()> azione)
+        : QObject(controllo), mAzione(std::move(azione))
+    {
+        controllo->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject*, QEvent* evento) override
+    {
+        if (evento->type() == QEvent::DynamicPropertyChange &&
+            static_cast<QDynamicPropertyChangeEvent*>(evento)->propertyName() == proprietaAvanzo)
+            mAzione();
+        return false;
+    }
+
+private:
+    std::function<void()> mAzione;
+};
+
 } // namespace
 
 QString testoMostrato(const QWidget* controllo)
@@ -77,8 +100,25 @@ QString testo(const QWidget* controllo)
 
 void scrivi(QWidget* controllo, const QString& testo)
 {
-    scriviMostrato(controllo, testo);
+    // The mark goes first: who hears of the new text reads it as empty while the mark is there.
     proprio(controllo);
+    scriviMostrato(controllo, testo);
+}
+
+void scriviDelCaso(QWidget* controllo, const QString& testo)
+{
+    scrivi(controllo, testo);
+    segnaDelCaso(controllo);
+}
+
+void segnaDelCaso(QWidget* controllo)
+{
+    controllo->setProperty(proprietaRiempito, true);
+}
+
+void quandoCambiaAvanzo(QWidget* controllo, std::function<void()> azione)
+{
+    new CambioAvanzo(controllo, std::move(azione));
 }
 
 void rinnovaAspetto(QWidget* controllo)
@@ -135,9 +175,7 @@ void CampiSchermata::osserva(QWidget* controllo)
 
 void CampiSchermata::scrivi(QLatin1String nome, const QString& testo)
 {
-    QWidget* dove = controllo(nome);
-    giacenza::scrivi(dove, testo);
-    dove->setProperty(proprietaRiempito, true);
+    scriviDelCaso(controllo(nome), testo);
 }
 
 void CampiSchermata::scriviTag(QLatin1String nome, const QString& testo)
@@ -155,9 +193,9 @@ void CampiSchermata::seleziona(QLatin1String nome, int riga)
         throw std::logic_error("rows can be selected in a list only");
     if (riga < -1 || riga >= elenco->count())
         return lascia(nome);
-    elenco->setCurrentIndex(riga);
     proprio(elenco);
-    elenco->setProperty(proprietaRiempito, true);
+    elenco->setCurrentIndex(riga);
+    segnaDelCaso(elenco);
 }
 
 void CampiSchermata::lascia(QLatin1String nome)

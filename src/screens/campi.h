@@ -5,6 +5,8 @@
 #include <QHash>
 #include <QWidget>
 
+#include <functional>
+
 class QLineEdit;
 
 namespace giacenza {
@@ -21,6 +23,14 @@ QString testo(const QWidget* controllo);
 QString testoMostrato(const QWidget* controllo);
 /// Writes the text as the program's own: no left-over, and nothing to leave over.
 void scrivi(QWidget* controllo, const QString& testo);
+/// Writes what the program itself has to say of the shipment on the screen: a left-over, as a row's, as soon
+/// as another shipment has nothing in its place.
+void scriviDelCaso(QWidget* controllo, const QString& testo);
+/// Makes what the control shows, whoever wrote it, the shipment's on the screen.
+void segnaDelCaso(QWidget* controllo);
+/// Calls azione, as long as the control lives, whenever it becomes a left-over or stops being one: testo()
+/// gives something else then, though what is shown may be the same.
+void quandoCambiaAvanzo(QWidget* controllo, std::function<void()> azione);
 /// Draws a control anew after one of its properties, on which its looks depend, has changed.
 void rinnovaAspetto(QWidget* controllo);
 bool eAvanzo(const QWidget* controllo);

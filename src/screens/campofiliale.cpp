@@ -25,10 +25,12 @@ CampoFiliale::CampoFiliale(Schermata& schermata, QLineEdit* codice, QLabel* barr
     QObject::connect(codice, &QLineEdit::textEdited, &schermata, [this] { scrivi(mBarra, {}); });
     // A code half typed is no wrong one yet; a row, or a lookup that clears it, is told at once.
     QObject::connect(codice, &QLineEdit::editingFinished, &schermata, [this] { avverti(); });
-    QObject::connect(codice, &QLineEdit::textChanged, &schermata, [this] {
+    const auto senzaDigitare = [this] {
         if (!mCodice->hasFocus() || testo(mCodice).isEmpty())
             avverti();
-    });
+    };
+    QObject::connect(codice, &QLineEdit::textChanged, &schermata, senzaDigitare);
+    quandoCambiaAvanzo(codice, senzaDigitare);
 }
 
 void CampoFiliale::leggiFiliali()
@@ -52,12 +54,15 @@ void CampoFiliale::cerca()
         scrivi(mCodice, valori.value(0));
         scrivi(mBarra, valori.value(1));
     });
+    mSchermata.attendi();
     mSchermata.durante(
         [&] { ricerca.parte->mostra(istruzioni::elencoFiliali(), u"Ricerca Filiale"_s, &mSchermata); });
 }
 
 void CampoFiliale::leggiNome()
 {
+    // Also where the focus waits in the field: nothing was typed there.
+    avverti();
     const QString codice = testo(mCodice);
     if (codice.isEmpty())
         return;

@@ -24,6 +24,7 @@ DataGiacenza::DataGiacenza(Schermata& schermata, const Controlli& controlli)
     : mSchermata(schermata), mControlli(controlli), mAvvertenza(controlli.data, controlli.avvertenza)
 {
     QObject::connect(mControlli.data, &QLineEdit::textChanged, &schermata, [this] { avverti(); });
+    quandoCambiaAvanzo(mControlli.data, [this] { avverti(); });
     schermata.convalida().aggiungi(mControlli.data, [this] { return convalida(); });
 }
 

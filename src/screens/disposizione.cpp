@@ -45,8 +45,9 @@ Disposizione::Disposizione(QWidget* schermata) : QObject(schermata), mSchermata(
     for (const QComboBox* elenco : elenchi)
         if (elenco->isEditable())
             elenco->lineEdit()->setAccessibleName(elenco->accessibleName());
-    if (auto* insegna = schermata->findChild<QLabel*>(u"lblGiaInGiacenza"_s))
-        annunciaComparsa(insegna);
+    for (const char* nome : {"lblGiaInGiacenza", "lblClienteLdv"})
+        if (auto* insegna = schermata->findChild<QLabel*>(QLatin1String(nome)))
+            annunciaComparsa(insegna);
     misuraCampi(schermata);
     schermata->installEventFilter(this);
 }

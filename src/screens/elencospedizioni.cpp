@@ -82,6 +82,8 @@ std::optional<SpedizioneScelta> ElencoSpedizioni::apri(const Apertura& apertura)
     dialogo->setAnnoOdata(apertura.annoOData);
     dialogo->setGiacenza(apertura.giacenza);
     dialogo->setAnnoGiacenza(apertura.annoGiacenza);
+    // The list is read before the dialog is on the display.
+    mSchermata.attendi();
     return mSchermata.modale(
         std::move(dialogo), [](const frmRicercaGia& d) -> std::optional<SpedizioneScelta> {
             const auto giorno = d.accettato() ? leggiData(d.DataLetVett()) : std::nullopt;

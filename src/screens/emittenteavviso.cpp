@@ -15,7 +15,29 @@ namespace giacenza {
 
 namespace {
 
-const QString avvisoProdotto = u"Avviso di giacenza %1 prodotto."_s;
+const TestiStampa soloStampato = {
+    .prodotto = u"Avviso di giacenza %1 prodotto."_s,
+    .nonProdotto = u"L'avviso di giacenza non è stato stampato; la giacenza resta registrata."_s};
+
+/// numero: as which the notice was counted; nothing when it was not. scritta, taciuta: whether the database
+/// has got the description, and whether one was given that it has not got.
+TestiStampa testi(std::optional<qint16> numero, bool scritta, bool taciuta)
+{
+    TestiStampa detto = soloStampato;
+    if (numero) {
+        detto.rimasto = u"Avviso di giacenza %1 contato (n. "_s + QString::number(*numero) +
+                        u") ma non stampato: ristamparlo oggi non lo conta di nuovo."_s;
+    } else {
+        detto.prodotto = u"Avviso di giacenza %1 stampato, non contato: oggi lo era già."_s;
+        detto.rimasto = u"Avviso di giacenza %1 non stampato e non contato: oggi lo era già."_s;
+    }
+    if (scritta)
+        detto.rimasto += u" La descrizione è registrata."_s;
+    if (taciuta)
+        for (QString* testo : {&detto.prodotto, &detto.rimasto})
+            *testo += u" Il motivo scritto ora non è stato registrato."_s;
+    return detto;
+}
 
 } // namespace
 
@@ -30,14 +52,12 @@ void EmittenteAvviso::EmettiAvvisoGiacenza(bool ristampa, const QString& descriz
     const auto caso = mParti.caso.chiave();
     if (!caso)
         return;
-    const auto detto = ristampa ? std::optional(avvisoProdotto) : conta(*caso, descrizione);
+    const auto detto = ristampa ? std::optional(soloStampato) : conta(*caso, descrizione);
     if (detto)
-        mParti.stampa.stampa(
-            TipoDocumento::avviso, *caso, didascalie,
-            {*detto, u"L'avviso di giacenza non è stato stampato; la giacenza resta registrata."_s});
+        mParti.stampa.stampa(TipoDocumento::avviso, *caso, didascalie, *detto);
 }
 
-std::optional<QString> EmittenteAvviso::conta(const ChiaveGiacenza& caso, const QString& descrizione)
+std::optional<TestiStampa> EmittenteAvviso::conta(const ChiaveGiacenza& caso, const QString& descrizione)
 {
     if (!mDifferenze.ammesso())
         return std::nullopt;
@@ -45,16 +65,13 @@ std::optional<QString> EmittenteAvviso::conta(const ChiaveGiacenza& caso, const 
     const auto numero =
         contaAvviso(mSchermata.connessione(), accessoHost(), mDifferenze.chiave(caso), giorno, descrizione);
     if (numero) {
-        scrivi(mDataAvviso, dataSql(giorno));
+        scriviDelCaso(mDataAvviso, dataSql(giorno));
         mDifferenze.contato(*numero);
     }
-    QString detto =
-        numero ? avvisoProdotto : u"Avviso di giacenza %1 stampato, non contato: oggi lo era già."_s;
     // From the second notice on the description replaces the one in the database; before, it stays on the
     // screen.
-    if (!descrizione.isEmpty() && numero.value_or(1) == 1)
-        detto += u" Il motivo scritto ora non è stato registrato."_s;
-    return detto;
+    const bool scritta = numero.value_or(1) > 1;
+    return testi(numero, scritta && !descrizione.isEmpty(), !scritta && !descrizione.isEmpty());
 }
 
 } // namespace giacenza

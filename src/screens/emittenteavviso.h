@@ -29,9 +29,8 @@ public:
     void EmettiAvvisoGiacenza(bool ristampa, const QString& descrizione = {});
 
 private:
-    /// Counts the notice. Gives what is to be said once it was printed; nothing when the screen does not
-    /// admit one.
-    std::optional<QString> conta(const ChiaveGiacenza& caso, const QString& descrizione);
+    /// Counts the notice. Gives what is to be said of it; nothing when the screen does not admit one.
+    std::optional<TestiStampa> conta(const ChiaveGiacenza& caso, const QString& descrizione);
 
     Schermata& mSchermata;
     PartiComuni& mParti;

@@ -16,11 +16,15 @@ public:
     explicit Ripristino(QWidget* campo);
 
     /// Keeps what the field holds, if the clerk put it there; to be called just before the field is cleared.
-    /// What a row filled in is not kept, and an empty field leaves what was kept before.
-    void ricorda();
+    /// What a row filled in, or a case has got, is not kept. conserva: where there is nothing to keep, what
+    /// was kept before stays; else it is forgotten.
+    void ricorda(bool conserva);
 
-    /// Whether there is something to bring back.
-    bool pronto() const { return !mTesto.isEmpty(); }
+    /// Nothing is brought back any more.
+    void dimentica() { mTesto.clear(); }
+
+    /// Whether Ctrl+Z would bring something back: something was kept, and the field is empty.
+    bool pronto() const;
 
 protected:
     bool eventFilter(QObject* oggetto, QEvent* evento) override;

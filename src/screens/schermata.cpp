@@ -60,7 +60,7 @@ std::function<void()> Schermata::gestore(std::function<void()> azione)
                 statoGuasto(errore);
                 messaggio(
                     u"Operazione non riuscita: il database o un suo dato non risponde come dovrebbe.\n\n"_s +
-                        errore.testo(),
+                        spiega(errore),
                     Stile::critico, titoloGestione());
             } catch (...) {
                 // A part of the host's throws what it likes, and nothing may pass through Qt's loop.
@@ -91,22 +91,18 @@ Risposta Schermata::messaggio(const QString& testo, Stile stile, const QString& 
 bool Schermata::event(QEvent* evento)
 {
     // Not every system activates the screen anew when a box over it has closed.
-    if (evento->type() == QEvent::WindowActivate || evento->type() == QEvent::WindowUnblocked)
+    if (evento->type() == QEvent::WindowActivate || evento->type() == QEvent::WindowUnblocked) {
+        SempreInPrimoPiano(this, true);
         attivata();
+    }
     return QWidget::event(evento);
-}
-
-void Schermata::attivata()
-{
-    SempreInPrimoPiano(this, true);
 }
 
 void Schermata::closeEvent(QCloseEvent* evento)
 {
     evento->accept();
-    if (mUscita)
+    if (std::exchange(mUscita, true))
         return;
-    mUscita = true;
     congeda();
     mArchivio->rilascia();
     deleteLater();

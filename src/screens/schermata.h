@@ -25,10 +25,12 @@ public:
     /// Closes and releases it; the next use opens it again.
     void rilasciaConnessione() { mArchivio->rilascia(); }
 
+    /// Shows that the archive is waited for: for whoever asks it, until he tells, by a way of his own.
+    void attendi() { mArchivio->attendi(); }
+
     /// What the screen says where no box is due; empty clears it. dettaglio: for whoever rests on it.
     void stato(const QString& testo, const QString& dettaglio = {});
-    /// The same for a failure, in Italian; the driver's words are the detail. cheCosa: what it means, goes
-    /// before.
+    /// The same for a failure, in Italian, with the driver's words as detail. cheCosa: goes before.
     void statoGuasto(const Errore& errore, const QString& cheCosa = {});
 
     /// Makes a handler of what a control starts: whatever is thrown is told, a database failure as such, and
@@ -68,7 +70,7 @@ protected:
     void congeda() { mConvalida->sospendi(), hide(); }
 
     /// The screen became the active window.
-    virtual void attivata();
+    virtual void attivata() {}
 
     bool event(QEvent* evento) override;
     void closeEvent(QCloseEvent* evento) override;

@@ -13,9 +13,9 @@ using enum Conversione;
 
 constexpr auto nessuna = u"";
 
-bool stessaColonna(const char16_t* a, std::u16string_view b)
+bool stessaColonna(const char16_t* a, QStringView b)
 {
-    return QStringView(a).compare(QStringView(b), Qt::CaseInsensitive) == 0;
+    return QStringView(a).compare(b, Qt::CaseInsensitive) == 0;
 }
 
 Conversione conNullVuoto(Conversione conversione)
@@ -23,8 +23,8 @@ Conversione conNullVuoto(Conversione conversione)
     switch (conversione) {
     case testo:
         return testoOVuoto;
-    case numero:
-        return numeroOVuoto;
+    case importo:
+        return importoOVuoto;
     case data:
         return dataOVuota;
     default:
@@ -51,9 +51,9 @@ MappaSpedizione creaMappaGestione()
 /// The re-delivery screen empties what a waybill without a held shipment has nothing for.
 MappaSpedizione creaMappaRiconsegna()
 {
-    static constexpr std::u16string_view vuoteSeNull[] = {u"ledest", u"lerico", u"GIDES1", u"GIDTAV",
-                                                          u"GIDTBF", u"GINRFA", u"GIDTFA", u"GIIMGI",
-                                                          u"GICOFA", u"GIVNRG", u"GIVDTG"};
+    static constexpr QStringView vuoteSeNull[] = {u"ledest", u"lerico", u"GIDES1", u"GIDTAV",
+                                                  u"GIDTBF", u"GINRFA", u"GIDTFA", u"GIIMGI",
+                                                  u"GICOFA", u"GIVNRG", u"GIVDTG"};
     MappaSpedizione mappa = mappaRegistrazione();
     for (PassoSpedizione& passo : mappa)
         if (std::ranges::any_of(vuoteSeNull, [&](auto c) { return stessaColonna(passo.colonna, c); }))
@@ -61,9 +61,24 @@ MappaSpedizione creaMappaRiconsegna()
     return mappa;
 }
 
-QString comeNumero(QString valore)
+/// The databases write a number each in its own way, "120" and "120.00": what is shown is made from its
+/// value.
+QString comeImporto(QString valore)
 {
-    return valore.replace(u'.', u',');
+    FormattaNumero(valore);
+    return valore;
+}
+
+QString comeQuantita(const QString& valore)
+{
+    QString cifre = Decimale(valore).testo();
+    if (const qsizetype punto = cifre.indexOf(u'.'); punto >= 0) {
+        while (cifre.endsWith(u'0'))
+            cifre.chop(1);
+        if (cifre.endsWith(u'.'))
+            cifre.chop(1);
+    }
+    return cifre.replace(u'.', u',');
 }
 
 QDate comeData(const QString& valore)
@@ -84,8 +99,8 @@ void esegui(const PassoSpedizione& passo, const Valore& valore, DestinazioneSped
         return schermo.scrivi(controllo, {});
     case testoOVuoto:
         return schermo.scrivi(controllo, valore.value_or(QString()));
-    case numeroOVuoto:
-        return schermo.scrivi(controllo, comeNumero(valore.value_or(QString())));
+    case importoOVuoto:
+        return schermo.scrivi(controllo, valore ? comeImporto(*valore) : QString());
     case dataOVuota:
         return schermo.scrivi(controllo, valore ? dataBreve(comeData(*valore)) : QString());
     default:
@@ -96,8 +111,10 @@ void esegui(const PassoSpedizione& passo, const Valore& valore, DestinazioneSped
     switch (passo.conversione) {
     case tag:
         return schermo.scriviTag(controllo, *valore);
-    case numero:
-        return schermo.scrivi(controllo, comeNumero(*valore));
+    case importo:
+        return schermo.scrivi(controllo, comeImporto(*valore));
+    case quantita:
+        return schermo.scrivi(controllo, comeQuantita(*valore));
     case data:
         return schermo.scrivi(controllo, dataBreve(comeData(*valore)));
     case anno:
@@ -138,13 +155,13 @@ const MappaSpedizione& mappaRegistrazione()
         {u"lerifd", "txtDataRifMitt", data},
         {u"lerifd", "txtDataRif", dataOVuota},
         {u"leport", "cmbPorto", posizione},
-        {u"lecoll", "txtColli", numero},
-        {u"lepeso", "txtPesoKg", numero},
-        {u"levolu", "txtVolume", numero},
-        {u"lecnss", "txtContrassegno", numero},
-        {u"leanpc", "txtAnticipo", numero},
+        {u"lecoll", "txtColli", quantita},
+        {u"lepeso", "txtPesoKg", quantita},
+        {u"levolu", "txtVolume", quantita},
+        {u"lecnss", "txtContrassegno", importo},
+        {u"leanpc", "txtAnticipo", importo},
         {u"lenote", "txtNoteLdv", testo},
-        {u"levame", "txtValMerce", numero},
+        {u"levame", "txtValMerce", importo},
         {u"GIDES1", "txtDescGia", testo},
         {u"GIFIGI", "txtFilialeGia", testo},
         {u"GIDTAV", "lblDataAvviso", data},
@@ -153,7 +170,7 @@ const MappaSpedizione& mappaRegistrazione()
         {u"GIDTGI", "txtDataGia", data},
         {u"GINRFA", "lblFattura", testo},
         {u"GIDTFA", "txtDataFatt", data},
-        {u"GIIMGI", "txtImponibile", numero},
+        {u"GIIMGI", "txtImponibile", importo},
         {u"GICOFA", "txtCodFatt", testo},
         {u"GIVNRG", "txtGiaOld", testo},
         {u"GIVDTG", "txtDataGiaOld", data},
@@ -173,13 +190,39 @@ const MappaSpedizione& mappaRiconsegna()
     return mappa;
 }
 
-void CaricaDatiSpedizione(const Recordset& riga, const MappaSpedizione& mappa,
-                          DestinazioneSpedizione& schermo)
+const std::vector<int>& PostiSpedizione::in(const Recordset& riga)
 {
-    for (const PassoSpedizione& passo : mappa) {
+    if (valgono(riga))
+        return mPosti;
+    mPosti.clear();
+    for (const PassoSpedizione& passo : mMappa)
+        mPosti.push_back(*passo.colonna == 0 ? -1 : riga.indice(QString::fromUtf16(passo.colonna)));
+    mColonne = riga.colonne();
+    return mPosti;
+}
+
+bool PostiSpedizione::valgono(const Recordset& riga) const
+{
+    if (mColonne != riga.colonne())
+        return false;
+    for (std::size_t i = 0; i < mPosti.size(); ++i) {
+        const char16_t* colonna = mMappa[i].colonna;
+        if (*colonna != 0 && (mPosti[i] < 0 || !stessaColonna(colonna, riga.nomeColonna(mPosti[i]))))
+            return false;
+    }
+    return true;
+}
+
+void CaricaDatiSpedizione(const Recordset& riga, PostiSpedizione& posti, DestinazioneSpedizione& schermo)
+{
+    const std::vector<int>& dove = posti.in(riga);
+    for (std::size_t i = 0; i < dove.size(); ++i) {
+        const PassoSpedizione& passo = posti.mappa()[i];
         try {
-            const bool senzaColonna = *passo.colonna == 0;
-            esegui(passo, senzaColonna ? Valore() : riga.valore(QString::fromUtf16(passo.colonna)), schermo);
+            if (*passo.colonna != 0 && dove[i] < 0)
+                schermo.lascia(QLatin1String(passo.controllo));
+            else
+                esegui(passo, dove[i] < 0 ? Valore() : riga.valore(dove[i]), schermo);
         } catch (const Errore&) {
             schermo.lascia(QLatin1String(passo.controllo));
         }

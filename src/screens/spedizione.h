@@ -39,8 +39,9 @@ enum class Conversione
     tag,         ///< kept by the control, not shown
     testo,       ///< the text
     testoOVuoto, ///< the text, empty for null
-    numero,      ///< an amount or a count with the Italian comma
-    numeroOVuoto,
+    importo,     ///< an amount: two decimals behind the Italian comma
+    importoOVuoto,
+    quantita,   ///< a count, a weight or a volume: as many decimals as it has, no zeros behind them
     data,       ///< a day as "dd/mm/yyyy"
     dataOVuota, ///< the same, empty for null: the masked field is cleared before it is given the date
     anno,       ///< the year of a day
@@ -61,9 +62,27 @@ const MappaSpedizione& mappaRegistrazione();
 const MappaSpedizione& mappaGestione();
 const MappaSpedizione& mappaRiconsegna();
 
+/// Where the columns of a mapping stand in the rows that a screen is filled from. A screen asks for the same
+/// columns at each lookup: their names are looked up at the first, and again when others come.
+class PostiSpedizione
+{
+public:
+    explicit PostiSpedizione(const MappaSpedizione& mappa) : mMappa(mappa) {}
+
+    const MappaSpedizione& mappa() const { return mMappa; }
+    /// For each step the place of its column; -1 for one without a column, or whose column the row lacks.
+    const std::vector<int>& in(const Recordset& riga);
+
+private:
+    bool valgono(const Recordset& riga) const;
+
+    const MappaSpedizione& mMappa;
+    std::vector<int> mPosti;
+    int mColonne = -1;
+};
+
 /// Fills a screen from the current row. Errors are ignored step by step: a value that cannot be put into its
 /// control leaves that control as it was.
-void CaricaDatiSpedizione(const Recordset& riga, const MappaSpedizione& mappa,
-                          DestinazioneSpedizione& schermo);
+void CaricaDatiSpedizione(const Recordset& riga, PostiSpedizione& posti, DestinazioneSpedizione& schermo);
 
 } // namespace giacenza

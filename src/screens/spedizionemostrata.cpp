@@ -5,7 +5,7 @@ namespace giacenza {
 SpedizioneMostrata::SpedizioneMostrata(Schermata& schermata, const MappaSpedizione& mappa,
                                        CampoFiliale& filiale, DataGiacenza& data,
                                        std::function<void(const Recordset&)> rigaMostrata)
-    : mSchermata(schermata), mMappa(mappa), mFiliale(filiale), mData(data),
+    : mSchermata(schermata), mPosti(mappa), mFiliale(filiale), mData(data),
       mRigaMostrata(std::move(rigaMostrata)), mCampi(new CampiSchermata(&schermata, mappa))
 {}
 
@@ -15,7 +15,7 @@ bool SpedizioneMostrata::mostra(const QString& istruzione)
     riga.apri(mSchermata.connessione(), istruzione);
     if (riga.bof() || riga.eof())
         return false;
-    CaricaDatiSpedizione(riga, mMappa, *mCampi);
+    CaricaDatiSpedizione(riga, mPosti, *mCampi);
     if (mRigaMostrata)
         mRigaMostrata(riga);
     riga.chiudi();

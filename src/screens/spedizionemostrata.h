@@ -22,7 +22,7 @@ public:
 
 private:
     Schermata& mSchermata;
-    const MappaSpedizione& mMappa;
+    PostiSpedizione mPosti;
     CampoFiliale& mFiliale;
     DataGiacenza& mData;
     std::function<void(const Recordset&)> mRigaMostrata;

@@ -21,13 +21,15 @@ void StampaCaso::stampa(TipoDocumento tipo, const ChiaveGiacenza& caso,
 {
     const QString chiave = u"%1_%2"_s.arg(caso.numero).arg(caso.anno);
     EsitoStampa esito;
+    mSchermata.attendi();
     mSchermata.durante([&] { esito = stampaDocumento(&mSchermata, tipo, chiave, didascalie); });
     mFile = esito.file;
     if (esito.prodotto)
         return mSchermata.stato(
             testi.prodotto.arg(chiave) +
             (mFile.isEmpty() ? QString() : u" Ctrl+O apre %1"_s.arg(QDir::toNativeSeparators(mFile))));
-    mSchermata.stato(testi.nonProdotto + u' ' + esito.motivo);
+    const QString rimasto = testi.rimasto.isEmpty() ? testi.nonProdotto : testi.rimasto.arg(chiave);
+    mSchermata.stato(rimasto + u' ' + esito.motivo, rimasto + u' ' + esito.parole);
     if (!esito.raccontato)
         mSchermata.messaggio(testi.nonProdotto + u"\n\n"_s + esito.motivo, Stile::avviso);
 }

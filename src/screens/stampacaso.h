@@ -11,7 +11,9 @@ namespace giacenza {
 struct TestiStampa
 {
     QString prodotto;
-    QString nonProdotto;
+    QString nonProdotto; ///< in the box
+    QString rimasto =
+        {}; ///< in the status line: what was done all the same ("%1": its key); empty: as in the box
 };
 
 /// Has the documents of held shipments printed, and tells how that went. Ctrl+O opens the one printed last,

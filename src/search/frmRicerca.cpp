@@ -3,6 +3,7 @@
 #include "ui_frmRicerca.h"
 
 #include "base/errorenumerato.h"
+#include "base/spiegazioni.h"
 #include "data/archivio.h"
 #include "search/controlloricerca.h"
 #include "widgets/attesa.h"
@@ -56,7 +57,7 @@ Messaggio messaggioGuasto(const Errore& errore)
     const QString frase = database->sqlstate().startsWith(u"08"_s)
                               ? u"Il collegamento con il database non riesce o si è interrotto."_s
                               : u"La ricerca nel database non è riuscita."_s;
-    return {frase + u"\n\n"_s + errore.testo(), Stile::critico, titoloGestione()};
+    return {frase + u"\n\n"_s + spiega(errore), Stile::critico, titoloGestione()};
 }
 
 } // namespace
@@ -147,6 +148,7 @@ void frmRicerca::cerca()
     ControllaCampoRicerca(mUi->txtCerca->text(), mCampoCercato);
     abilitaElenco(false);
     mUi->lstCerca->clear();
+    mUi->lstCerca->setToolTip({});
     mNonTrovata = false;
     const Attesa attesa;
     mRicerca.cerca(accessoTracciato(mStringaConnessione),
@@ -224,6 +226,9 @@ void frmRicerca::mostraErrore(const Errore& errore)
 {
     const auto* numerato = dynamic_cast<const ErroreNumerato*>(&errore);
     const std::optional<Messaggio> quotato = numerato ? messaggioSoggetti(numerato->numero()) : std::nullopt;
+    // The dialog has no line of its own: the driver's words are with the list that stayed empty.
+    if (!quotato)
+        mUi->lstCerca->setToolTip(errore.testo());
     const QPointer<frmRicerca> io(this);
     mostraMessaggio(this, quotato ? *quotato : messaggioGuasto(errore));
     // The screen below may have gone, and the dialog with it.

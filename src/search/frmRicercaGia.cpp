@@ -5,9 +5,11 @@
 #include "base/forme.h"
 #include "base/messaggi.h"
 #include "base/orologio.h"
+#include "base/spiegazioni.h"
 #include "data/archivio.h"
 #include "search/colonnegriglia.h"
 #include "search/modelloricerca.h"
+#include "widgets/attesa.h"
 #include "widgets/limitetesto.h"
 
 #include <QKeyEvent>
@@ -151,14 +153,17 @@ void frmRicercaGia::visualizza()
 
 void frmRicercaGia::elenca(const std::function<QString()>& istruzione)
 {
+    const Attesa attesa(mUi->lblRighe);
     mGuasto.clear();
+    mParole.clear();
     try {
         if (!esiste(mModo))
             throw Errore(u"Il tipo di ricerca %1 non esiste."_s.arg(TipoRicerca()));
         mModello->apri(accessoHost(), istruzione(), inOrdine(mModo) ? postiScelta(mModo) : std::nullopt);
     } catch (const Errore& errore) {
         mModello->svuota(false);
-        mGuasto = errore.testo();
+        mGuasto = spiega(errore);
+        mParole = errore.testo();
     }
     mColonne->disponi(mModo);
     const bool righe = mModello->rowCount() > 0;
@@ -185,9 +190,10 @@ void frmRicercaGia::avvisaSeVuoto()
                                titoloApplicazione()});
 }
 
-void frmRicercaGia::interrotta(const QString& motivo)
+void frmRicercaGia::interrotta(const QString& motivo, const QString& parole)
 {
     mGuasto = motivo;
+    mParole = parole;
     contaRighe();
     // The grid is in the midst of asking for rows.
     QMetaObject::invokeMethod(
@@ -216,7 +222,7 @@ void frmRicercaGia::contaRighe()
     else
         testo = righe == 1 ? u"1 riga"_s : u"%1 righe"_s.arg(quante);
     mUi->lblRighe->setText(testo.simplified());
-    mUi->lblRighe->setToolTip(mGuasto);
+    mUi->lblRighe->setToolTip(mParole);
 }
 
 QString frmRicercaGia::cella(int colonna) const

@@ -104,7 +104,7 @@ private:
     void visualizza();
     void elenca(const std::function<QString()>& istruzione);
     void avvisaSeVuoto();
-    void interrotta(const QString& motivo);
+    void interrotta(const QString& motivo, const QString& parole);
     void contaRighe();
     void seleziona();
     QString cella(int colonna) const;
@@ -118,7 +118,8 @@ private:
     QString mCaptionLabel;
     QString mRagioneSociale;
     QString mDataLetVett;
-    QString mGuasto; // why the list could not be read, or not to its end
+    QString mGuasto; // in Italian, why the list could not be read, or not to its end
+    QString mParole; // the same in the driver's words
     bool mAccettato = false;
 };
 

@@ -1,5 +1,6 @@
 #include "search/modelloricerca.h"
 
+#include "base/spiegazioni.h"
 #include "database/limiterighe.h"
 #include "widgets/attesa.h"
 
@@ -37,7 +38,7 @@ void ModelloRicerca::apri(const Accesso& accesso, const QString& istruzione,
 {
     const Attesa attesa;
     svuota(false);
-    QString motivo;
+    Guasto guasto;
     bool unaPagina = false;
     try {
         mConnessione.apri(accesso);
@@ -48,17 +49,22 @@ void ModelloRicerca::apri(const Accesso& accesso, const QString& istruzione,
         mRecordset.apri(mConnessione, istruzione, Recordset::Cursore::soloAvanti);
         mAccesso = accesso;
         mIstruzione = istruzione;
-        motivo = leggiPrima();
+        guasto = leggiPrima();
     } catch (const ErroreDatabase&) {
         chiudi();
         throw;
     }
-    if (unaPagina && !mCompleto && motivo.isEmpty()) {
+    if (unaPagina && !mCompleto && !guasto) {
         chiudi();
         mDaRileggere = chiave;
     }
-    if (!motivo.isEmpty())
-        Q_EMIT interrotta(motivo);
+    racconta(guasto);
+}
+
+void ModelloRicerca::racconta(const Guasto& guasto)
+{
+    if (guasto)
+        Q_EMIT interrotta(spiega(*guasto), guasto->testo());
 }
 
 void ModelloRicerca::chiudi() noexcept
@@ -82,14 +88,14 @@ void ModelloRicerca::svuota(bool colonneAnche)
 }
 
 /// Columns and first page, which the grid learns of together. Returns as leggiPagina().
-QString ModelloRicerca::leggiPrima()
+ModelloRicerca::Guasto ModelloRicerca::leggiPrima()
 {
     beginResetModel();
     leggiColonne();
-    const QString motivo = leggiPagina();
+    Guasto guasto = leggiPagina();
     mMostrate = mLette.righe();
     endResetModel();
-    return motivo;
+    return guasto;
 }
 
 void ModelloRicerca::leggiColonne()
@@ -102,8 +108,8 @@ void ModelloRicerca::leggiColonne()
 }
 
 /// The recordset stands on the first row that is not in mLette, so that the end is known with the last row.
-/// Returns why the reading ended too early, empty when it did not.
-QString ModelloRicerca::leggiPagina()
+/// Returns what ended the reading too early, nothing when nothing did.
+ModelloRicerca::Guasto ModelloRicerca::leggiPagina()
 {
     try {
         const int piena = mLette.righe() + RigheLette::righePagina;
@@ -111,7 +117,7 @@ QString ModelloRicerca::leggiPagina()
             aggiungiRiga();
     } catch (const ErroreDatabase& errore) {
         chiudi();
-        return errore.testo();
+        return errore;
     }
     mCompleto = mRecordset.eof();
     if (mCompleto)
@@ -150,7 +156,7 @@ void ModelloRicerca::rileggi()
 }
 
 /// As leggiPagina(), where the reading may first have to begin again.
-QString ModelloRicerca::leggiAltra()
+ModelloRicerca::Guasto ModelloRicerca::leggiAltra()
 {
     const Attesa attesa;
     try {
@@ -158,7 +164,7 @@ QString ModelloRicerca::leggiAltra()
             rileggi();
     } catch (const ErroreDatabase& errore) {
         chiudi();
-        return errore.testo();
+        return errore;
     }
     return leggiPagina();
 }
@@ -207,15 +213,14 @@ void ModelloRicerca::fetchMore(const QModelIndex& padre)
 {
     if (!canFetchMore(padre))
         return;
-    const QString motivo = leggiAltra();
+    const Guasto guasto = leggiAltra();
     if (mLette.righe() > mMostrate) {
         beginInsertRows({}, mMostrate, mLette.righe() - 1);
         mMostrate = mLette.righe();
         endInsertRows();
     }
     Q_EMIT continuata();
-    if (!motivo.isEmpty())
-        Q_EMIT interrotta(motivo);
+    racconta(guasto);
 }
 
 const QString& ModelloRicerca::nomeColonna(int colonna) const

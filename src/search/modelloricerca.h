@@ -59,8 +59,9 @@ Q_SIGNALS:
     /// More was asked for and read, or nothing more was there.
     void continuata();
 
-    /// Reading stopped before the last row, once for each statement.
-    void interrotta(const QString& motivo);
+    /// Reading stopped before the last row, once for each statement. motivo: why, in Italian; parole: in the
+    /// driver's words.
+    void interrotta(const QString& motivo, const QString& parole);
 
 private:
     struct Colonna
@@ -69,10 +70,13 @@ private:
         Aspetto aspetto;
     };
 
-    QString leggiPrima();
+    using Guasto = std::optional<ErroreDatabase>;
+
+    Guasto leggiPrima();
     void leggiColonne();
-    QString leggiAltra();
-    QString leggiPagina();
+    Guasto leggiAltra();
+    Guasto leggiPagina();
+    void racconta(const Guasto& guasto);
     void aggiungiRiga();
     void rileggi();
 

@@ -1,29 +1,30 @@
 #pragma once
 
-#include <QCursor>
-#include <QGuiApplication>
+#include <QPointer>
+#include <QString>
+
+class QLabel;
 
 namespace giacenza {
 
-/// The waiting pointer, while it lives. Nothing in a program without windows.
+/// The waiting pointer, while it lives, and the words in a line, if one is given. Nothing in a program
+/// without windows.
+///
+/// The words are painted at once, since nothing else will be until the wait is over. At its end the line says
+/// again what it said, or what it was given meanwhile, and that is painted at once too, not with the next
+/// frame.
 class Attesa
 {
 public:
-    Attesa()
-    {
-        if (mMostrata)
-            QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    }
+    explicit Attesa(QLabel* riga = nullptr);
     Attesa(const Attesa&) = delete;
     Attesa& operator=(const Attesa&) = delete;
-    ~Attesa()
-    {
-        if (mMostrata)
-            QGuiApplication::restoreOverrideCursor();
-    }
+    ~Attesa();
 
 private:
-    bool mMostrata = qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
+    bool mMostrata;
+    QPointer<QLabel> mRiga;
+    QString mPrima; ///< what the line said
 };
 
 } // namespace giacenza

@@ -3,6 +3,7 @@
 #include "base/impostazioni.h"
 #include "dialogs/elencoporto.h"
 #include "support/bancadati.h"
+#include "support/cadute.h"
 #include "support/modale.h"
 #include "support/stampa.h"
 #include "support/trova.h"
@@ -61,6 +62,9 @@ protected:
     ElencoPorto* mElenco = c<ElencoPorto>(u"cmbPorto"_s);
     QLabel* mStato = c<QLabel>(u"lblStato"_s);
 };
+
+class PortoMariadb : public Porto
+{};
 
 } // namespace
 
@@ -215,6 +219,8 @@ TEST_P(Porto, unDatabaseCheNonRispondeSiDiceENonFerma)
     apri();
     EXPECT_EQ(mElenco->count(), 0);
     EXPECT_THAT(mStato->text().toStdString(), testing::StartsWith("I termini di porto non si leggono: "));
+    EXPECT_FALSE(mStato->text().contains(u"river"_s));
+    EXPECT_TRUE(mStato->toolTip().contains(u"river"_s)) << "the driver's words";
     impostazioni().percorsoDatabase = mBase.stringa();
     riempi();
     mElenco->showPopup();
@@ -223,6 +229,17 @@ TEST_P(Porto, unDatabaseCheNonRispondeSiDiceENonFerma)
     mElenco->hidePopup();
     clic(u"cmdEsci"_s);
     EXPECT_FALSE(mFinestra.isVisible());
+}
+
+TEST_P(PortoMariadb, unaConnessioneCadutaMentreEraApertaNonSiVede)
+{
+    riempi();
+    apri();
+    EXPECT_GT(interrompi(mBase), 0);
+    mElenco->showPopup();
+    EXPECT_EQ(mElenco->count(), 4);
+    EXPECT_EQ(mStato->text(), QString());
+    mElenco->hidePopup();
 }
 
 TEST_P(Porto, conLaTastieraInOrdine)
@@ -251,5 +268,7 @@ TEST_P(Porto, ilPadreSeNeVaConLaFinestraAperta)
     EXPECT_TRUE(finestra.isNull());
 }
 
+INSTANTIATE_TEST_SUITE_P(Basi, PortoMariadb, testing::Values("mariadb"),
+                         nomeBase<testing::TestParamInfo<std::string>>);
 INSTANTIATE_TEST_SUITE_P(Basi, Porto, testing::Values("sqlite", "mariadb"),
                          nomeBase<testing::TestParamInfo<std::string>>);

@@ -33,6 +33,9 @@ TEST_P(AvvisoGuasti, LaStampaCheNonRiesceSiDiceEIlContoResta)
                 ElementsAre(Messaggio{QString::fromStdString(inizio + "Il disco è pieno."), Stile::avviso,
                                       titoloApplicazione()}));
     EXPECT_EQ(caso(u"GINRAV"_s, u"39"_s), u"4"_s);
+    EXPECT_EQ(mostrato("lblStato"),
+              u"Avviso di giacenza 39_2026 contato (n. 4) ma non stampato: ristamparlo oggi non lo conta di "
+              "nuovo. La descrizione è registrata. Il disco è pieno."_s);
     mGuastoStampa.clear();
     mStampaNonProdotta = true;
     clicca("cmdRistampa");
@@ -45,6 +48,39 @@ TEST_P(AvvisoGuasti, LaStampaCheNonRiesceSiDiceEIlContoResta)
     clicca("cmdRistampa");
     EXPECT_THAT(mMessaggi.prendi().front().testo.toStdString(),
                 testing::StartsWith(inizio + "Manca la voce IdentificativoDll"));
+}
+
+TEST_P(AvvisoGuasti, DiUnAvvisoNonStampatoSiDiceCheCosaEStatoFatto)
+{
+    mStampaNonProdotta = true;
+    const QString motivo = u" Il modulo di stampa non ha prodotto il documento."_s;
+    richiamaMaiAvvisato();
+    avvisa(u"uno"_s);
+    EXPECT_EQ(mostrato("lblStato"),
+              u"Avviso di giacenza 41_2026 contato (n. 1) ma non stampato: ristamparlo oggi non lo conta di "
+              "nuovo. Il motivo scritto ora non è stato registrato."_s +
+                  motivo);
+    avvisa(u"due"_s);
+    EXPECT_EQ(mostrato("lblStato"),
+              u"Avviso di giacenza 41_2026 non stampato e non contato: oggi lo era già. "
+              "Il motivo scritto ora non è stato registrato."_s +
+                  motivo);
+    EXPECT_EQ(caso(u"GINRAV,GIDES1"_s, u"41"_s), u"1|10/11/2026 - Assente"_s);
+    clicca("cmdRistampa");
+    EXPECT_EQ(mostrato("lblStato"),
+              u"L'avviso di giacenza non è stato stampato; la giacenza resta registrata."_s + motivo);
+    EXPECT_THAT(mMessaggi.testi(), IsEmpty()) << "the module has told why";
+}
+
+TEST_P(AvvisoGuasti, UnModuloCheNonLeggeLArchivioNonParlaNellaLinguaDelDriver)
+{
+    richiamaAvvisato();
+    mDuranteStampa = [] { throw ErroreDatabase(u"08S01"_s, 2013, u"Lost connection"_s); };
+    clicca("cmdRistampa");
+    EXPECT_EQ(mMessaggi.prendi().front().testo,
+              u"L'avviso di giacenza non è stato stampato; la giacenza resta registrata.\n\n"
+              "La connessione con l'archivio è caduta."_s);
+    EXPECT_TRUE(c("lblStato")->toolTip().endsWith(u" Lost connection"_s));
 }
 
 TEST_P(AvvisoGuasti, UnFileDelleImpostazioniRifiutatoSiDiceENonScriveNiente)
@@ -90,8 +126,9 @@ TEST_P(AvvisoGuasti, CollegamentoPersoPrimaDiOgniIstruzione)
         EXPECT_THAT(
             mMessaggi.prendi(),
             ElementsAre(Messaggio{u"Operazione non riuscita: il database o un suo dato non risponde come "
-                                  "dovrebbe.\n\nguasto di prova"_s,
+                                  "dovrebbe.\n\nLa connessione con l'archivio è caduta."_s,
                                   Stile::critico, u"Gestione Trasporti"_s}));
+        EXPECT_EQ(c("lblStato")->toolTip(), u"guasto di prova"_s) << "the driver's words";
         EXPECT_EQ(tutto(u"39"_s), prima);
         EXPECT_EQ(mostrato("lblDataAvviso"), u"20/11/2026"_s);
         EXPECT_EQ(mostrato("lblStatoCaso"), u"APERTA · 3 AVVISI"_s);

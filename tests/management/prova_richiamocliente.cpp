@@ -99,6 +99,9 @@ TEST_P(RichiamoCliente, PerClienteSiPrendeLaRigaConITasti)
     ASSERT_FALSE(ldv.isEmpty());
     EXPECT_EQ(mostrato("txtLDV"), ldv);
     EXPECT_EQ(mostrato("lblNrGia"), mBase.leggi(u"select GINRGI from giace00f where GINRLV='%1'"_s.arg(ldv)));
+    EXPECT_EQ(mostrato("lblClienteCaso"), u"Cliente 1001 Ferramenta Lombarda S.r.l."_s)
+        << "the name is known: it is worth no statement";
+    EXPECT_THAT(inviate.filter(u"select RagioneSociale"_s), IsEmpty());
     // The offscreen platform leaves it to us to wake the screen under a dialog that closed.
     mSchermata->activateWindow();
     EXPECT_TRUE(QTest::qWaitFor([&] { return c("txtFilSped")->hasFocus(); }));

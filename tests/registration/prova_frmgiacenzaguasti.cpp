@@ -110,8 +110,8 @@ TEST_P(RegistrazioneGuasti, UnaStampaCheNonRiesceSiDiceELaGiacenzaResta)
     mStampaNonProdotta = true;
     EXPECT_EQ(salva(u"4712"_s), "nessuna scatola") << "the module has told why";
     EXPECT_EQ(mostrato("lblStato"),
-              u"L'avviso di giacenza non è stato stampato; la giacenza resta registrata. "
-              "Il modulo di stampa non ha prodotto il documento."_s);
+              u"Avviso di giacenza 43_2026 contato (n. 1) ma non stampato: ristamparlo oggi non lo conta di "
+              "nuovo. Il modulo di stampa non ha prodotto il documento."_s);
     impostazioni().percorsoFileIni = u"/non/ce.ini"_s;
     mBase.esegui(u"insert into letve00f (lefili,lenrlv,leanlv,ledtlv,lecodi,lerife) values "
                  "('MI','4716',2026,'2026-11-12',1001,'X');"_s);
@@ -186,7 +186,11 @@ TEST_P(RegistrazioneGuasti, UnaRicercaFallitaSiDiceEIlClicCheLHaAvviataNonSalva)
                      [&] { ++salvataggi; });
     clicca("cmdSalva");
     guarisce();
-    EXPECT_EQ(mMessaggi.prendi().size(), 1U);
+    EXPECT_THAT(mMessaggi.prendi(),
+                ElementsAre(Messaggio{u"Operazione non riuscita: il database o un suo dato non risponde come "
+                                      "dovrebbe.\n\nL'archivio ha rifiutato l'operazione."_s,
+                                      Stile::critico, u"Gestione Trasporti"_s}));
+    EXPECT_EQ(c("lblStato")->toolTip(), u"guasto di prova"_s) << "the driver's words";
     EXPECT_EQ(salvataggi, 0);
 }
 

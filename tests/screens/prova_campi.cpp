@@ -139,6 +139,31 @@ TEST_F(Campi, IlProprioNonDiventaAvanzo)
     EXPECT_EQ(testo(mRiga), u"della riga!"_s) << "what was typed is the clerk's";
 }
 
+TEST_F(Campi, CioCheIlProgrammaScriveDelCasoDiventaAvanzo)
+{
+    scriviDelCaso(mEtichetta, u"2026-11-21"_s);
+    EXPECT_EQ(testo(mEtichetta), u"2026-11-21"_s);
+    mCampi->lascia(etichetta);
+    EXPECT_TRUE(eAvanzo(mEtichetta));
+    EXPECT_EQ(testo(mEtichetta), QString());
+}
+
+TEST_F(Campi, ChiAscoltaLeggeIlTestoSenzaIlSegnoDiPrima)
+{
+    QStringList letti;
+    QObject::connect(mRiga, &QLineEdit::textChanged, &mSchermata, [&] { letti << testo(mRiga); });
+    mCampi->scrivi(riga, u"prima"_s);
+    mCampi->lascia(riga);
+    mCampi->scrivi(riga, u"dopo"_s);
+    EXPECT_EQ(letti, (QStringList{u"prima"_s, u"dopo"_s}));
+
+    QStringList segni;
+    quandoCambiaAvanzo(mRiga, [&] { segni << testo(mRiga); });
+    mCampi->lascia(riga);
+    mCampi->scrivi(riga, u"dopo"_s);
+    EXPECT_EQ(segni, (QStringList{QString(), u"dopo"_s})) << "what is shown stayed the same";
+}
+
 TEST_F(Campi, UnVuotoNonESegnato)
 {
     mCampi->scrivi(riga, {});

@@ -71,7 +71,8 @@ protected:
         Recordset riga;
         riga.apri(connessione, u"select %1;"_s.arg(colonne.join(u',')));
         SchermoFinto schermo;
-        CaricaDatiSpedizione(riga, mappa, schermo);
+        PostiSpedizione posti(mappa);
+        CaricaDatiSpedizione(riga, posti, schermo);
         return schermo.fatto;
     }
 
@@ -109,8 +110,8 @@ QStringList dallaFiliale(const QStringList& dateRiferimento)
            dateRiferimento +
            QStringList{u"cmbPorto[1]"_s,
                        u"txtColli=3"_s,
-                       u"txtPesoKg=45,50"_s,
-                       u"txtVolume=0,250"_s,
+                       u"txtPesoKg=45,5"_s,
+                       u"txtVolume=0,25"_s,
                        u"txtContrassegno=120,00"_s,
                        u"txtAnticipo=7,00"_s,
                        u"txtNoteLdv=mattino"_s,
@@ -230,7 +231,8 @@ TEST_P(Spedizione, UnaColonnaCheMancaNonFermaLeAltre)
     Recordset riga;
     riga.apri(connessione, u"select 'MI' as LEFILI, 'V' as VETTORE;"_s);
     SchermoFinto schermo;
-    CaricaDatiSpedizione(riga, mappaRegistrazione(), schermo);
+    PostiSpedizione posti(mappaRegistrazione());
+    CaricaDatiSpedizione(riga, posti, schermo);
     EXPECT_EQ(schermo.fatto.size(), ricercabile.size());
     EXPECT_TRUE(schermo.fatto.contains(u"txtFilSped=MI"_s)) << "names are compared without case";
     EXPECT_TRUE(schermo.fatto.contains(u"barVettore=V"_s));
@@ -241,6 +243,45 @@ TEST_P(Spedizione, LeDateConUnOraSonoGiorni)
 {
     const QStringList fatto = carica(mappaRegistrazione(), {{u"ledtlv"_s, u"2026-11-12 00:00:00"_s}});
     EXPECT_THAT(soloDi(fatto, u"lblDataLav"_s), ElementsAre(u"lblDataLav=12/11/2026"_s));
+}
+
+TEST_P(Spedizione, UnNumeroSiMostraUgualeComunqueLoScrivaLaBase)
+{
+    const auto mostrati = [this](const QString& valore) {
+        const QStringList fatto = carica(
+            mappaRegistrazione(),
+            {{u"lecoll"_s, valore}, {u"lepeso"_s, valore}, {u"levolu"_s, valore}, {u"lecnss"_s, valore}});
+        QStringList soli;
+        for (const QString& nome : {u"txtColli"_s, u"txtPesoKg"_s, u"txtVolume"_s, u"txtContrassegno"_s})
+            soli << soloDi(fatto, nome).value(0).section(u'=', 1);
+        return soli.join(u' ');
+    };
+    for (const char16_t* intero : {u"120", u"120.0", u"120.00", u"120.000"})
+        EXPECT_EQ(mostrati(QString::fromUtf16(intero)), u"120 120 120 120,00"_s);
+    EXPECT_EQ(mostrati(u"0.250"_s), u"0,25 0,25 0,25 0,25"_s);
+    EXPECT_EQ(mostrati(u"0.00"_s), u"0 0 0 0,00"_s);
+    EXPECT_EQ(mostrati(u"-1.50"_s), u"-1,5 -1,5 -1,5 -1,50"_s);
+    EXPECT_EQ(mostrati(u"molti"_s), QString() + u"   "_s) << "no number leaves the control as it was";
+}
+
+TEST_P(Spedizione, IPostiSiCercanoUnaVoltaEDiNuovoPerAltreColonne)
+{
+    Connessione connessione = mBase.connessione();
+    const MappaSpedizione mappa = {{u"lenrlv", "txtLDV", Conversione::testo},
+                                   {u"", "txtAltro", Conversione::svuota},
+                                   {u"lefili", "txtFiliale", Conversione::testo}};
+    PostiSpedizione posti(mappa);
+    const auto dove = [&](const QString& colonne) {
+        Recordset riga;
+        riga.apri(connessione, u"select %1;"_s.arg(colonne));
+        return posti.in(riga);
+    };
+    EXPECT_THAT(dove(u"1 as lenrlv, 2 as lefili"_s), ElementsAre(0, -1, 1));
+    EXPECT_THAT(dove(u"1 as LENRLV, 2 as LEFILI"_s), ElementsAre(0, -1, 1));
+    EXPECT_THAT(dove(u"2 as lefili, 1 as lenrlv"_s), ElementsAre(1, -1, 0)) << "as many, elsewhere";
+    EXPECT_THAT(dove(u"2 as lefili, 1 as altra"_s), ElementsAre(-1, -1, 0));
+    EXPECT_THAT(dove(u"2 as lefili, 1 as lenrlv"_s), ElementsAre(1, -1, 0)) << "it is there again";
+    EXPECT_THAT(dove(u"0 as z, 2 as lefili, 1 as lenrlv"_s), ElementsAre(2, -1, 1));
 }
 
 } // namespace

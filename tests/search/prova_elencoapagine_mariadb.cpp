@@ -98,7 +98,8 @@ TEST_P(ElencoAPagineMariadb, unGuastoAllaSecondaPaginaTieneLaPrimaELoDiceUnaVolt
     EXPECT_FALSE(mModello.completo());
     EXPECT_FALSE(mModello.canFetchMore({}));
     ASSERT_EQ(interruzioni.count(), 1);
-    EXPECT_EQ(interruzioni.at(0).at(0), u"Tempo scaduto"_s);
+    EXPECT_EQ(interruzioni.at(0).at(0), u"L'archivio non ha risposto in tempo."_s);
+    EXPECT_EQ(interruzioni.at(0).at(1), u"Tempo scaduto"_s) << "the driver's words";
     mPrima = {};
     apri(ModoRicerca::riferimento);
     leggiTutto();

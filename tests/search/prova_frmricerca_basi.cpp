@@ -175,8 +175,9 @@ TEST_P(FinestraRicercaPiena, unCollegamentoPersoSiDiceESiRiapre)
     impostaTraccia(prima);
     const auto mostrati = mMessaggi.prendi();
     ASSERT_EQ(mostrati.size(), 1U);
-    EXPECT_EQ(mostrati[0].testo,
-              u"Il collegamento con il database non riesce o si è interrotto.\n\nLost connection"_s);
+    EXPECT_EQ(
+        mostrati[0].testo,
+        u"Il collegamento con il database non riesce o si è interrotto.\n\nLa connessione con l'archivio è caduta."_s);
     cerca(u"beta"_s);
     EXPECT_EQ(voci(), QStringList{u"Beta"_s});
 }

@@ -178,7 +178,8 @@ TEST_P(ModelloSqlite, unaLetturaInterrottaTieneLeRigheELoDiceUnaVolta)
     EXPECT_EQ(mAperte, 0);
     mModello.fetchMore({});
     ASSERT_EQ(interruzioni.count(), 1);
-    EXPECT_THAT(interruzioni.at(0).at(0).toString().toStdString(), testing::HasSubstr("integer overflow"));
+    EXPECT_EQ(interruzioni.at(0).at(0), u"L'archivio ha rifiutato l'operazione."_s);
+    EXPECT_THAT(interruzioni.at(0).at(1).toString().toStdString(), testing::HasSubstr("integer overflow"));
     EXPECT_EQ(cella(298, 0), u"299"_s);
     apriNumeri(3);
     EXPECT_TRUE(mModello.completo());

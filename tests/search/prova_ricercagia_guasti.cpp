@@ -3,8 +3,10 @@
 #include "search/bancoricerca.h"
 
 #include "base/impostazioni.h"
+#include "support/cadute.h"
 #include "support/stampa.h"
 
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QPointer>
 #include <QTimer>
@@ -70,9 +72,24 @@ TEST_P(RicercaGiaGuasti, unIstruzioneFallitaSvuotaLElencoEChiude)
     scrivi(dialogo, u"txtValore"_s, u"1001"_s);
     premi(dialogo, u"cmdVisualizza"_s);
     EXPECT_THAT(mMessaggi.testi(), ElementsAre(messaggioVuoto));
-    EXPECT_EQ(righe(dialogo), u"Ricerca non riuscita: Tempo scaduto"_s);
+    EXPECT_EQ(righe(dialogo), u"Ricerca non riuscita: L'archivio non ha risposto in tempo."_s);
+    EXPECT_EQ(trova<QLabel>(dialogo, u"lblRighe"_s)->toolTip(), u"Tempo scaduto"_s) << "the driver's words";
     EXPECT_EQ(trova<QTableView>(dialogo, u"Griglia"_s)->model()->rowCount(), 0);
     EXPECT_EQ(aperte(), 0);
+}
+
+TEST_P(RicercaGiaGuasti, unAttesaSiVedeNellaRigaDelleRighe)
+{
+    frmRicercaGia dialogo;
+    prepara(dialogo, ModoRicerca::letteraVettura);
+    mostra(dialogo);
+    QString durante;
+    primaDi([&] { durante = righe(dialogo); });
+    scrivi(dialogo, u"txtValore"_s, u"9"_s);
+    premi(dialogo, u"cmdVisualizza"_s);
+    EXPECT_EQ(durante, u"Attendo l'archivio…"_s);
+    EXPECT_EQ(righe(dialogo), u"5 righe"_s);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 TEST_P(RicercaGiaGuasti, siPuoChiudereODistruggereDuranteIlMessaggio)
@@ -151,10 +168,14 @@ TEST_P(RicercaGiaSqlite, unaLetturaInterrottaTieneLeRigheELoDiceUnaVolta)
         QCoreApplication::processEvents();
     }
     ASSERT_EQ(mMessaggi.messaggi().size(), 1U);
-    EXPECT_TRUE(mMessaggi.messaggi()[0].testo.startsWith(
-        u"La lettura dell'elenco si è interrotta: restano le righe già lette.\n\n"_s));
+    EXPECT_EQ(mMessaggi.messaggi()[0].testo,
+              u"La lettura dell'elenco si è interrotta: restano le righe già lette.\n\n"
+              "L'archivio ha rifiutato l'operazione."_s);
     EXPECT_EQ(mMessaggi.messaggi()[0].stile, Stile::critico);
-    EXPECT_TRUE(righe(dialogo).startsWith(u"299 righe lette, lettura interrotta: "_s));
+    EXPECT_EQ(righe(dialogo),
+              u"299 righe lette, lettura interrotta: L'archivio ha rifiutato l'operazione."_s);
+    EXPECT_TRUE(trova<QLabel>(dialogo, u"lblRighe"_s)->toolTip().contains(u"overflow"_s))
+        << "the driver's words";
     EXPECT_EQ(aperte(), 0);
     QTest::keyClick(griglia, Qt::Key_End, Qt::ControlModifier);
     tasto(dialogo, Qt::Key_Return);
@@ -163,17 +184,7 @@ TEST_P(RicercaGiaSqlite, unaLetturaInterrottaTieneLeRigheELoDiceUnaVolta)
 }
 
 class RicercaGiaMariadb : public RicercaGiaGuasti
-{
-protected:
-    /// Ends every connection of the workstation's user.
-    void uccidi() const
-    {
-        const QString utente = base().stringa().section(u"UID="_s, 1).section(u';', 0, 0);
-        for (const QStringList& processo :
-             base().righe(u"select id from information_schema.processlist where user='%1';"_s.arg(utente)))
-            base().esegui(u"kill connection %1;"_s.arg(processo[0]));
-    }
-};
+{};
 INSTANTIATE_TEST_SUITE_P(Basi, RicercaGiaMariadb, testing::Values("mariadb"),
                          nomeBase<testing::TestParamInfo<std::string>>);
 
@@ -183,7 +194,7 @@ TEST_P(RicercaGiaMariadb, unaConnessioneUccisaPrimaDellIstruzioneDaLElencoVuotoE
     prepara(dialogo, ModoRicerca::letteraVettura);
     primaDi([this] {
         primaDi({});
-        uccidi();
+        interrompi(base());
     });
     mostra(dialogo);
     EXPECT_THAT(mMessaggi.prendi(),
@@ -201,7 +212,7 @@ TEST_P(RicercaGiaMariadb, unaConnessioneUccisaTraDuePagineNonFermaLOperatore)
     prepara(dialogo, ModoRicerca::letteraVettura);
     dialogo.setCodiceCliente(u"2000"_s);
     mostra(dialogo);
-    uccidi();
+    interrompi(base());
     auto* griglia = trova<QTableView>(dialogo, u"Griglia"_s);
     for (int pagina = 0; pagina < 3; ++pagina)
         griglia->model()->fetchMore({});

@@ -66,6 +66,22 @@ TEST_F(NaturaMerceAggiunta, unTestoBiancoSiRifiuta)
     EXPECT_FALSE(QFile::exists(percorso(lista)));
 }
 
+TEST_F(NaturaMerceAggiunta, mezzoCarattereSiRifiutaENonDiventaUnPuntoDiDomanda)
+{
+    const QString camion = QString::fromUtf8("🚚");
+    for (const QString& prima : {QString(), u"VEDI DDT\n"_s}) {
+        if (!prima.isEmpty())
+            scrivi(lista, "VEDI DDT\n");
+        for (const QString& mezzo : {u"SCATOLE "_s + camion.at(0), camion.at(1) + u" SCATOLE"_s}) {
+            aggiungi(mezzo);
+            aggiuntaRifiutata();
+        }
+        EXPECT_EQ(QFile::exists(percorso(lista)) ? leggi(lista) : QByteArray(), prima.toUtf8());
+    }
+    aggiungi(u"scatole "_s + camion);
+    EXPECT_EQ(leggi(lista), "VEDI DDT\nSCATOLE \xF0\x9F\x9A\x9A\n");
+}
+
 TEST_F(NaturaMerceAggiunta, ilFineRigaEQuelloDelFile)
 {
     scrivi(lista, "VEDI DDT\r\nSCATOLE\r\n");

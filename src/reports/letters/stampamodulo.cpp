@@ -2,6 +2,7 @@
 
 #include "base/impostazioni.h"
 #include "base/servizi.h"
+#include "base/spiegazioni.h"
 #include "base/testoerrore.h"
 #include "reports/letters/fontedocumenti.h"
 
@@ -10,6 +11,23 @@ using namespace Qt::StringLiterals;
 namespace giacenza {
 
 namespace {
+
+EsitoStampa nonRiuscita(const QString& motivo)
+{
+    return {.motivo = motivo, .parole = motivo};
+}
+
+/// To be called in a handler, of whatever comes.
+EsitoStampa interrotta()
+{
+    try {
+        throw;
+    } catch (const Errore& errore) {
+        return {.motivo = spiega(errore), .parole = errore.testo()};
+    } catch (...) {
+        return nonRiuscita(testoErrore());
+    }
+}
 
 EsitoStampa guida(ModuloStampa& modulo, QWidget* padre, TipoDocumento tipo, const QString& chiave,
                   const std::array<QString, 4>& didascalie)
@@ -21,17 +39,19 @@ EsitoStampa guida(ModuloStampa& modulo, QWidget* padre, TipoDocumento tipo, cons
     modulo.setStampa(true);
     modulo.setTipoDocumento(tipo);
     bool nonProdotto = false;
+    EsitoStampa esito;
     try {
         modulo.stampaDocumento(chiave, nonProdotto);
+        if (nonProdotto)
+            esito = nonRiuscita(u"Il modulo di stampa non ha prodotto il documento."_s);
+        esito.prodotto = !nonProdotto;
+        esito.raccontato = nonProdotto;
     } catch (...) {
-        return {.motivo = testoErrore(), .file = documentoArchiviato()};
+        esito = interrotta();
     }
     // What a module has kept before its printer failed can still be opened.
-    if (nonProdotto)
-        return {.raccontato = true,
-                .motivo = u"Il modulo di stampa non ha prodotto il documento."_s,
-                .file = documentoArchiviato()};
-    return {.prodotto = true, .file = documentoArchiviato()};
+    esito.file = documentoArchiviato();
+    return esito;
 }
 
 } // namespace
@@ -49,10 +69,10 @@ EsitoStampa stampaConModulo(QWidget* padre, TipoDocumento tipo, const QString& c
     try {
         const auto modulo = CaricaModuloStampa();
         if (!modulo.parte)
-            return {.motivo = modulo.motivo};
+            return nonRiuscita(modulo.motivo);
         return guida(*modulo.parte, padre, tipo, chiave, didascalie);
     } catch (...) {
-        return {.motivo = testoErrore()};
+        return interrotta();
     }
 }
 

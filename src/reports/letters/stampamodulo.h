@@ -12,6 +12,7 @@ struct EsitoStampa
     bool prodotto = false;
     bool raccontato = false; ///< the module has told the operator itself why there is none
     QString motivo = {};     ///< why there is none, in Italian
+    QString parole = {};     ///< the same in the words of what failed
     QString file = {};       ///< where it lies, absolute; empty when the module does not say
 };
 
