@@ -2,6 +2,7 @@
 
 #include "desk/finestra/finestradesk.h"
 #include "desk/finestra/particomponente.h"
+#include "schede.h"
 #include "spiegazioni.h"
 #include "ui_finestra.h"
 
@@ -102,6 +103,7 @@ void Finestra::apparecchia(const Opzioni& opzioni)
         },
         this);
     mUi->verticale->addWidget(mDesk, 1);
+    aggiungiSchede(*mDesk, opzioni, [this](const QString& testo) { mostraMessaggio(testo); });
     mDesk->azioni().riempiElenco(mUi->menuElenco);
     mDesk->azioni().riempiCaso(mUi->menuCaso);
     mAiuto.riempi(mUi->menuFile, mUi->menuAiuto);

@@ -108,9 +108,12 @@ Opzioni leggiOpzioni(const QCoreApplication& applicazione)
         rifiuta(u"Lo standard input non si legge."_s);
     const StringaArchivio archivio = leggiArchivio(fonteArchivio(riga), ingresso);
     const QString dati = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    return {archivio.stringa, oppure(riga, nomeIni, dati + u"/giacenza/giacenza.ini"_s),
-            oppure(riga, nomeLogo, QCoreApplication::applicationDirPath() + u"/logo.gif"_s), archivio.guasto,
-            riga.isSet(nomeNuova), riga.isSet(nomePreparaRegistro)};
+    return {archivio.stringa,
+            oppure(riga, nomeIni, dati + u"/giacenza/giacenza.ini"_s),
+            oppure(riga, nomeLogo, QCoreApplication::applicationDirPath() + u"/logo.gif"_s),
+            archivio.guasto,
+            riga.isSet(nomeNuova),
+            riga.isSet(nomePreparaRegistro)};
 }
 
 bool parlaItaliano(QCoreApplication& applicazione)

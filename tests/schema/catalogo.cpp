@@ -214,9 +214,8 @@ std::vector<VoceCatalogo> catalogo(const BancaDati& base)
     const Campione c = campione(base);
     std::vector<VoceCatalogo> tutte = letture(c);
     const Dialetto dialetto = base.connessione().dialetto();
-    for (const auto& altre :
-         {scritture(c), ricerche(c), soggetti(c), emissione(c, dialetto), verifica(c, dialetto), desk(c),
-          estratto(c)})
+    for (const auto& altre : {scritture(c), ricerche(c), soggetti(c), emissione(c, dialetto),
+                              verifica(c, dialetto), desk(c), estratto(c)})
         tutte.insert(tutte.end(), altre.begin(), altre.end());
     return tutte;
 }

@@ -58,14 +58,6 @@ void collegaFonte(ModuloStampa& modulo, QWidget* padre)
         conFonte->setFonte(&fonte, padre);
 }
 
-QString cartellaDocumenti()
-{
-    const QString scelta = LeggiIni(u"DLLStampe"_s, u"CartellaDocumenti"_s);
-    const QFileInfo impostate(percorsoNativo(impostazioni().percorsoFileIni));
-    const QString relativa = scelta.isEmpty() ? u"documenti"_s : percorsoNativo(scelta);
-    return QDir::cleanPath(impostate.absoluteDir().absoluteFilePath(relativa));
-}
-
 QString documentoArchiviato()
 {
     return fonteDelThread().documentoArchiviato();

@@ -10,10 +10,6 @@ namespace giacenza {
 /// padre: the window over which questions of a long print and the module's dialogs open; may be null.
 void collegaFonte(ModuloStampa& modulo, QWidget* padre);
 
-/// The folder in which documents are kept, absolute: the settings' own, else "documenti" beside the settings
-/// file. It need not exist yet. Throws what LeggiIni() throws.
-QString cartellaDocumenti();
-
 /// The file that the module connected last has left; empty when it said of none.
 QString documentoArchiviato();
 
