@@ -85,12 +85,12 @@ void frmGestGia::emettiAvviso()
     if (riga.isEmpty())
         return;
     const QString prima = testo(mUi->txtDescGia);
-    scriviDelCaso(mUi->txtDescGia, prima + riga);
+    scrivi(mUi->txtDescGia, prima + riga);
     try {
         mAvviso.EmettiAvvisoGiacenza(false, testo(mUi->txtDescGia));
     } catch (const std::exception&) {
         // Nothing was written: the next try would lengthen the description once more.
-        scriviDelCaso(mUi->txtDescGia, prima);
+        scrivi(mUi->txtDescGia, prima);
         throw;
     }
 }

@@ -160,7 +160,7 @@ void RichiamoCaso::richiamaPerCliente()
 
 bool RichiamoCaso::mostra(const QString& istruzione)
 {
-    // What was typed about the case that goes is not the next one's.
+    // What the clerk, or a notice, wrote about the case that goes is not the next one's.
     if (!mParti.caso.numero().isEmpty())
         segnaDelCaso(mUi.txtDescGia);
     pulisciEsito();

@@ -44,8 +44,9 @@ TEST_P(AvanziRegistrazione, LaDataDellAvvisoAppenaEmessoNonEDellaGiacenzaDopo)
 TEST_P(AvanziRegistrazione, LAvvertenzaDellaFilialeValeDopoOgniRicerca)
 {
     mBase.esegui(u"update giace00f set GIFIGI='QQ' where GINRLV='4714'"_s);
-    consegna(u"4714"_s);
+    consegna(u"4711"_s);
     EXPECT_TRUE(c("txtFilialeGia")->hasFocus()) << "where the clerk types next";
+    consegna(u"4714"_s);
     EXPECT_EQ(mostrato("lblAvvFilialeGia"), u"⚠ filiale sconosciuta"_s) << "nobody is typing there";
     consegna(u"4711"_s);
     EXPECT_FALSE(c("lblAvvFilialeGia")->isVisible());
