@@ -3,6 +3,9 @@
 #include "base/spiegazioni.h"
 #include "base/testoerrore.h"
 #include "data/istruzionidesk.h"
+#include "database/limiterighe.h"
+
+#include <QSet>
 
 using namespace Qt::StringLiterals;
 
@@ -13,34 +16,72 @@ namespace {
 /// Milliseconds.
 constexpr unsigned long respiro = 2;
 
-/// Reads row by row; consegna: given each batch. Throws what reading throws.
-void leggiRighe(const RichiestaElenco& richiesta, const std::atomic<bool>& annullata,
-                const std::function<void(std::vector<RigaCaso>)>& consegna)
+/// One reading: row by row, handed over in batches.
+class Lettura
 {
-    Connessione connessione;
-    connessione.apri(richiesta.accesso);
-    Recordset riga;
-    if (richiesta.filiale.isEmpty())
-        riga.apri(connessione, istruzioni::casiAperti(), Recordset::Cursore::soloAvanti);
-    else
-        riga.apri(connessione, istruzioni::casiApertiFiliale(), Recordset::Cursore::soloAvanti,
-                  std::vector<Valore>{richiesta.filiale, richiesta.filiale});
-    ImportiNoti noti;
-    std::vector<RigaCaso> righe;
-    std::size_t quante = Scadenzario::primoLotto;
-    for (; !riga.eof() && !annullata; riga.successivo()) {
-        righe.push_back(rigaDi(leggiCaso(riga), richiesta.oggi, richiesta.giorniFerma, &noti));
-        if (righe.size() == quante) {
-            consegna(std::exchange(righe, {}));
-            // Whoever shows the first rows goes before: the rest is not in view.
-            if (std::exchange(quante, Scadenzario::lotto) != Scadenzario::lotto)
-                QThread::msleep(respiro);
-            righe.reserve(quante);
+public:
+    using Consegna = std::function<void(std::vector<RigaCaso>)>;
+
+    Lettura(const RichiestaElenco& richiesta, const std::atomic<bool>& annullata, Consegna consegna)
+        : mRichiesta(richiesta), mAnnullata(annullata), mConsegna(std::move(consegna))
+    {}
+
+    /// Throws what reading throws.
+    void svolgi()
+    {
+        mConnessione.apri(mRichiesta.accesso);
+        // MariaDB's driver gives no row before it has them all: the first batch is asked for by itself.
+        if (mConnessione.dialetto() == Dialetto::mariadb) {
+            const LimiteRighe prime(mConnessione, static_cast<int>(Scadenzario::primoLotto));
+            leggi();
+            // Fewer than were asked for are all that there are.
+            if (mViste.size() < static_cast<qsizetype>(Scadenzario::primoLotto))
+                return;
         }
+        leggi();
     }
-    if (!righe.empty())
-        consegna(std::move(righe));
-}
+
+private:
+    void leggi()
+    {
+        Recordset riga;
+        if (mRichiesta.filiale.isEmpty())
+            riga.apri(mConnessione, istruzioni::casiAperti(), Recordset::Cursore::soloAvanti);
+        else
+            riga.apri(mConnessione, istruzioni::casiApertiFiliale(), Recordset::Cursore::soloAvanti,
+                      std::vector<Valore>{mRichiesta.filiale, mRichiesta.filiale});
+        const QSet<QString> prima = mViste;
+        for (; !riga.eof() && !mAnnullata; riga.successivo()) {
+            Caso caso = leggiCaso(riga);
+            if (mPrimoLotto)
+                mViste.insert(nomeGiacenza(caso.chiave));
+            else if (prima.contains(nomeGiacenza(caso.chiave)))
+                continue;
+            mRighe.push_back(rigaDi(std::move(caso), mRichiesta.oggi, mRichiesta.giorniFerma, &mNoti));
+            if (mRighe.size() == (mPrimoLotto ? Scadenzario::primoLotto : Scadenzario::lotto))
+                consegna();
+        }
+        if (!mRighe.empty())
+            consegna();
+    }
+
+    void consegna()
+    {
+        mConsegna(std::exchange(mRighe, {}));
+        // Whoever shows the first rows goes before: the rest is not in view.
+        if (std::exchange(mPrimoLotto, false))
+            QThread::msleep(respiro);
+    }
+
+    const RichiestaElenco& mRichiesta;
+    const std::atomic<bool>& mAnnullata;
+    Consegna mConsegna;
+    Connessione mConnessione;
+    ImportiNoti mNoti;
+    std::vector<RigaCaso> mRighe;
+    QSet<QString> mViste; ///< names of the cases of the first batch
+    bool mPrimoLotto = true;
+};
 
 } // namespace
 
@@ -82,10 +123,11 @@ void Scadenzario::leggiLaggiu(const RichiestaElenco& richiesta, const Annullata&
     try {
         if (*annullata)
             return;
-        leggiRighe(richiesta, *annullata, [&](std::vector<RigaCaso> righe) {
+        const auto porta = [&](std::vector<RigaCaso> righe) {
             const auto portate = std::make_shared<std::vector<RigaCaso>>(std::move(righe));
             consegna(annullata, [this, portate] { Q_EMIT arrivate(*portate); });
-        });
+        };
+        Lettura(richiesta, *annullata, porta).svolgi();
         consegna(annullata, [this] {
             mInCorso = false;
             Q_EMIT finito();

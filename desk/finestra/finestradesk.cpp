@@ -194,6 +194,7 @@ void FinestraDesk::letturaFinita()
 {
     if (!std::exchange(mPrimaLettura, false))
         mElenco->modello()->sostituisci(std::exchange(mLette, {}));
+    mElenco->letta();
     mElenco->setLettura(letto(u"letto"_s));
 }
 

@@ -123,6 +123,12 @@ void PaginaElenco::setFiliali(const std::vector<Filiale>& filiali)
     mFiliale->setCurrentIndex(std::max(0, mFiliale->findData(scelta)));
 }
 
+void PaginaElenco::letta()
+{
+    mLetta = true;
+    mostraTotali();
+}
+
 void PaginaElenco::setLettura(const QString& testo)
 {
     mLettura->setText(testo);
@@ -145,7 +151,8 @@ void PaginaElenco::filtra()
 
 void PaginaElenco::mostraTotali()
 {
-    mTotali->setText(testoTotali(mModello->totali(), mModello->tutte()));
+    const bool noti = mLetta || mModello->tutte() > 0;
+    mTotali->setText(noti ? testoTotali(mModello->totali(), mModello->tutte()) : QString());
     mTotali->setToolTip(mTotali->text());
 }
 

@@ -29,6 +29,8 @@ public:
     QString filiale() const;
     void setFiliali(const std::vector<Filiale>& filiali);
 
+    /// The list was read to its end: until then, an empty one has no totals.
+    void letta();
     /// What stands beside the totals: when it was read, or that it is being read.
     void setLettura(const QString& testo);
     /// The cases that are marked.
@@ -53,6 +55,7 @@ private:
     TabellaCasi* mTabella;
     QLabel* mTotali;
     QLabel* mLettura;
+    bool mLetta = false;
 };
 
 } // namespace giacenza::desk

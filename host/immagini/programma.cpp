@@ -26,6 +26,10 @@ void fotografaProgramma(Album& album)
     album.regista.preme(&finestra, Qt::Key_F2);
     Regista::verifica(Regista::controllo(&finestra, u"fraMessaggio"_s)->isVisible(),
                       u"il programma non dice che l'archivio manca"_s);
+    auto* lettura = finestra.findChild<QLabel*>(u"lblLettura"_s);
+    Regista::attende([&] { return lettura->text().startsWith(u"lettura non riuscita"_s); },
+                     u"l'elenco non dice che non si legge"_s);
+    lettura->setText(u"lettura non riuscita alle 08:30:00"_s);
     album.scatta(&finestra, u"programma-errore"_s);
     album.imposta();
 }

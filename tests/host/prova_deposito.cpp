@@ -105,6 +105,9 @@ TEST(Deposito, con_un_archivio_che_non_c_e_nessuna_schermata_si_apre_e_la_finest
 {
     deposito::Finestra finestra({u"DRIVER={Nessun driver};Database=x"_s, {}, {}});
     finestra.show();
+    const auto* lettura = finestra.findChild<QLabel*>(u"lblLettura"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return lettura->text().startsWith(u"lettura non riuscita"_s); }));
+    EXPECT_EQ(finestra.findChild<QLabel*>(u"lblTotali"_s)->text(), QString()) << "nothing is known";
     finestra.findChild<QAction*>(u"azNuovaLdv"_s)->trigger();
     for (const QString& azione :
          {u"azNuova"_s, u"azNuovaLdv"_s, u"azGestione"_s, u"azRiconsegna"_s, u"azReso"_s}) {

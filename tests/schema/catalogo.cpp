@@ -4,6 +4,7 @@
 #include "data/istruzionidesk.h"
 #include "data/istruzioniemissione.h"
 #include "data/istruzioniestratto.h"
+#include "data/istruzioniprova.h"
 #include "data/istruzionireport.h"
 #include "data/istruzioniricerca.h"
 #include "data/istruzionisoggetti.h"
@@ -144,6 +145,7 @@ std::vector<VoceCatalogo> emissione(const Campione& c, Dialetto dialetto)
         {u"portoPerNumero"_s, portoPerNumero(), {u"1"_s}},
     };
     if (dialetto == Dialetto::mariadb) {
+        voci.push_back({u"comeSiChiamanoLeTabelle"_s, comeSiChiamanoLeTabelle()});
         voci.push_back({u"colonnaNumeroLdv"_s, colonnaNumeroLdv()});
         voci.push_back({u"ultimoNumeroLdvDaColonna"_s, ultimoNumeroLdvDaColonna(), {anno}});
     }
