@@ -44,7 +44,7 @@ conPazienza()
         ((SECONDS < fine)) || muori \
             "Un altro programma${chi:+ ($chi)} usa ancora i pacchetti del sistema: riprovare quando ha finito." \
             "Another program${chi:+ ($chi)} still uses the system's packages: try again when it has finished."
-        [[ $chi == "$prima" && -n $prima ]] || dice \
+        [[ ${chi:-?} == "$prima" ]] || dice \
             "Aspetto: un altro programma${chi:+ ($chi)} sta usando i pacchetti del sistema…" \
             "Waiting: another program${chi:+ ($chi)} is using the system's packages…"
         prima=${chi:-?}

@@ -10,11 +10,11 @@ namespace giacenza {
 /// A held shipment for MostraCaso(), by what its screens look it up with. Dates are "dd/mm/yyyy".
 struct CasoDaMostrare
 {
-    QString numeroGiacenza;
-    QString dataGiacenza; ///< the day from which it is held
-    QString numeroLdv;    ///< of the waybill that is held
-    QString dataLdv;
-    QString cliente; ///< the customer's code
+    QString numeroGiacenza; ///< its number, without the year
+    QString dataGiacenza;   ///< the day from which it is held
+    QString numeroLdv;      ///< of the waybill that is held
+    QString dataLdv;        ///< the day of that waybill
+    QString cliente;        ///< the customer's code
 };
 
 /// The screen on which a held shipment is brought up.

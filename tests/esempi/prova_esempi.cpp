@@ -182,5 +182,6 @@ TEST(EsempiRegistra, LInstallataRegistraLaLibreriaInstallata)
     EXPECT_EQ(processo.exitCode(), 0);
     EXPECT_THAT(QString::fromUtf8(processo.readAllStandardOutput()).toStdString(),
                 testing::HasSubstr(QStringLiteral("\nLibreria: " LIBRERIA "\n").toStdString()));
-    EXPECT_TRUE(QFileInfo::exists(QStringLiteral(LAVORO "/installato/share/man/man1/giacenza-registra.1")));
+    EXPECT_TRUE(
+        QFileInfo::exists(QStringLiteral(LAVORO "/installato/share/man/man1/giacenza-registra.1.gz")));
 }

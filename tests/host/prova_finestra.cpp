@@ -261,7 +261,7 @@ TEST_F(ProvaFinestra, ogni_lettera_abbreviata_ne_vuol_dire_una_sola)
     QStringList lettere;
     for (const QString& testo : testi)
         lettere << QKeySequence::mnemonic(testo).toString();
-    EXPECT_EQ(lettere.size(), 14);
+    EXPECT_EQ(lettere.size(), 15);
     EXPECT_FALSE(lettere.contains(QString()));
     EXPECT_EQ(lettere.removeDuplicates(), 0) << lettere.join(u' ').toStdString();
 }
