@@ -11,6 +11,8 @@
 
 #include <gmock/gmock.h>
 
+#include <iostream>
+
 using namespace Qt::StringLiterals;
 using namespace giacenza::prove;
 
@@ -59,12 +61,14 @@ public:
     }
     InCorso(const InCorso&) = delete;
     InCorso& operator=(const InCorso&) = delete;
+    /// What a host wrote that nobody asked for is told: it says why its window was never seen.
     ~InCorso()
     {
-        if (mProcesso.state() == QProcess::NotRunning)
-            return;
-        mProcesso.kill();
-        mProcesso.waitForFinished();
+        if (mProcesso.state() != QProcess::NotRunning) {
+            mProcesso.kill();
+            mProcesso.waitForFinished();
+        }
+        std::cerr << mProcesso.readAllStandardError().constData();
     }
 
     Esito esito()

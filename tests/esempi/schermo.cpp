@@ -26,6 +26,15 @@ void finoA(const char* cosa, const std::function<bool()>& vero)
     }
 }
 
+/// What a program says first; throws when it says nothing.
+QString primaRiga(QProcess& processo, const char* cosa)
+{
+    finoA(cosa, [&] {
+        return processo.canReadLine() || (processo.waitForReadyRead(100) && processo.canReadLine());
+    });
+    return QString::fromLatin1(processo.readLine()).trimmed();
+}
+
 void ferma(QProcess& processo)
 {
     processo.terminate();
@@ -38,16 +47,15 @@ void ferma(QProcess& processo)
 
 Schermo::Schermo()
 {
-    // Its number comes on standard output.
-    mXvfb.start(u"Xvfb"_s,
-                {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1366x768x24"_s, u"-nolisten"_s, u"tcp"_s});
-    finoA("il numero dello schermo",
-          [this] { return mXvfb.canReadLine() || (mXvfb.waitForReadyRead(100) && mXvfb.canReadLine()); });
-    mNome = u':' + QString::fromLatin1(mXvfb.readLine()).trimmed();
+    // Its number comes on standard output. Without -noreset it starts afresh when its last client leaves, and
+    // one that comes in that moment is lost: xdotool before the window manager is enough.
+    mXvfb.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1366x768x24"_s, u"-nolisten"_s,
+                            u"tcp"_s, u"-noreset"_s});
+    mNome = u':' + primaRiga(mXvfb, "lo schermo è pronto");
     mGestore.setProcessEnvironment(ambiente());
-    mGestore.start(u"openbox"_s, {});
-    if (!mGestore.waitForStarted())
-        throw std::runtime_error("openbox non parte");
+    // What is shown while openbox still starts may stay unseen. Its first command is run when it is ready.
+    mGestore.start(u"openbox"_s, {u"--startup"_s, u"echo pronto"_s});
+    primaRiga(mGestore, "openbox è pronto");
 }
 
 Schermo::~Schermo()
