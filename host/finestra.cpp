@@ -2,8 +2,8 @@
 
 #include "desk/finestra/finestradesk.h"
 #include "desk/finestra/particomponente.h"
+#include "host/avvio/spiegazioni.h"
 #include "schede.h"
-#include "spiegazioni.h"
 #include "ui_finestra.h"
 
 #include <QAccessible>

@@ -4,11 +4,10 @@
 #include "data/archivio.h"
 #include "data/istruzioniprova.h"
 #include "database/recordset.h"
+#include "host/avvio/spiegazioni.h"
 
 #include <QFile>
 #include <QFileInfo>
-
-#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -20,45 +19,9 @@ using giacenza::Connessione;
 using giacenza::Dialetto;
 using giacenza::ErroreDatabase;
 
-/// What the clerk, or who looks after the server, can do about a failure to connect.
-QString rimedio(const ErroreDatabase& errore)
-{
-    static const std::pair<int, QString> rimedi[] = {
-        {1045,
-         u"Controllare l'utente e la parola d'ordine, e che il server li accetti da questo computer."_s},
-        {1044, u"Chiedere a chi amministra il server di dare a questo utente i diritti sulla base."_s},
-        {1049, u"Controllare il nome della base, maiuscole comprese."_s},
-        {2002, u"Controllare che il server sia acceso, il nome, la porta e la rete."_s},
-        {2003, u"Controllare che il server sia acceso, il nome, la porta e la rete."_s},
-        {2005, u"Controllare come è scritto il nome del server."_s},
-        {2026,
-         u"La connessione cifrata non è riuscita: controllare il certificato, o chiedere se il server la "
-         "offre."_s},
-    };
-    for (const auto& [codice, testo] : rimedi)
-        if (codice == errore.codiceNativo())
-            return testo;
-    return {};
-}
-
 EsitoProva nonRiuscita(const QString& testo, const ErroreDatabase& errore)
 {
-    return {.testo = testo,
-            .dettaglio = u"%1 (%2, %3)"_s.arg(errore.testo(), errore.sqlstate(),
-                                              QString::number(errore.codiceNativo()))};
-}
-
-EsitoProva nonConnessa(const ErroreDatabase& errore)
-{
-    const QString& stato = errore.sqlstate();
-    if (stato == u"IM002"_s || stato == u"IM003"_s || stato == u"01000"_s)
-        return nonRiuscita(
-            u"Manca il driver ODBC dell'archivio. Installare odbc-mariadb per un server MariaDB, "
-            "libsqliteodbc per un file."_s,
-            errore);
-    const QString cosa = giacenza::spiega(errore);
-    const QString fare = rimedio(errore);
-    return nonRiuscita(fare.isEmpty() ? cosa : cosa + u' ' + fare, errore);
+    return {.testo = testo, .dettaglio = rispostaDellArchivio(errore)};
 }
 
 /// Statements that ask whether something may be done, without doing it.
@@ -121,7 +84,7 @@ EsitoProva provaStringa(const QString& stringa)
         try {
             connessione.apri(stringa);
         } catch (const ErroreDatabase& errore) {
-            return nonConnessa(errore);
+            return nonRiuscita(causa(errore), errore);
         }
         return esamina(connessione);
     } catch (const ErroreDatabase& errore) {

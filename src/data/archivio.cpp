@@ -1,6 +1,7 @@
 #include "data/archivio.h"
 
 #include "base/impostazioni.h"
+#include "database/stringaconnessione.h"
 
 #include <QFileInfo>
 #include <QStringList>
@@ -24,35 +25,13 @@ void racconta(EventoDati evento, const QString& testo)
     chiamata(evento, testo);
 }
 
-/// The value of a keyword of a connection string, without its braces; empty when it is not named. By hand: it
-/// is asked at each opening, and making a pattern takes longer than a statement.
-QStringView voce(QStringView stringa, QStringView chiave)
-{
-    while (!stringa.isEmpty()) {
-        const qsizetype uguale = stringa.indexOf(u'=');
-        if (uguale < 0)
-            return {};
-        const QStringView prima = stringa.left(uguale);
-        const QStringView nome = prima.mid(prima.lastIndexOf(u';') + 1).trimmed();
-        QStringView valore = stringa.mid(uguale + 1).trimmed();
-        const bool traGraffe = valore.startsWith(u'{') && valore.contains(u'}');
-        const qsizetype fine = traGraffe ? valore.indexOf(u'}') : valore.indexOf(u';');
-        const QStringView resto = fine < 0 ? QStringView() : valore.mid(fine + 1);
-        if (nome.compare(chiave, Qt::CaseInsensitive) == 0)
-            return traGraffe ? valore.mid(1, fine - 1)
-                             : valore.left(fine < 0 ? valore.size() : fine).trimmed();
-        stringa = resto;
-    }
-    return {};
-}
-
 /// The file that a connection string of SQLite's driver names; empty for another driver, and for one in
 /// memory.
 QString fileSqlite(const QString& stringa)
 {
-    if (!voce(stringa, u"DRIVER").contains("sqlite"_L1, Qt::CaseInsensitive))
+    if (!voceConnessione(stringa, u"DRIVER").contains("sqlite"_L1, Qt::CaseInsensitive))
         return {};
-    const QString file = voce(stringa, u"Database").toString();
+    const QString file = voceConnessione(stringa, u"Database").toString();
     return file.startsWith(u':') ? QString() : file;
 }
 

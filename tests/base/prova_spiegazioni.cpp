@@ -29,6 +29,9 @@ TEST(Spiegazioni, OgniCodiceConosciutoHaLaSuaFrase)
         EXPECT_EQ(mariadb(codice), u"La connessione con l'archivio è caduta."_s);
     EXPECT_EQ(mariadb(1045), u"Il server ha rifiutato il nome o la parola d'ordine."_s);
     EXPECT_EQ(mariadb(1049), u"Sul server non c'è la base di dati indicata."_s);
+    EXPECT_EQ(mariadb(1044), u"Il server non apre a questo utente la base di dati indicata."_s);
+    EXPECT_EQ(mariadb(2026), u"La connessione cifrata con il server non è riuscita."_s);
+    EXPECT_EQ(mariadb(1146), u"Nell'archivio manca una tabella."_s);
     EXPECT_EQ(mariadb(1142),
               u"Questo utente non ha il permesso di farlo: chiedere a chi amministra l'archivio."_s);
     EXPECT_EQ(mariadb(1205), u"Un'altra postazione tiene occupata la registrazione: riprovare tra poco."_s);
@@ -36,6 +39,10 @@ TEST(Spiegazioni, OgniCodiceConosciutoHaLaSuaFrase)
     EXPECT_EQ(mariadb(1062), u"C'è già una registrazione con la stessa chiave."_s);
     EXPECT_EQ(mariadb(1, u"08S01"_s), u"La connessione con l'archivio è caduta."_s);
     EXPECT_EQ(mariadb(1, u"HYT00"_s), u"L'archivio non ha risposto in tempo."_s);
+    EXPECT_EQ(mariadb(0, u"08001"_s), u"L'archivio non si raggiunge."_s);
+    EXPECT_EQ(mariadb(0, u"42S02"_s), u"Nell'archivio manca una tabella."_s);
+    for (const QString& stato : {u"01000"_s, u"IM002"_s, u"IM003"_s})
+        EXPECT_EQ(mariadb(0, stato), u"Manca il driver ODBC dell'archivio."_s);
     EXPECT_EQ(mariadb(9999), u"L'archivio ha rifiutato l'operazione."_s);
 }
 
@@ -46,6 +53,7 @@ TEST(Spiegazioni, SqliteSiCapisceDalTesto)
     EXPECT_EQ(sqlite(u"database or disk is full"_s), u"Il disco dell'archivio è pieno."_s);
     EXPECT_EQ(sqlite(u"attempt to write a readonly database"_s),
               u"L'archivio è in sola lettura: chiedere a chi lo amministra."_s);
+    EXPECT_EQ(sqlite(u"[SQLite]no such table: porto (1)"_s), u"Nell'archivio manca una tabella."_s);
     EXPECT_EQ(sqlite(u"file is not a database"_s), u"Il file indicato non è un archivio."_s);
 }
 

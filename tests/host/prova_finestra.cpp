@@ -121,8 +121,8 @@ TEST_F(ProvaFinestra, un_archivio_che_non_risponde_e_detto_e_la_finestra_resta_i
     scegli(u"azGestione");
     EXPECT_TRUE(messaggioVisibile());
     EXPECT_EQ(messaggio(),
-              u"La schermata non è stata aperta. L'archivio non è raggiungibile: controllare il "
-              u"server, la rete e il nome dell'archivio.\n\nRisposta dell'archivio: Can't connect "
+              u"La schermata non è stata aperta. Il server dell'archivio non risponde. Controllare che il "
+              u"server sia acceso, il nome, la porta e la rete.\n\nRisposta dell'archivio: Can't connect "
               u"(08001, 2002)"_s);
     EXPECT_EQ(stato(), u"Gestione giacenze: schermata non aperta."_s);
 

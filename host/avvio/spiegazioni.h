@@ -6,8 +6,13 @@
 
 namespace deposito {
 
-/// What the operator reads when a screen could not be opened: the cause in plain words, then the database's
-/// own text and code for whoever is called to help.
+/// Why an archive does not open, and what the clerk, or who looks after the server, can do about it; Italian.
+QString causa(const giacenza::ErroreDatabase& errore);
+
+/// The driver's own words with its codes, for whoever is called to help.
+QString rispostaDellArchivio(const giacenza::ErroreDatabase& errore);
+
+/// What the operator reads when a screen could not be opened: the cause and the answer.
 QString spiega(const giacenza::ErroreDatabase& errore);
 
 /// The name by which the operator knows a database: the file of an embedded one, "name su server" otherwise;

@@ -1,4 +1,4 @@
-#include "spiegazioni.h"
+#include "host/avvio/spiegazioni.h"
 
 #include "support/stampa.h"
 
@@ -13,17 +13,23 @@ TEST(Spiegazioni, dicono_la_causa_e_riportano_la_risposta_del_database)
 {
     EXPECT_EQ(
         spiega(ErroreDatabase(u"08001"_s, 2002, u"Can't connect"_s)),
-        u"La schermata non è stata aperta. L'archivio non è raggiungibile: controllare il server, la rete e "
-        u"il nome dell'archivio.\n\nRisposta dell'archivio: Can't connect (08001, 2002)"_s);
+        u"La schermata non è stata aperta. Il server dell'archivio non risponde. Controllare che il server "
+        u"sia "
+        u"acceso, il nome, la porta e la rete.\n\nRisposta dell'archivio: Can't connect (08001, 2002)"_s);
     EXPECT_EQ(
         spiega(ErroreDatabase(u"28000"_s, 1045, u"Access denied"_s)),
-        u"La schermata non è stata aperta. L'archivio non accetta il nome utente o la parola d'ordine.\n\n"
+        u"La schermata non è stata aperta. Il server ha rifiutato il nome o la parola d'ordine. Controllare "
+        u"l'utente e la parola d'ordine, e che il server li accetti da questo computer.\n\n"
         u"Risposta dell'archivio: Access denied (28000, 1045)"_s);
     EXPECT_EQ(spiega(ErroreDatabase(u"IM002"_s, 0, u"Data source name not found"_s)),
-              u"La schermata non è stata aperta. Il driver ODBC indicato per l'archivio non è installato.\n\n"
+              u"La schermata non è stata aperta. Manca il driver ODBC dell'archivio. Installare odbc-mariadb "
+              u"per un "
+              u"server MariaDB, libsqliteodbc per un file.\n\n"
               u"Risposta dell'archivio: Data source name not found (IM002, 0)"_s);
     EXPECT_EQ(spiega(ErroreDatabase(u"42S02"_s, 1146, u"Table 'x.porto' doesn't exist"_s)),
-              u"La schermata non è stata aperta. L'archivio ha risposto con un errore.\n\n"
+              u"La schermata non è stata aperta. Nell'archivio manca una tabella. Le tabelle si creano con "
+              u"schema/mariadb.sql o "
+              u"schema/sqlite.sql.\n\n"
               u"Risposta dell'archivio: Table 'x.porto' doesn't exist (42S02, 1146)"_s);
 }
 
