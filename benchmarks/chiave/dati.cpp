@@ -56,13 +56,16 @@ public:
         Recordset riga;
         riga.apri(mSchermo, istruzioni::spedizionePerNumeroDataFiliale(caso.numero, caso.data, caso.filiale));
         if (!riga.eof())
-            CaricaDatiSpedizione(riga, mappaRegistrazione(), raccolta);
+            CaricaDatiSpedizione(riga, mPosti, raccolta);
         riga.chiudi();
         const double millisecondi = cronometro.millisecondi();
         if (raccolta.quanti() == 0)
             throw Errore(u"The waybill %1 was not found."_s.arg(caso.numero));
         return millisecondi;
     }
+
+private:
+    PostiSpedizione mPosti{mappaRegistrazione()};
 };
 
 class Salvataggio : public SullaConnessione

@@ -4,6 +4,7 @@
 #include "schema/dati/struttura.h"
 #include "schema/script.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <cstdio>
@@ -54,6 +55,7 @@ QString Basi::stringa(const QString& tipo, const QString& nome, const Riempiment
         return testo;
     std::fprintf(stderr, "Making the database %s (%s)...\n", qPrintable(base), qPrintable(tipo));
     if (sqlite) {
+        QDir().mkpath(mOpzioni.cartella);
         for (const QString& coda : {u""_s, u"-wal"_s, u"-shm"_s, u"-journal"_s})
             QFile::remove(file + coda);
     } else {

@@ -123,8 +123,11 @@ void quandoCambiaAvanzo(QWidget* controllo, std::function<void()> azione)
 
 void rinnovaAspetto(QWidget* controllo)
 {
-    controllo->style()->unpolish(controllo);
-    controllo->style()->polish(controllo);
+    const auto rinnova = [controllo] {
+        controllo->style()->unpolish(controllo);
+        controllo->style()->polish(controllo);
+    };
+    QMetaObject::invokeMethod(controllo, rinnova, Qt::QueuedConnection);
 }
 
 bool eAvanzo(const QWidget* controllo)

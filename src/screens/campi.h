@@ -31,7 +31,8 @@ void segnaDelCaso(QWidget* controllo);
 /// Calls azione, as long as the control lives, whenever it becomes a left-over or stops being one: testo()
 /// gives something else then, though what is shown may be the same.
 void quandoCambiaAvanzo(QWidget* controllo, std::function<void()> azione);
-/// Draws a control anew after one of its properties, on which its looks depend, has changed.
+/// Draws a control anew after one of its properties, on which its looks depend, has changed: with the next
+/// turn of the event loop, before it is painted, so that a press does not wait for the style sheet.
 void rinnovaAspetto(QWidget* controllo);
 bool eAvanzo(const QWidget* controllo);
 /// Whether a row gave the control what it shows.

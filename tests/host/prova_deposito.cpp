@@ -114,10 +114,11 @@ TEST(Deposito, con_un_archivio_che_non_c_e_nessuna_schermata_si_apre_e_la_finest
         finestra.findChild<QAction*>(azione)->trigger();
         const auto* messaggio = finestra.findChild<QLabel*>(u"lblMessaggio"_s);
         EXPECT_TRUE(messaggio->isVisible());
-        EXPECT_THAT(
-            messaggio->text().toStdString(),
-            testing::StartsWith("La schermata non è stata aperta. Il driver ODBC indicato per l'archivio "
-                                "non è installato.\n\nRisposta dell'archivio: "));
+        EXPECT_THAT(messaggio->text().toStdString(),
+                    testing::StartsWith(
+                        "La schermata non è stata aperta. Manca il driver ODBC dell'archivio. Installare "
+                        "odbc-mariadb per un server MariaDB, libsqliteodbc per un file.\n\n"
+                        "Risposta dell'archivio: "));
         for (const QWidget* altra : QApplication::topLevelWidgets())
             EXPECT_TRUE(altra == &finestra || !altra->isVisible()) << altra->objectName().toStdString();
         QTest::mouseClick(finestra.findChild<QPushButton*>(u"cmdChiudiMessaggio"_s), Qt::LeftButton);

@@ -230,6 +230,7 @@ void esaminaColori(Schermata& schermata)
     auto* avanzo = trova<QLineEdit>(&schermata, u"txtContrassegno"_s);
     avanzo->setProperty("avanzo", true);
     rinnovaAspetto(avanzo);
+    QCoreApplication::processEvents();
     const QColor grigio = avanzo->palette().color(QPalette::Text);
     EXPECT_NE(grigio, schermata.palette().color(QPalette::Text));
     EXPECT_GE(contrasto(grigio, schermata.palette().color(QPalette::Window)), leggibile) << "the left-over";

@@ -28,7 +28,8 @@ TEST_P(RicercaGuasti, UnGuastoSiDiceInItalianoELeParoleDelDriverStannoSullElenco
     const std::pair<QString, QString> guasti[] = {
         {u"08S01"_s, u"Il collegamento con il database non riesce o si è interrotto.\n\n"
                      "La connessione con l'archivio è caduta."_s},
-        {u"42S02"_s, u"La ricerca nel database non è riuscita.\n\nL'archivio ha rifiutato l'operazione."_s},
+        {u"42S02"_s, u"La ricerca nel database non è riuscita.\n\nNell'archivio manca una tabella."_s},
+        {u"42000"_s, u"La ricerca nel database non è riuscita.\n\nL'archivio ha rifiutato l'operazione."_s},
     };
     for (const auto& [sqlstate, testo] : guasti) {
         const Traccia prima =
