@@ -30,7 +30,7 @@ private:
 
     QString mFile;
     std::vector<QWidget*> mCampi;
-    QLabel* mEsito;
+    QLabel* mEsito = nullptr;
 };
 
 } // namespace deposito
