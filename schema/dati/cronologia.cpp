@@ -1,6 +1,7 @@
 #include "schema/dati/cronologia.h"
 
 #include <algorithm>
+#include <array>
 #include <numeric>
 #include <queue>
 
@@ -47,6 +48,31 @@ struct Attesa
     }
 };
 
+/// Open cases that a desk has to show on any day, though chance may not have brought them.
+enum class Recente
+{
+    ferma,
+    inScadenza,
+    inAttesa,
+    quanti
+};
+
+/// How many days a waybill of so many free ones has to lie there today; nothing when it cannot be such a
+/// case. quale: how many there are already, so that they differ.
+std::optional<int> giorniPer(Recente genere, std::optional<int> franchi, int quale)
+{
+    // Two days are left when a case runs out, and a week without news makes it stand still.
+    constexpr int scadenza = 2;
+    constexpr int settimana = 7;
+    if (genere == Recente::ferma)
+        return !franchi || *franchi - settimana > scadenza ? std::optional(settimana) : std::nullopt;
+    if (!franchi)
+        return std::nullopt;
+    if (genere == Recente::inScadenza)
+        return *franchi - quale % (scadenza + 1);
+    return *franchi - 1 > scadenza ? std::optional(1) : std::nullopt;
+}
+
 class Storia
 {
 public:
@@ -59,7 +85,7 @@ public:
         }
     }
 
-    Cronologia svolgi()
+    Cronologia svolgi(const Franchi& franchi)
     {
         mCronologia.spedizioni.reserve(static_cast<std::size_t>(mQuante));
         int numero = 0;
@@ -74,6 +100,8 @@ public:
                 giacenza(posto, i);
             mCronologia.spedizioni.push_back(posto);
         }
+        if (franchi)
+            recenti(franchi);
         numera();
         avvisa();
         return std::move(mCronologia);
@@ -127,6 +155,40 @@ private:
             sosta.buonFine = dopo;
     }
 
+    /// Some of the latest waybills that nothing happened to, the newest first.
+    void recenti(const Franchi& franchi)
+    {
+        constexpr int perGenere = 3;
+        constexpr int quantoIndietro = 30;
+        std::array<int, static_cast<std::size_t>(Recente::quanti)> fatte{};
+        const QDate oggi = mCronologia.oggi;
+        for (int i = mQuante - 1; i >= 0; --i) {
+            Posto& posto = mCronologia.spedizioni[static_cast<std::size_t>(i)];
+            if (posto.data < oggi.addDays(-quantoIndietro))
+                return;
+            if (posto.giacenza >= 0 || posto.riconsegnaDi >= 0)
+                continue;
+            for (std::size_t g = 0; g < fatte.size() && posto.giacenza < 0; ++g) {
+                const auto giorni = giorniPer(static_cast<Recente>(g), franchi(i), fatte[g]);
+                if (fatte[g] == perGenere || !giorni || oggi.addDays(-*giorni) <= posto.data)
+                    continue;
+                ++fatte[g];
+                trattieni(posto, i, oggi.addDays(-*giorni));
+            }
+        }
+    }
+
+    /// Held since a day, told of on that day.
+    void trattieni(Posto& posto, int i, QDate dal)
+    {
+        posto.giacenza = static_cast<int>(mCronologia.giacenze.size());
+        Sosta sosta;
+        sosta.spedizione = i;
+        sosta.data = dal;
+        sosta.avvisi = 1;
+        mCronologia.giacenze.push_back(sosta);
+    }
+
     /// Numbers go by the day of storage, as they were given out.
     void numera()
     {
@@ -162,9 +224,9 @@ private:
 
 } // namespace
 
-Cronologia cronologia(int spedizioni, QDate oggi)
+Cronologia cronologia(int spedizioni, QDate oggi, const Franchi& franchi)
 {
-    return Storia(spedizioni, oggi).svolgi();
+    return Storia(spedizioni, oggi).svolgi(franchi);
 }
 
 } // namespace giacenza::dimostrazione

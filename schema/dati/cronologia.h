@@ -4,6 +4,9 @@
 
 #include <QDate>
 
+#include <functional>
+#include <optional>
+
 namespace giacenza::dimostrazione {
 
 /// A waybill in time: when it was issued, under which number of its year, and what it has to do with held
@@ -36,8 +39,14 @@ struct Cronologia
     std::vector<Sosta> giacenze;
 };
 
+/// The free days of who sends a waybill, by its position; nothing for a customer without terms.
+using Franchi = std::function<std::optional<int>(int spedizione)>;
+
 /// What happened in the depot from the first of January three years before up to today: so many waybills, the
 /// more the nearer to today, some held, and of these some noticed, delivered again, returned and closed.
-Cronologia cronologia(int spedizioni, QDate oggi);
+/// franchi: with it, a few of the latest waybills are held besides, so that whatever day today is there are
+/// open cases whose free days run out, that stand still and that can wait; without it there are none of
+/// these.
+Cronologia cronologia(int spedizioni, QDate oggi, const Franchi& franchi = {});
 
 } // namespace giacenza::dimostrazione

@@ -60,7 +60,10 @@ void scriviMolte(Connessione& connessione, const Tabella& tabella, qsizetype qua
 Riepilogo scriviTutto(Connessione& connessione, const Richiesta& richiesta, const Avanzamento& avanzamento)
 {
     const std::vector<Cliente> elenco = clienti(richiesta.spedizioni);
-    const Cronologia storia = cronologia(richiesta.spedizioni, richiesta.oggi);
+    const Cronologia storia = cronologia(richiesta.spedizioni, richiesta.oggi, [&](int spedizione) {
+        const auto& condizioni = mittenteDi(elenco, spedizione).condizioni;
+        return condizioni ? std::optional(condizioni->franchi) : std::nullopt;
+    });
     const Righe righe(storia, elenco);
     scrivi(connessione, tabellaFiliali(), righeFiliali());
     scrivi(connessione, tabellaZone(), righeZone());

@@ -30,6 +30,13 @@ Valore importo(qint64 centesimi)
     return centesimi == 0 ? Valore() : Valore(testoDecimale(centesimi, 2));
 }
 
+/// Few customers send much, many send little. The first that is drawn for a waybill.
+const Cliente& mittente(const std::vector<Cliente>& clienti, Caso& caso)
+{
+    const qint64 u = caso.tra(0, 9999);
+    return in(clienti, static_cast<int>(static_cast<qint64>(clienti.size()) * u * u / 100'000'000));
+}
+
 /// The sender's own number for the shipment, in the ways in which companies write it; a few write none.
 Valore riferimento(Caso& caso)
 {
@@ -63,6 +70,12 @@ QString descrizione(const Sosta& sosta, Caso& caso)
 
 } // namespace
 
+const Cliente& mittenteDi(const std::vector<Cliente>& clienti, int posizione)
+{
+    Caso caso(Caso::spedizione, posizione);
+    return mittente(clienti, caso);
+}
+
 /// The values of a waybill that are not those of its place in time.
 struct Righe::Spedizione
 {
@@ -90,9 +103,7 @@ Righe::Spedizione Righe::nuova(int posizione) const
 {
     Caso caso(Caso::spedizione, posizione);
     Spedizione s;
-    // Few customers send much, many send little.
-    const qint64 u = caso.tra(0, 9999);
-    s.cliente = &in(mClienti, static_cast<int>(static_cast<qint64>(mClienti.size()) * u * u / 100'000'000));
+    s.cliente = &mittente(mClienti, caso);
     s.filiale = caso.percento(88) ? s.cliente->filiale : caso.tra(0, numeroFiliali - 1);
     s.comune = &caso.uno(comuni());
     s.destinatario = nomeDestinatario(caso);

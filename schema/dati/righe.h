@@ -4,6 +4,9 @@
 
 namespace giacenza::dimostrazione {
 
+/// The customer who sends a waybill, by its position in Cronologia::spedizioni.
+const Cliente& mittenteDi(const std::vector<Cliente>& clienti, int posizione);
+
 /// Turns what happened into the rows of the two tables of shipments. The same position always gives the same
 /// row. Keeps references: both must outlive it.
 class Righe
