@@ -47,12 +47,20 @@ nuovoArchivio()
     dice "Preparo i dati dimostrativi in $file…" ""
     svolgi "${PROGRAMMI:-$COSTRUITO/bin}/genera-dati" "$(stringaSqlite "$LAVORO/archivio.db")" --crea >&2 ||
         muori "I dati dimostrativi non sono stati creati." ""
+    preparaRegistro "$(stringaSqlite "$LAVORO/archivio.db")"
     # A write-ahead log belongs to the name of its database; one that outlived the generator holds rows.
     [[ ! -s $LAVORO/archivio.db-wal ]] || muori "I dati dimostrativi non sono stati scritti per intero." ""
     rm -f "$file-wal" "$file-shm"
     mv -f "$LAVORO/archivio.db" "$file"
     rm -rf "$LAVORO"
     LAVORO=""
+}
+
+# preparaRegistro STRING: the register in which the demonstration's archive keeps what happens to its cases, and notes.
+preparaRegistro()
+{
+    GIACENZA_DATABASE=$1 svolgi "${PROGRAMMI:-$COSTRUITO/bin}/deposito" --prepara-registro >&2 ||
+        muori "Il registro dei dati dimostrativi non è stato preparato." ""
 }
 
 # preparaImpostazioni FOLDER [DOCUMENTS]: the settings file and the goods-type list, where the operator has none
@@ -108,6 +116,7 @@ SQL
         muori "I dati dimostrativi non sono stati creati." ""
     sed "s/:base\\b/\`giacenza\`/g; s/:utente\\b/'giacenza'@'127.0.0.1'/g" "$CASA/schema/grants.sql" |
         comandaMariadb "$amministratore"
+    preparaRegistro "$amministratore;DATABASE=giacenza"
     CONNESSIONE="DRIVER={MariaDB Unicode};SERVER=127.0.0.1;PORT=$(<"$SERVER/porta")"
     CONNESSIONE+=";UID=giacenza;PWD=$parola;DATABASE=giacenza"
 }

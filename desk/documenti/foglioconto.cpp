@@ -30,25 +30,36 @@ void aggiungiTratti(Foglio& foglio, const Conto& conto)
 {
     foglio.tabella({{u"Dal"_s, 28},
                     {u"Al"_s, 28},
-                    {u"Giorni"_s, 18, Allineamento::destra},
-                    {u""_s, 36},
+                    {u"Giorni"_s, 16, Allineamento::destra},
+                    {u""_s, 4},
+                    {u"Che cos'è"_s, 34},
                     {u"Al giorno"_s, 28, Allineamento::destra},
                     {u"Sosta fin lì"_s, 32, Allineamento::destra}});
     for (const TrattoConto& tratto : tratti(conto.righe))
-        foglio.riga({dataBreve(tratto.da), dataBreve(tratto.a), QString::number(tratto.giorni),
-                     parole(tratto.genere), valuta(tratto.alGiorno), valuta(tratto.sosta)});
+        foglio.riga({dataBreve(tratto.da),
+                     dataBreve(tratto.a),
+                     QString::number(tratto.giorni),
+                     {},
+                     parole(tratto.genere),
+                     valuta(tratto.alGiorno),
+                     valuta(tratto.sosta)});
 }
 
 void aggiungiGiorni(Foglio& foglio, const Conto& conto)
 {
     foglio.tabella({{u"Giorno"_s, 34},
-                    {u"N."_s, 16, Allineamento::destra},
-                    {u""_s, 50},
+                    {u"N."_s, 12, Allineamento::destra},
+                    {u""_s, 4},
+                    {u"Che cos'è"_s, 50},
                     {u"Del giorno"_s, 34, Allineamento::destra},
                     {u"Sosta fin lì"_s, 36, Allineamento::destra}});
     for (const RigaConto& riga : conto.righe)
-        foglio.riga({dataBreve(riga.giorno), QString::number(riga.giorni), parole(riga.genere),
-                     valuta(riga.delGiorno), valuta(riga.sosta)});
+        foglio.riga({dataBreve(riga.giorno),
+                     QString::number(riga.giorni),
+                     {},
+                     parole(riga.genere),
+                     valuta(riga.delGiorno),
+                     valuta(riga.sosta)});
 }
 
 void aggiungiSomme(Foglio& foglio, const Conto& conto)

@@ -36,9 +36,9 @@ void elenco(Foglio& foglio, const Estratto& estratto)
 {
     foglio.capitolo(u"Giacenze del periodo"_s);
     foglio.tabella({{u"Giacenza"_s, 18},
-                    {u"Dal"_s, 17},
+                    {u"Dal"_s, 19},
                     {u"LDV e riferimento"_s, 27},
-                    {u"Destinatario"_s, 37},
+                    {u"Destinatario"_s, 35},
                     {u"Stato"_s, 25},
                     {u"Giorni"_s, 11, Allineamento::destra},
                     {u"Fisso"_s, 17, Allineamento::destra},

@@ -1,6 +1,7 @@
 #include "desk/finestra/aspettodesk.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QEvent>
 #include <QPalette>
 #include <QWidget>
 
@@ -20,6 +21,46 @@ QColor traChiaroEScuro(const QString& chiaro, const QString& perScuro)
 {
     return QColor(scuro() ? perScuro : chiaro);
 }
+
+QString aspettoDesk()
+{
+    return uR"(
+QLineEdit#txtCerca { font-size: 13pt; padding: 5px 8px; }
+QLineEdit#txtCerca:focus { border: 2px solid palette(highlight); }
+QLabel[titolo="true"] { font-size: 14pt; font-weight: bold; }
+QLabel[totale="true"] { font-weight: bold; }
+QLabel[insegna="true"] { font-weight: bold; padding: 2px 10px; border: 2px solid; }
+QTableView { gridline-color: palette(midlight); }
+)"_s;
+}
+
+/// Puts a window's style sheet on anew when the desktop's colours change: what a style sheet has polished
+/// keeps the colours of then.
+class Rivestitore : public QObject
+{
+public:
+    explicit Rivestitore(QWidget* finestra) : QObject(finestra), mFinestra(finestra)
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* oggetto, QEvent* evento) override
+    {
+        // A widget in a window is not told; and the windows are, one after the other, only after this.
+        if (oggetto == qApp && evento->type() == QEvent::ApplicationPaletteChange)
+            QMetaObject::invokeMethod(this, &Rivestitore::rivesti, Qt::QueuedConnection);
+        return QObject::eventFilter(oggetto, evento);
+    }
+
+private:
+    void rivesti()
+    {
+        mFinestra->setStyleSheet({});
+        mFinestra->setStyleSheet(aspettoDesk());
+    }
+
+    QWidget* mFinestra;
+};
 
 } // namespace
 
@@ -45,16 +86,10 @@ QColor coloreAllarme()
     return traChiaroEScuro(u"#a3261b"_s, u"#ff8a80"_s);
 }
 
-QString aspettoDesk()
+void vesti(QWidget* finestra)
 {
-    return uR"(
-QLineEdit#txtCerca { font-size: 13pt; padding: 5px 8px; }
-QLineEdit#txtCerca:focus { border: 2px solid palette(highlight); }
-QLabel[titolo="true"] { font-size: 14pt; font-weight: bold; }
-QLabel[totale="true"] { font-weight: bold; }
-QLabel[insegna="true"] { font-weight: bold; padding: 2px 10px; border: 2px solid; }
-QTableView { gridline-color: palette(midlight); }
-)"_s;
+    finestra->setStyleSheet(aspettoDesk());
+    new Rivestitore(finestra);
 }
 
 void tingi(QWidget* etichetta, const QColor& colore)

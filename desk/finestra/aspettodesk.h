@@ -15,8 +15,8 @@ QColor colore(Stato stato);
 /// What is wrong, and what is missing.
 QColor coloreAllarme();
 
-/// The desk's style sheet, for the palette as it now is.
-QString aspettoDesk();
+/// Gives a window the desk's style sheet, in the colours of the desktop whenever they change.
+void vesti(QWidget* finestra);
 
 /// Shows words in a label as a sign of a state: coloured, or plain when colore is invalid.
 void tingi(QWidget* etichetta, const QColor& colore);

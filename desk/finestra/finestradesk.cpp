@@ -61,7 +61,7 @@ FinestraDesk::~FinestraDesk() = default;
 
 void FinestraDesk::componi()
 {
-    setStyleSheet(aspettoDesk());
+    vesti(this);
     mEsito->setObjectName(u"lblEsito"_s);
     mEsito->setWordWrap(true);
     mEsito->setTextFormat(Qt::PlainText);

@@ -59,7 +59,7 @@ FinestraInvio::FinestraInvio(Lavoro lavoro, std::vector<Caso> casi, const Access
 {
     setObjectName(u"frmInvio"_s);
     setWindowTitle(lavoro == Lavoro::avviso ? u"Avvisi di giacenza"_s : u"Ristampa degli avvisi"_s);
-    setStyleSheet(aspettoDesk());
+    vesti(this);
     componi();
     anteprima();
     connect(mEmetti, &QPushButton::clicked, this, &FinestraInvio::avvia);

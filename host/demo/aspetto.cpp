@@ -45,3 +45,13 @@ void impostaAspetto(const QCommandLineParser& opzioni)
     if (opzioni.isSet(opzioneScuro))
         QApplication::setPalette(tavolozzaScura());
 }
+
+void fotografaNeiDueColori(Regista& regista, QWidget* finestra, const QString& nome)
+{
+    regista.fotografa(finestra, nome);
+    const QPalette chiara = QApplication::palette();
+    QApplication::setPalette(tavolozzaScura());
+    regista.rifotografa(finestra, nome + u"-scuro"_s);
+    QApplication::setPalette(chiara);
+    QCoreApplication::processEvents();
+}

@@ -1,4 +1,6 @@
 #include "aspetto.h"
+#include "banco.h"
+#include "finestra.h"
 #include "gestione.h"
 #include "registrazione.h"
 #include "riconsegna.h"
@@ -6,6 +8,8 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QSettings>
+#include <QTemporaryDir>
 
 #include <cstdio>
 
@@ -33,6 +37,7 @@ int racconta(const QString& cartella, const QString& database)
     raccontaRegistrazione(regista, componente, archivio, cartella);
     raccontaGestione(regista, componente, archivio, cartella);
     raccontaRiconsegna(regista, componente, archivio, cartella);
+    raccontaBanco(regista, archivio, {database, cartella});
     regista.passo(u"Fatto: le righe attese sono in archivio."_s);
     return 0;
 }
@@ -45,8 +50,13 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     diPrima = qInstallMessageHandler(senzaRumore);
+    deposito::presentati();
+    // Not those of whoever plays it: the windows remember sizes and columns.
+    const QTemporaryDir ricordi;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ricordi.path());
     QApplication applicazione(argc, argv);
-    QApplication::setApplicationDisplayName(u"Gestione Trasporti"_s);
+    QApplication::setWindowIcon(deposito::icona());
+    deposito::parlaItaliano(applicazione);
     QCommandLineParser opzioni;
     opzioni.addOptions({{u"cartella"_s, u"Dove restano immagini e documenti."_s, u"cartella"_s},
                         {u"database"_s, u"Stringa di connessione; altrimenti è in GIACENZA_DATABASE."_s,

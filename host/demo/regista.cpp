@@ -30,8 +30,14 @@ void Regista::passo(const QString& testo)
 
 void Regista::fotografa(QWidget* finestra, const QString& nome)
 {
+    ++mFoto;
+    rifotografa(finestra, nome);
+}
+
+void Regista::rifotografa(QWidget* finestra, const QString& nome)
+{
     QCoreApplication::processEvents();
-    const QString file = u"%1-%2.png"_s.arg(++mFoto, 2, 10, QChar(u'0')).arg(nome);
+    const QString file = u"%1-%2.png"_s.arg(mFoto, 2, 10, QChar(u'0')).arg(nome);
     verifica(finestra->grab().save(QDir(mCartella).filePath(file)),
              u"l'immagine %1 non è stata scritta"_s.arg(file));
 }

@@ -31,6 +31,8 @@ public:
     void passo(const QString& testo);
     /// Keeps a picture of a window: "03-nome.png".
     void fotografa(QWidget* finestra, const QString& nome);
+    /// Another one under the number of the last.
+    void rifotografa(QWidget* finestra, const QString& nome);
 
     /// The visible window of an object name, waited for; throws Imprevisto when it does not come.
     QWidget* finestra(const QString& nome);
