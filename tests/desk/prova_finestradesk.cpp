@@ -210,6 +210,23 @@ TEST_P(ProvaDesk, ognTastoDellaGuidaENeiMenu)
                                    u"Ctrl+P"_s, u"Ctrl+L"_s, u"Ctrl+F"_s, u"F5"_s, u"Esc"_s));
 }
 
+TEST_P(ProvaDesk, iColoriDelDesktopValgonoAncheQuandoCambiano)
+{
+    const QPalette prima = QApplication::palette();
+    const auto sfondo = [this](const char16_t* nome) {
+        return figlio<QWidget>(nome)->palette().color(QPalette::Base).name();
+    };
+    QPalette scura(QColor(53, 53, 53), QColor(42, 42, 46));
+    scura.setColor(QPalette::Base, QColor(30, 30, 33));
+    QApplication::setPalette(scura);
+    attendi([&] { return sfondo(u"txtFiltro") == u"#1e1e21"_s; });
+    EXPECT_EQ(sfondo(u"tabCasi"), u"#1e1e21"_s);
+    EXPECT_EQ(figlio<QLabel>(u"lblTotali")->palette().color(QPalette::WindowText).name(), u"#ffffff"_s);
+    QApplication::setPalette(prima);
+    attendi([&] { return sfondo(u"txtFiltro") == prima.color(QPalette::Base).name(); });
+    EXPECT_EQ(sfondo(u"tabCasi"), prima.color(QPalette::Base).name());
+}
+
 INSTANTIATE_TEST_SUITE_P(Basi, ProvaDesk, testing::Values("sqlite", "mariadb"),
                          nomeBase<testing::TestParamInfo<std::string>>);
 
