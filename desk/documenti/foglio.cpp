@@ -106,9 +106,16 @@ void Foglio::voci(const std::vector<std::pair<QString, QString>>& coppie)
         Sezione sezione{u"voci"_s, passo, {}};
         for (std::size_t j = i; j < std::min(i + 2, piene.size()); ++j) {
             const double x = sinistra + (j - i == 0 ? 0 : larghezza / 2 + 2);
+            constexpr double valore = larghezza / 2 - 2 - etichetta;
             metti(sezione, piene[j].first, {x, 0.2, etichetta - 1, passo - 0.2}, {8.5, false, grigioTesto});
-            metti(sezione, piene[j].second.simplified(),
-                  {x + etichetta, 0, larghezza / 2 - 2 - etichetta, passo}, corpo);
+            double y = 0;
+            // A long name goes on below: it is what the paper is about.
+            for (const report::RigaTesto& riga :
+                 mMisuratore.righe(piene[j].second.simplified(), corpo, valore - gioco)) {
+                metti(sezione, riga.testo, {x + etichetta, y, valore, passo}, corpo);
+                y += passo;
+            }
+            sezione.altezza = std::max(sezione.altezza, y);
         }
         aggiungi(sezione, i + 2 < piene.size());
     }

@@ -8,3 +8,4 @@ void fotografaProgramma(Album& album);
 void fotografaRegistrazione(Album& album);
 void fotografaGestione(Album& album);
 void fotografaRiconsegna(Album& album);
+void fotografaBanco(Album& album);

@@ -25,6 +25,7 @@ int fotografa(const QString& cartella)
     fotografaRegistrazione(album);
     fotografaGestione(album);
     fotografaRiconsegna(album);
+    fotografaBanco(album);
     return 0;
 }
 
