@@ -116,7 +116,8 @@ void FinestraInvio::anteprima()
                              cella(caso.ragioneSociale.isEmpty() ? caso.cliente : caso.ragioneSociale),
                              cella(gia(caso)), cella(che)});
     }
-    mTabella->setMisure({u"99999/2026"_s, u"Carpenteria Leggera di Ponente S.p.A."_s, u"12, l'ultimo il 00/00/0000"_s});
+    mTabella->setMisure(
+        {u"99999/2026"_s, u"Carpenteria Leggera di Ponente S.p.A."_s, u"12, l'ultimo il 00/00/0000"_s});
     mTabella->setCurrentIndex(mModello->index(0, 0));
     const qint64 fuori = std::count(mFuori.begin(), mFuori.end(), true);
     QString testo = u"%1 a %2."_s.arg(
