@@ -1,0 +1,87 @@
+// Workstations at work on three servers that are one database, behind a balancer, while one is killed and
+// comes back, and then one is frozen. Run by "./test cluster": it needs packages that no other test does.
+
+#include "grappolo/controllo.h"
+#include "support/bancadati.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using namespace giacenza::prove;
+
+namespace {
+
+constexpr int nodi = 3;
+
+class Grappolo
+{
+public:
+    Grappolo()
+    {
+        qputenv("GIACENZA_SERVER_PROPRIO", dir().toUtf8());
+        attrezzo(u"grappolo-privato"_s, {u"avvia"_s, dir(), QString::number(nodi)});
+    }
+    Grappolo(const Grappolo&) = delete;
+    Grappolo& operator=(const Grappolo&) = delete;
+    ~Grappolo()
+    {
+        try {
+            attrezzo(u"grappolo-privato"_s, {u"ferma"_s, dir()});
+        } catch (const std::exception& errore) {
+            ADD_FAILURE() << errore.what();
+        }
+        qunsetenv("GIACENZA_SERVER_PROPRIO");
+    }
+
+    void nodo(const QString& che, int quale) const
+    {
+        attrezzo(u"grappolo-privato"_s, {che, dir(), QString::number(quale)});
+    }
+    void aspetta() const { attrezzo(u"grappolo-privato"_s, {u"aspetta"_s, dir()}); }
+
+    /// The way of an administrator to a database on one node, past the balancer.
+    QString sulNodo(int quale, const QString& amministratore) const
+    {
+        QFile porta(dir() + u"/nodo%1/porta"_s.arg(quale));
+        if (!porta.open(QIODevice::ReadOnly))
+            throw std::runtime_error(porta.errorString().toStdString());
+        static const QRegularExpression dellaPorta(u"PORT=\\d+"_s);
+        return QString(amministratore)
+            .replace(dellaPorta, u"PORT="_s + QString::fromLatin1(porta.readAll().trimmed()));
+    }
+
+private:
+    QString dir() const { return mCartella.filePath(u"grappolo"_s); }
+
+    QTemporaryDir mCartella{QStringLiteral(GIACENZA_CARTELLA_PROVE "/XXXXXX")};
+};
+
+TEST(Grappolo, UnNodoMuoreETornaPoiUnoSiFerma)
+{
+    const Grappolo grappolo;
+    const BancaDati base("mariadb");
+    const int postazioni = postazioniProva();
+    const int secondi = secondiProva();
+    riempiTurno(base, postazioni);
+    Turno turno(base.stringa(), postazioni, secondi);
+    turno.lavora({
+        {secondi * 0.10, u"il nodo 1 muore"_s, [&] { grappolo.nodo(u"uccidi"_s, 1); }},
+        {secondi * 0.25, u"il nodo 1 torna"_s, [&] { grappolo.nodo(u"riavvia"_s, 1); }},
+        {secondi * 0.60, u"il nodo 3 si ferma"_s, [&] { grappolo.nodo(u"gela"_s, 3); }},
+        {secondi * 0.80, u"il nodo 3 riprende"_s, [&] { grappolo.nodo(u"sgela"_s, 3); }},
+    });
+    grappolo.aspetta();
+    const auto voci = turno.voci();
+    for (int nodo = 1; nodo <= nodi; ++nodo)
+        controllaArchivio(u"nodo %1"_s.arg(nodo),
+                          grappolo.sulNodo(nodo, base.accessoAmministratore().stringa), voci);
+    raccontaTurno(voci, postazioni, secondi);
+}
+
+} // namespace
