@@ -22,10 +22,11 @@ constexpr int nodi = 3;
 class Grappolo
 {
 public:
-    Grappolo()
+    /// attivi: "uno" or "tutti", the nodes to which the balancer sends.
+    explicit Grappolo(const QString& attivi)
     {
         qputenv("GIACENZA_SERVER_PROPRIO", dir().toUtf8());
-        attrezzo(u"grappolo-privato"_s, {u"avvia"_s, dir(), QString::number(nodi)});
+        attrezzo(u"grappolo-privato"_s, {u"avvia"_s, dir(), attivi});
     }
     Grappolo(const Grappolo&) = delete;
     Grappolo& operator=(const Grappolo&) = delete;
@@ -62,9 +63,9 @@ private:
     QTemporaryDir mCartella{QStringLiteral(GIACENZA_CARTELLA_PROVE "/XXXXXX")};
 };
 
-TEST(Grappolo, UnNodoMuoreETornaPoiUnoSiFerma)
+/// gelato: the node that is frozen.
+void lavora(const Grappolo& grappolo, int gelato)
 {
-    const Grappolo grappolo;
     const BancaDati base("mariadb");
     const int postazioni = postazioniProva();
     const int secondi = secondiProva();
@@ -73,8 +74,8 @@ TEST(Grappolo, UnNodoMuoreETornaPoiUnoSiFerma)
     turno.lavora({
         {secondi * 0.10, u"il nodo 1 muore"_s, [&] { grappolo.nodo(u"uccidi"_s, 1); }},
         {secondi * 0.25, u"il nodo 1 torna"_s, [&] { grappolo.nodo(u"riavvia"_s, 1); }},
-        {secondi * 0.60, u"il nodo 3 si ferma"_s, [&] { grappolo.nodo(u"gela"_s, 3); }},
-        {secondi * 0.80, u"il nodo 3 riprende"_s, [&] { grappolo.nodo(u"sgela"_s, 3); }},
+        {secondi * 0.60, u"il nodo %1 si ferma"_s.arg(gelato), [&] { grappolo.nodo(u"gela"_s, gelato); }},
+        {secondi * 0.80, u"il nodo %1 riprende"_s.arg(gelato), [&] { grappolo.nodo(u"sgela"_s, gelato); }},
     });
     grappolo.aspetta();
     const auto voci = turno.voci();
@@ -82,6 +83,20 @@ TEST(Grappolo, UnNodoMuoreETornaPoiUnoSiFerma)
         controllaArchivio(u"nodo %1"_s.arg(nodo),
                           grappolo.sulNodo(nodo, base.accessoAmministratore().stringa), voci);
     raccontaTurno(voci, postazioni, secondi);
+}
+
+/// As a depot sets it up: the node that everybody works on dies, comes back, and is frozen.
+TEST(Grappolo, UnNodoPerTutti)
+{
+    const Grappolo grappolo(u"uno"_s);
+    lavora(grappolo, 1);
+}
+
+/// Every node is written to at once: each save and each issue meets the others' in the certification.
+TEST(Grappolo, TuttiINodiInsieme)
+{
+    const Grappolo grappolo(u"tutti"_s);
+    lavora(grappolo, 3);
 }
 
 } // namespace

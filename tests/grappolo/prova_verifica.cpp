@@ -51,9 +51,6 @@ protected:
     Verifica()
     {
         riempiTurno(mBase, 1);
-        // The small depot's own cases are nobody's, and its re-delivery has none.
-        mBase.esegui(u"delete from giace00f"_s);
-        mBase.esegui(u"update letve00f set LERFGI=null, LEANGI=null"_s);
         // Without their keys, so that what the keys forbid can be planted.
         for (const QString& tabella : {u"giace00f"_s, u"letve00f"_s}) {
             mBase.esegui(u"create table copia as select * from "_s + tabella);
@@ -189,6 +186,16 @@ TEST_F(Verifica, UnRifiutoPerUnaGara)
     EXPECT_THAT(smentiteOra(),
                 ElementsAre(u"LDV 101003: registra rifiutata per una gara: Due postazioni si sono "
                             "ostacolate: riprovare."_s));
+}
+
+TEST_F(Verifica, UnaChiaveDettaPresaCheNonLoE)
+{
+    Voce presa = voce(Lavoro::registra, Esito::fallito);
+    presa.stato = u"C'è già una registrazione con la stessa chiave."_s;
+    mVoci << presa;
+    EXPECT_THAT(smentiteOra(), IsEmpty());
+    mVoci.last().ldv = ldvPropria(1, 3);
+    EXPECT_THAT(smentiteOra(), ElementsAre(u"LDV 101003: detta già in giacenza, ma non c'è"_s));
 }
 
 TEST(Detto, SiCapisceDaiMessaggiEDallaRigaDiStato)

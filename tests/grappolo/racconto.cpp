@@ -93,6 +93,7 @@ QMap<QString, Racconto> racconta(const QList<Voce>& voci)
             aggiungiForse(racconto, voce);
             break;
         case Esito::fallito:
+            racconto.detteEsistente += voce.stato.contains(u"con la stessa chiave"_s) ? 1 : 0;
             break;
         }
     }

@@ -50,6 +50,9 @@ void attrezzo(const QString& programma, const QStringList& argomenti)
 void riempiTurno(const BancaDati& base, int postazioni)
 {
     riempiDeposito(base);
+    // The small depot's own case is nobody's here.
+    base.esegui(u"delete from giace00f"_s);
+    base.esegui(u"update letve00f set LERFGI=null, LEANGI=null"_s);
     base.esegui(u"insert into tabfatturazione (FALCOD,FACODI,FACMPE,FADFGI,FAFRGI,FATGIG,FAMIGI) "
                 "values ('C',1001,'A',7.50,5,1.50,15.00)"_s);
     QStringList numeri;
