@@ -11,9 +11,16 @@ inline constexpr int ripetizioni = 5;
 /// certify it. It was rolled back, whatever the failing call was.
 bool perConcorrenza(const ErroreDatabase& errore);
 
-/// A random moment, up to 50 ms and longer from try to try, so that those who met do not meet again.
-/// tentativo: the try that failed, from 1.
-void pausaDopo(int tentativo);
+/// The code with which a server tells a lock that was waited for too long; a node of a group, with SQLSTATE
+/// 40001, also that it could not find out what the others have confirmed, since one was just leaving or
+/// coming back.
+inline constexpr int codiceAttesaVana = 1205;
+bool perAttesaVana(const ErroreDatabase& errore);
+
+/// A random moment, up to 10 ms and, from try to try, up to a quarter of a second: those who met do not meet
+/// again, and a whole depot that was let go at once gets through. For a group half a second at most: it takes
+/// that long to be one again. tentativo: the try that failed, from 1.
+void pausaDopo(int tentativo, const ErroreDatabase& errore);
 
 /// Does something and, when it fails as daRipetere says, does it again after a pause, up to `ripetizioni`
 /// times. Throws the last failure.
@@ -26,8 +33,8 @@ auto conTentativi(Azione azione, DaRipetere daRipetere)
         } catch (const ErroreDatabase& errore) {
             if (tentativo > ripetizioni || !daRipetere(errore))
                 throw;
+            pausaDopo(tentativo, errore);
         }
-        pausaDopo(tentativo);
     }
 }
 
