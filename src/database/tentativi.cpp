@@ -21,8 +21,8 @@ bool perAttesaVana(const ErroreDatabase& errore)
 void pausaDopo(int tentativo, const ErroreDatabase& errore)
 {
     if (perAttesaVana(errore)) {
-        constexpr int passoGruppo = 100;
-        QThread::msleep(static_cast<unsigned long>(passoGruppo * tentativo));
+        constexpr unsigned long pausaPerIlGruppo = 250;
+        QThread::msleep(pausaPerIlGruppo);
         return;
     }
     constexpr int passo = 10;
