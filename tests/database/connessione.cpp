@@ -1,5 +1,6 @@
 #include "database/connessione.h"
 
+#include "data/archivio.h"
 #include "database/basi.h"
 #include "database/transazione.h"
 #include "serversordo.h"
