@@ -69,9 +69,9 @@ bool prepara(SQLHDBC collegamento, bool mariadb)
 {
     SQLHSTMT istruzione = SQL_NULL_HSTMT;
     SQLAllocHandle(SQL_HANDLE_STMT, collegamento, &istruzione);
-    bool fatta =
-        esegui(istruzione, mariadb ? "select @@lower_case_table_names" : "pragma busy_timeout=15000") &&
-        SQL_SUCCEEDED(SQLFetch(istruzione)) && SQL_SUCCEEDED(SQLFreeStmt(istruzione, SQL_CLOSE));
+    bool fatta = esegui(istruzione, mariadb ? "select @@lower_case_table_names, @@wsrep_on"
+                                            : "pragma busy_timeout=15000") &&
+                 SQL_SUCCEEDED(SQLFetch(istruzione)) && SQL_SUCCEEDED(SQLFreeStmt(istruzione, SQL_CLOSE));
     if (mariadb)
         fatta = fatta && esegui(istruzione, "SET SESSION sql_mode=concat_ws(',',nullif(@@sql_mode,''),"
                                             "'NO_BACKSLASH_ESCAPES'), max_statement_time=30");

@@ -9,20 +9,6 @@ namespace giacenza {
 
 namespace {
 
-/// A node of a cluster may not have applied yet what another one has confirmed.
-void aspettaIlGruppo(Connessione& connessione)
-{
-    if (connessione.dialetto() != Dialetto::mariadb)
-        return;
-    try {
-        connessione.esegui(u"SET SESSION wsrep_sync_wait=1"_s);
-    } catch (const ErroreDatabase&) {
-        // A server built without clusters does not know the setting, and has nobody to wait for.
-        if (!connessione.aperta())
-            throw;
-    }
-}
-
 bool trovata(Connessione& connessione, const QString& istruzione)
 {
     Recordset riga;
@@ -37,7 +23,6 @@ bool salvataggioRegistrato(const Accesso& accesso, const ChiaveGiacenza& nuova, 
     try {
         Connessione connessione;
         connessione.apri(accesso);
-        aspettaIlGruppo(connessione);
         const auto come = connessione.dialetto() == Dialetto::mariadb ? istruzioni::Lettura::conBlocco
                                                                       : istruzioni::Lettura::semplice;
         return trovata(connessione, istruzioni::giacenzaRegistrata(nuova, ldv.numero, come)) &&

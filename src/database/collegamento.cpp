@@ -15,7 +15,7 @@ Collegamento::Collegamento(const Accesso& accesso, const Limiti& limiti)
     try {
         connetti(accesso.stringa);
         mDialetto = dialettoDi(mManiglia);
-        preparaSessione(mManiglia, mDialetto, mLimiti);
+        mNelGruppo = preparaSessione(mManiglia, mDialetto, mLimiti);
     } catch (...) {
         libera();
         throw;
@@ -91,6 +91,12 @@ void Collegamento::riconosciPerdita(const ErroreDatabase& errore) noexcept
                        (mDialetto == Dialetto::mariadb &&
                         (errore.codiceNativo() == serverSparito || errore.codiceNativo() == serverPerso));
     mPerduto = mPerduto || perso;
+}
+
+void Collegamento::riconosciAttesaVana(const ErroreDatabase& errore) const
+{
+    if (mNelGruppo && errore.codiceNativo() == codiceAttesaVana)
+        throw ErroreDatabase(u"40001"_s, codiceAttesaVana, errore.testo(), errore.istruzione());
 }
 
 void Collegamento::confermaAutomatica(bool accesa)

@@ -3,6 +3,7 @@
 #include "database/connessione.h"
 #include "database/lettura.h"
 #include "database/odbc.h"
+#include "database/tentativi.h"
 
 #include <vector>
 
@@ -60,6 +61,7 @@ public:
             return chiamata();
         } catch (const ErroreDatabase& errore) {
             riconosciPerdita(errore);
+            riconosciAttesaVana(errore);
             throw;
         }
     }
@@ -76,12 +78,16 @@ private:
     void terminaTransazione(SQLSMALLINT come);
     void completaLetture() noexcept;
     void riconosciPerdita(const ErroreDatabase& errore) noexcept;
+    /// Throws what a wait for the group that was broken off is: something that is tried again. The server
+    /// tells it as it tells a lock that was waited for too long.
+    void riconosciAttesaVana(const ErroreDatabase& errore) const;
     void libera() noexcept;
 
     SQLHDBC mManiglia = SQL_NULL_HDBC;
     Traccia mTraccia;
     Limiti mLimiti;
     Dialetto mDialetto = Dialetto::altro;
+    bool mNelGruppo = false;
     bool mPerduto = false;
     bool mInTransazione = false;
     std::vector<Istruzione*> mIstruzioni; // still alive; not owned

@@ -69,14 +69,20 @@ qint64 Connessione::esegui(const QString& istruzione)
 QStringList Connessione::tabelle()
 {
     constexpr int colonnaNome = 2; // TABLE_NAME, of what SQLTables gives
-    odbc::Istruzione catalogo(collegamento());
-    catalogo.elencaTabelle();
-    QStringList nomi;
-    for (odbc::Riga riga; catalogo.leggi(riga, colonnaNome + 1);) {
-        const auto& cella = riga.celle[colonnaNome];
-        nomi << QString::fromUtf8(riga.dati.constData() + cella.inizio, std::max(cella.lunghezza, 0));
-    }
-    return nomi;
+    return conTentativi(
+        [&] {
+            odbc::Istruzione catalogo(collegamento());
+            catalogo.elencaTabelle();
+            QStringList nomi;
+            for (odbc::Riga riga; catalogo.leggi(riga, colonnaNome + 1);) {
+                const auto& cella = riga.celle[colonnaNome];
+                nomi << QString::fromUtf8(riga.dati.constData() + cella.inizio, std::max(cella.lunghezza, 0));
+            }
+            return nomi;
+        },
+        [this](const ErroreDatabase& errore) {
+            return perAttesaVana(errore) && !collegamento()->inTransazione();
+        });
 }
 
 Dialetto Connessione::dialetto() const noexcept

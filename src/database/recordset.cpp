@@ -3,6 +3,7 @@
 #include "database/collegamento.h"
 #include "database/nomicolonne.h"
 #include "database/righe.h"
+#include "database/tentativi.h"
 
 #include <utility>
 
@@ -67,10 +68,16 @@ void Recordset::apri(Connessione& connessione, const QString& istruzione, Cursor
                      std::span<const Valore> parametri)
 {
     chiudi();
-    auto nuovo = std::make_unique<Interno>();
-    nuovo->collegamento = connessione.collegamento();
-    nuovo->apri(istruzione, cursore, parametri);
-    mInterno = std::move(nuovo);
+    mInterno = conTentativi(
+        [&] {
+            auto nuovo = std::make_unique<Interno>();
+            nuovo->collegamento = connessione.collegamento();
+            nuovo->apri(istruzione, cursore, parametri);
+            return nuovo;
+        },
+        [&](const ErroreDatabase& errore) {
+            return perAttesaVana(errore) && !connessione.collegamento()->inTransazione();
+        });
 }
 
 bool Recordset::aperto() const noexcept

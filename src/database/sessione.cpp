@@ -39,26 +39,45 @@ public:
                  SQL_HANDLE_STMT, mManiglia, testo);
     }
 
-    SQLINTEGER numero(const QString& testo)
+    /// The first columns of the first row.
+    template<int Quante>
+    std::array<SQLINTEGER, Quante> numeri(const QString& testo)
     {
         esegui(testo);
         verifica(SQLFetch(mManiglia), SQL_HANDLE_STMT, mManiglia, testo);
-        SQLINTEGER valore = 0;
-        SQLLEN lunghezza = 0;
-        verifica(SQLGetData(mManiglia, 1, SQL_C_SLONG, &valore, sizeof valore, &lunghezza), SQL_HANDLE_STMT,
-                 mManiglia, testo);
-        return valore;
+        std::array<SQLINTEGER, Quante> valori{};
+        for (std::size_t i = 0; i < valori.size(); ++i) {
+            SQLLEN lunghezza = 0;
+            verifica(SQLGetData(mManiglia, static_cast<SQLUSMALLINT>(i + 1), SQL_C_SLONG, &valori[i],
+                                sizeof valori[i], &lunghezza),
+                     SQL_HANDLE_STMT, mManiglia, testo);
+        }
+        return valori;
     }
 
 private:
     SQLHSTMT mManiglia = SQL_NULL_HSTMT;
 };
 
-void rifiutaNomiPerMaiuscole(SQLHDBC collegamento)
+/// How the server tells names apart, and whether it is one of a group.
+std::array<SQLINTEGER, 2> natura(SQLHDBC collegamento)
+{
+    constexpr int variabileIgnota = 1193;
+    try {
+        return Passaggio(collegamento).numeri<2>(u"select @@lower_case_table_names, @@wsrep_on"_s);
+    } catch (const ErroreDatabase& errore) {
+        if (errore.codiceNativo() != variabileIgnota)
+            throw;
+        // A server that was built without groups.
+        return {Passaggio(collegamento).numeri<1>(u"select @@lower_case_table_names"_s)[0], 0};
+    }
+}
+
+void rifiutaNomiPerMaiuscole(SQLINTEGER nomi)
 {
     // The statements write one table's name now in capitals, now not. Without this check the first of them
     // would fail with a table that "does not exist", in front of an operator who can see it.
-    if (Passaggio(collegamento).numero(u"select @@lower_case_table_names"_s) != 0)
+    if (nomi != 0)
         return;
     throw ErroreDatabase(u"HY000"_s, 0,
                          u"Il server MariaDB distingue maiuscole e minuscole nei nomi delle tabelle. "
@@ -103,20 +122,25 @@ Dialetto dialettoDi(SQLHDBC collegamento)
     return Dialetto::altro;
 }
 
-void preparaSessione(SQLHDBC collegamento, Dialetto dialetto, const Limiti& limiti)
+bool preparaSessione(SQLHDBC collegamento, Dialetto dialetto, const Limiti& limiti)
 {
     // Not told to the tracer: it belongs to the opening.
     // Reading its row matters: with StepAPI the driver runs nothing before the first row is asked for.
     if (dialetto == Dialetto::sqlite)
-        Passaggio(collegamento).numero(u"pragma busy_timeout=%1"_s.arg(limiti.attesaBlocco()));
+        Passaggio(collegamento).numeri<1>(u"pragma busy_timeout=%1"_s.arg(limiti.attesaBlocco()));
     if (dialetto != Dialetto::mariadb)
-        return;
-    rifiutaNomiPerMaiuscole(collegamento);
+        return false;
+    const auto [nomi, gruppo] = natura(collegamento);
+    rifiutaNomiPerMaiuscole(nomi);
     // The driver takes no statement time-out, the server does. Without NO_BACKSLASH_ESCAPES a pasted text
-    // that ends with a backslash would leave its place.
+    // that ends with a backslash would leave its place. In a group (3: reading, and changing or deleting
+    // rows) a node first takes in what the others have confirmed: a routine's connections may lead to two
+    // nodes, and the second would not find what was just written on the first.
     Passaggio(collegamento)
         .esegui(u"SET SESSION sql_mode=concat_ws(',',nullif(@@sql_mode,''),'NO_BACKSLASH_ESCAPES'), "
-                "max_statement_time=%1"_s.arg(limiti.comando));
+                "max_statement_time=%1%2"_s.arg(QString::number(limiti.comando),
+                                                gruppo != 0 ? u", wsrep_sync_wait=3"_s : QString()));
+    return gruppo != 0;
 }
 
 void limitaRighe(SQLHDBC collegamento, std::optional<int> righe)

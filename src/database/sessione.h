@@ -15,9 +15,10 @@ QString conLimiti(const QString& stringa, const Limiti& limiti);
 /// The database behind an open connection. Throws ErroreDatabase.
 Dialetto dialettoDi(SQLHDBC collegamento);
 
-/// Sets on an open connection what the strings cannot: time-outs, and how texts are read. Throws
-/// ErroreDatabase, also for a MariaDB server that tells table names apart by their capitals.
-void preparaSessione(SQLHDBC collegamento, Dialetto dialetto, const Limiti& limiti);
+/// Sets on an open connection what the strings cannot: time-outs, how texts are read, and that a node of a
+/// group waits for the others. Returns whether the server is such a node. Throws ErroreDatabase, also for a
+/// MariaDB server that tells table names apart by their capitals.
+bool preparaSessione(SQLHDBC collegamento, Dialetto dialetto, const Limiti& limiti);
 
 /// The most rows that a select of an open MariaDB session gives; nothing: the server's default. Throws
 /// ErroreDatabase.

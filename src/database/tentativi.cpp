@@ -13,10 +13,21 @@ bool perConcorrenza(const ErroreDatabase& errore)
     return errore.sqlstate() == u"40001"_s || errore.codiceNativo() == stalloMariadb;
 }
 
-void pausaDopo(int tentativo)
+bool perAttesaVana(const ErroreDatabase& errore)
 {
+    return errore.codiceNativo() == codiceAttesaVana && errore.sqlstate() == u"40001"_s;
+}
+
+void pausaDopo(int tentativo, const ErroreDatabase& errore)
+{
+    if (perAttesaVana(errore)) {
+        constexpr unsigned long pausaPerIlGruppo = 250;
+        QThread::msleep(pausaPerIlGruppo);
+        return;
+    }
     constexpr int passo = 10;
-    QThread::msleep(QRandomGenerator::global()->bounded(1U, static_cast<quint32>(passo * tentativo) + 1));
+    const auto massimo = static_cast<quint32>(passo * tentativo * tentativo);
+    QThread::msleep(QRandomGenerator::global()->bounded(1U, massimo + 1));
 }
 
 } // namespace giacenza

@@ -133,7 +133,7 @@ void Base::preparaSessione()
 {
     if (mariadb()) {
         const Maniglia domanda(mManiglia);
-        domanda.esegui("select @@lower_case_table_names");
+        domanda.esegui("select @@lower_case_table_names, @@wsrep_on");
         SQLFetch(domanda);
         domanda.valore(1);
         const Maniglia modo(mManiglia);
