@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -55,6 +56,7 @@ PaginaElenco::PaginaElenco(QWidget* padre)
     componi();
     connect(mModello, &QAbstractItemModel::modelReset, this, &PaginaElenco::mostraTotali);
     connect(mFiltro, &QLineEdit::textChanged, mModello, &ModelloCasi::setFiltro);
+    connect(mFiltro, &QLineEdit::textChanged, this, &PaginaElenco::mostraSeFiltra);
     connect(mFiltro, &QLineEdit::returnPressed, mTabella, [this] {
         mTabella->setFocus();
         if (mModello->rowCount() > 0 && !mTabella->currentIndex().isValid())
@@ -109,9 +111,17 @@ QString PaginaElenco::filiale() const
     return mFiliale->currentData().toString();
 }
 
-void PaginaElenco::setFiliali(const std::vector<Filiale>& filiali)
+void PaginaElenco::scegliFiliale(const QString& codice)
 {
     const QSignalBlocker zitto(mFiliale);
+    if (mFiliale->findData(codice) < 0)
+        mFiliale->addItem(codice, codice);
+    mFiliale->setCurrentIndex(mFiliale->findData(codice));
+}
+
+void PaginaElenco::setFiliali(const std::vector<Filiale>& filiali)
+{
+    QSignalBlocker zitto(mFiliale);
     const QString scelta = filiale();
     while (mFiliale->count() > 1)
         mFiliale->removeItem(1);
@@ -120,7 +130,11 @@ void PaginaElenco::setFiliali(const std::vector<Filiale>& filiali)
               [](const Filiale& una, const Filiale& altra) { return una.codice < altra.codice; });
     for (const Filiale& f : ordinate)
         mFiliale->addItem(f.nome.isEmpty() ? f.codice : u"%1 · %2"_s.arg(f.codice, f.nome), f.codice);
-    mFiliale->setCurrentIndex(std::max(0, mFiliale->findData(scelta)));
+    const int posto = mFiliale->findData(scelta);
+    mFiliale->setCurrentIndex(std::max(0, posto));
+    zitto.unblock();
+    if (posto < 0)
+        Q_EMIT filialeScelta();
 }
 
 void PaginaElenco::letta()
@@ -147,6 +161,14 @@ void PaginaElenco::filtra()
 {
     mFiltro->setFocus(Qt::ShortcutFocusReason);
     mFiltro->selectAll();
+}
+
+/// A filter that hides cases must be seen, also by who did not write it today.
+void PaginaElenco::mostraSeFiltra()
+{
+    mFiltro->setProperty("filtra", !mFiltro->text().isEmpty());
+    mFiltro->style()->unpolish(mFiltro);
+    mFiltro->style()->polish(mFiltro);
 }
 
 void PaginaElenco::mostraTotali()

@@ -1,6 +1,7 @@
 #include "desk/schede/finestracaso.h"
 
 #include "desk/schede/parti.h"
+#include "widgets/misuraricordata.h"
 
 #include <QVBoxLayout>
 
@@ -20,6 +21,7 @@ FinestraCaso::FinestraCaso(const Accesso& accesso, const ChiaveGiacenza& caso, c
     tutto->addWidget(chiudi, 0, Qt::AlignRight);
     connect(chiudi, &QPushButton::clicked, this, &QDialog::reject);
     resize(780, 640);
+    ricordaMisura(*this, u"diario"_s);
     mScheda->mostra(caso);
 }
 

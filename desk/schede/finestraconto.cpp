@@ -7,6 +7,7 @@
 #include "desk/schede/modelloconto.h"
 #include "desk/schede/parti.h"
 #include "widgets/campodata.h"
+#include "widgets/misuraricordata.h"
 
 #include <QDir>
 #include <QGroupBox>
@@ -66,6 +67,7 @@ void FinestraConto::componi()
     tutto->addWidget(mStato);
     tutto->addLayout(rigaComandi());
     resize(680, 620);
+    ricordaMisura(*this, u"conto"_s);
 
     connect(ricalcola, &QPushButton::clicked, this, &FinestraConto::calcola);
 }

@@ -12,6 +12,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 
 using namespace giacenza;
 using namespace giacenza::prove;
@@ -19,6 +20,22 @@ using giacenza::schede::FinestraEstratti;
 using testing::ElementsAre;
 
 namespace {
+
+/// As long as it lives nobody else reads the cases.
+class Blocco
+{
+public:
+    explicit Blocco(const BancaDati& base) : mConnessione(base.connessione())
+    {
+        const bool mariadb = mConnessione.dialetto() == Dialetto::mariadb;
+        mConnessione.esegui(mariadb ? u"lock tables giace00f write"_s : u"begin exclusive"_s);
+    }
+    /// Lets them in before its end.
+    void apri() { mConnessione.chiudi(); }
+
+private:
+    Connessione mConnessione;
+};
 
 class SchedaEstratti : public DepositoDesk
 {
@@ -71,15 +88,67 @@ TEST_P(SchedaEstratti, UnoSoloAncheSenzaGiacenzeAperte)
 TEST_P(SchedaEstratti, SiFermaDopoQuelloInCorso)
 {
     const auto finestra = apri();
+    Blocco chiuso(mBase);
     auto* esegui = trova<QPushButton>(*finestra, u"cmdEsegui"_s);
     esegui->click();
     QTest::keyClick(finestra.get(), Qt::Key_Escape);
     EXPECT_TRUE(finestra->isVisible());
+    EXPECT_EQ(stato(*finestra), u"Mi fermo dopo l'estratto in corso…"_s);
+    chiuso.apri();
     ASSERT_TRUE(QTest::qWaitFor([&] { return esegui->isEnabled(); }, 60'000));
-    EXPECT_EQ(stato(*finestra),
-              u"Estratti salvati: 0 di 2. Fermato: i clienti che seguono non sono stati guardati."_s);
+    EXPECT_THAT(stato(*finestra).toStdString(),
+                testing::MatchesRegex("Estratti salvati: [01] di 2. Fermato: i clienti che seguono non sono "
+                                      "stati guardati."));
+    EXPECT_LE(salvati().size(), 1);
     QTest::keyClick(finestra.get(), Qt::Key_Escape);
     EXPECT_FALSE(finestra->isVisible());
+}
+
+TEST_P(SchedaEstratti, MentreLArchivioFaAttendereLaFinestraVive)
+{
+    const auto finestra = apri();
+    Blocco chiuso(mBase);
+    auto* esegui = trova<QPushButton>(*finestra, u"cmdEsegui"_s);
+    esegui->click();
+    int battiti = 0;
+    QTimer battito;
+    QObject::connect(&battito, &QTimer::timeout, [&] { ++battiti; });
+    battito.start(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return battiti >= 50; }, 10'000));
+    EXPECT_FALSE(esegui->isEnabled()) << "it is still at work";
+    auto* cartella = trova<QLineEdit>(*finestra, u"txtCartella"_s);
+    QTest::keyClick(cartella, Qt::Key_End);
+    QTest::keyClicks(cartella, u"-altra"_s);
+    EXPECT_TRUE(cartella->text().endsWith(u"-altra"_s));
+    chiuso.apri();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return esegui->isEnabled(); }, 60'000));
+    EXPECT_EQ(stato(*finestra), u"Estratti salvati: 2 di 2."_s);
+    EXPECT_EQ(salvati().size(), 2) << "where they were asked for when it began";
+}
+
+TEST_P(SchedaEstratti, ChiudendoUnaSecondaVoltaNonRestaNienteAMeta)
+{
+    auto finestra = apri();
+    auto chiuso = std::make_unique<Blocco>(mBase);
+    trova<QPushButton>(*finestra, u"cmdEsegui"_s)->click();
+    QTest::keyClick(finestra.get(), Qt::Key_Escape);
+    QTest::keyClick(finestra.get(), Qt::Key_Escape);
+    EXPECT_FALSE(finestra->isVisible());
+    chiuso.reset();
+    finestra.reset();
+    EXPECT_LE(salvati().size(), 1);
+    for (const QString& nome : salvati())
+        EXPECT_TRUE(testoPdf(mCartella.filePath(nome)).contains(u"Estratto giacenze"_s));
+}
+
+TEST_P(SchedaEstratti, UnArchivioSparitoSiDice)
+{
+    const auto finestra = apri();
+    mBase.esegui(u"alter table letve00f rename to altrove"_s);
+    esegui(*finestra);
+    EXPECT_EQ(stato(*finestra), u"Estratti salvati: 0 di 2. Non fatti: 2."_s);
+    const QStringList esiti = trova<QPlainTextEdit>(*finestra, u"txtEsiti"_s)->toPlainText().split(u'\n');
+    EXPECT_TRUE(esiti.first().startsWith(u"1001 Ferramenta Lombarda S.r.l.: NON FATTO. "_s));
 }
 
 TEST_P(SchedaEstratti, QuelloCheMancaSiDice)
