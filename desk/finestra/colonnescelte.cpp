@@ -152,9 +152,15 @@ void ColonneScelte::riempi(QMenu* menu)
         QAction* voce = menu->addAction(titolo(colonna));
         voce->setCheckable(true);
         voce->setStatusTip(u"Mostra o nasconde la colonna %1"_s.arg(titolo(colonna)));
-        connect(voce, &QAction::triggered, this, [=, this](bool vista) { mostra(colonna, vista); });
-        connect(menu, &QMenu::aboutToShow, voce,
-                [=, this] { voce->setChecked(!mTabella->horizontalHeader()->isSectionHidden(colonna)); });
+        const auto segna = [=, this] {
+            voce->setChecked(!mTabella->horizontalHeader()->isSectionHidden(colonna));
+        };
+        segna();
+        connect(voce, &QAction::triggered, this, [=, this] {
+            mostra(colonna, mTabella->horizontalHeader()->isSectionHidden(colonna));
+            segna();
+        });
+        connect(menu, &QMenu::aboutToShow, voce, segna);
     }
     menu->addSeparator();
     QAction* solite = menu->addAction(u"&Ripristina colonne"_s);
