@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -49,14 +50,15 @@ QString testoTotali(const Totali& totali, std::size_t tutte)
 
 PaginaElenco::PaginaElenco(QWidget* padre)
     : QWidget(padre), mModello(new ModelloCasi(this)), mFiltro(new QLineEdit(this)),
-      mFiliale(new ElencoFermo(this)), mTabella(new TabellaCasi(mModello, this)), mTotali(new QLabel(this)),
-      mLettura(new QLabel(this))
+      mTogliFiltro(new QToolButton(this)), mFiliale(new ElencoFermo(this)),
+      mTabella(new TabellaCasi(mModello, this)), mTotali(new QLabel(this)), mLettura(new QLabel(this))
 {
     setObjectName(u"pagElenco"_s);
     componi();
     connect(mModello, &QAbstractItemModel::modelReset, this, &PaginaElenco::mostraTotali);
     connect(mFiltro, &QLineEdit::textChanged, mModello, &ModelloCasi::setFiltro);
     connect(mFiltro, &QLineEdit::textChanged, this, &PaginaElenco::mostraSeFiltra);
+    connect(mTogliFiltro, &QToolButton::clicked, mFiltro, &QLineEdit::clear);
     connect(mFiltro, &QLineEdit::returnPressed, mTabella, [this] {
         mTabella->setFocus();
         if (mModello->rowCount() > 0 && !mTabella->currentIndex().isValid())
@@ -75,6 +77,10 @@ void PaginaElenco::componi()
     mFiltro->setMaxLength(lunghezzaFiltro);
     mFiltro->setClearButtonEnabled(true);
     mFiltro->setPlaceholderText(u"numero, LDV, nomi, riferimento"_s);
+    mTogliFiltro->setObjectName(u"cmdTogliFiltro"_s);
+    mTogliFiltro->setText(u"Togli filtro"_s);
+    mTogliFiltro->setToolTip(u"Mostra di nuovo tutti i casi (Esc nel filtro)"_s);
+    mTogliFiltro->hide();
     mFiliale->setObjectName(u"cmbFiliale"_s);
     mFiliale->addItem(u"Tutte le filiali"_s, QString());
     mFiliale->setSizeAdjustPolicy(QComboBox::AdjustToContents);
@@ -94,6 +100,7 @@ void PaginaElenco::componi()
     };
     etichetta(u"Fil&tra"_s, mFiltro);
     sopra->addWidget(mFiltro, 1);
+    sopra->addWidget(mTogliFiltro);
     etichetta(u"Fi&liale"_s, mFiliale);
     sopra->addWidget(mFiliale);
     auto* sotto = new QHBoxLayout;
@@ -167,6 +174,7 @@ void PaginaElenco::filtra()
 void PaginaElenco::mostraSeFiltra()
 {
     mFiltro->setProperty("filtra", !mFiltro->text().isEmpty());
+    mTogliFiltro->setVisible(!mFiltro->text().isEmpty());
     mFiltro->style()->unpolish(mFiltro);
     mFiltro->style()->polish(mFiltro);
 }

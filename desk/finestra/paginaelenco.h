@@ -7,6 +7,7 @@
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QToolButton;
 
 namespace giacenza::desk {
 
@@ -55,6 +56,7 @@ private:
     // In the order of the keyboard.
     ModelloCasi* mModello;
     QLineEdit* mFiltro;
+    QToolButton* mTogliFiltro; ///< there while it filters
     QComboBox* mFiliale;
     TabellaCasi* mTabella;
     QLabel* mTotali;

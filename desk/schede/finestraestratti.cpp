@@ -87,7 +87,7 @@ void FinestraEstratti::componi()
     fondo->addStretch();
     fondo->addWidget(chiudi);
     tutto->addLayout(fondo);
-    resize(640, 460);
+    resize(inCaratteri(*this, 104, 31));
     ricordaMisura(*this, u"estratti"_s);
     connect(mEsegui, &QPushButton::clicked, this, &FinestraEstratti::comincia);
     connect(mFerma, &QPushButton::clicked, this, &FinestraEstratti::ferma);
@@ -107,6 +107,8 @@ QLayout* FinestraEstratti::rigaPeriodo()
         auto* giorno = new CampoData(this);
         giorno->setObjectName(nome);
         giorno->setAccessibleName(letto);
+        constexpr int cifreEBordo = 14;
+        giorno->setMinimumWidth(giorno->fontMetrics().averageCharWidth() * cifreEBordo);
         auto* etichetta = new QLabel(testo, this);
         etichetta->setBuddy(giorno);
         riga->addWidget(etichetta);

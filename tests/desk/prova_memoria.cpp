@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QSettings>
+#include <QToolButton>
 
 using namespace giacenza;
 using namespace giacenza::prove;
@@ -137,7 +138,7 @@ TEST_P(ProvaMemoria, unFiltroDellaVoltaPrimaSiVede)
     riapri();
     auto* filtro = figlio<QLineEdit>(u"txtFiltro");
     EXPECT_EQ(filtro->text(), u"rotonda"_s);
-    EXPECT_TRUE(filtro->isClearButtonEnabled());
+    EXPECT_TRUE(figlio<QToolButton>(u"cmdTogliFiltro")->isVisible());
     EXPECT_TRUE(filtro->property("filtra").toBool());
     EXPECT_TRUE(totali().startsWith(u"1 di 5 casi"_s)) << totali().toStdString();
     EXPECT_EQ(detto(), u"L'elenco mostra 1 di 5 casi: vale ancora il filtro \"rotonda\" dell'ultima volta. "
@@ -146,6 +147,10 @@ TEST_P(ProvaMemoria, unFiltroDellaVoltaPrimaSiVede)
     premi(Qt::Key_Escape);
     EXPECT_TRUE(totali().startsWith(u"5 casi"_s)) << totali().toStdString();
     EXPECT_FALSE(filtro->property("filtra").toBool());
+    EXPECT_FALSE(figlio<QToolButton>(u"cmdTogliFiltro")->isVisible());
+    filtro->setText(u"rossi"_s);
+    figlio<QToolButton>(u"cmdTogliFiltro")->click();
+    EXPECT_TRUE(totali().startsWith(u"5 casi"_s)) << totali().toStdString();
     EXPECT_EQ(detto(), QString());
     riapri();
     EXPECT_EQ(figlio<QLineEdit>(u"txtFiltro")->text(), QString());
