@@ -37,6 +37,7 @@ FinestraEstratti::FinestraEstratti(const Accesso& accesso, const QString& client
     setObjectName(u"finestraEstratti"_s);
     setWindowTitle(u"Estratti delle giacenze"_s);
     componi();
+    collegaLavoro();
     mDa->imposta(dataBreve(da));
     mA->imposta(dataBreve(a));
     mCartella->setText(QDir::toNativeSeparators(carta.cartella));
@@ -92,6 +93,10 @@ void FinestraEstratti::componi()
     connect(mEsegui, &QPushButton::clicked, this, &FinestraEstratti::comincia);
     connect(mFerma, &QPushButton::clicked, this, &FinestraEstratti::ferma);
     connect(chiudi, &QPushButton::clicked, this, &FinestraEstratti::reject);
+}
+
+void FinestraEstratti::collegaLavoro()
+{
     connect(mLavoro, &LavoroEstratti::cominciato, this, [this](const documenti::ClienteAperto& cliente) {
         if (!mFermata)
             dici(u"Estratto di %1…"_s.arg(nome(cliente)));

@@ -41,6 +41,7 @@ public:
 
 private:
     void componi();
+    void collegaLavoro();
     QLayout* rigaPeriodo();
     QLayout* rigaCartella();
     void leggiClienti(const QString& cliente);

@@ -4,16 +4,13 @@
 #include "support/stampa.h"
 
 #include <QAction>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QSettings>
 #include <QStatusBar>
-#include <QTableView>
 #include <QTest>
 #include <QWindow>
 
@@ -277,42 +274,6 @@ TEST_F(ProvaFinestra, sta_in_uno_schermo_piccolo_anche_con_un_messaggio)
     mFinestra->adjustSize();
     EXPECT_LE(mFinestra->width(), 1366);
     EXPECT_LE(mFinestra->height(), 700);
-}
-
-TEST_F(ProvaFinestra, riaperta_e_come_fu_lasciata)
-{
-    const auto riapri = [this] {
-        mFinestra->close();
-        mFinestra = std::make_unique<Finestra>(deposito::Opzioni{archivio, u"/dati/g.ini"_s, {}});
-        mFinestra->show();
-    };
-    QSettings().clear();
-    auto* testata = figlio<QTableView>(u"tabCasi").horizontalHeader();
-    mFinestra->resize(1100, 650);
-    testata->moveSection(0, 3);
-    testata->resizeSection(1, 222);
-    testata->hideSection(2);
-    figlio<QTableView>(u"tabCasi").sortByColumn(6, Qt::DescendingOrder);
-    QTest::keyClick(mFinestra.get(), Qt::Key_F, Qt::ControlModifier);
-    QTest::keyClicks(&figlio<QLineEdit>(u"txtFiltro"), u"rossi"_s);
-    riapri();
-    testata = figlio<QTableView>(u"tabCasi").horizontalHeader();
-    EXPECT_EQ(mFinestra->size(), QSize(1100, 650));
-    EXPECT_EQ(testata->visualIndex(0), 3);
-    EXPECT_NEAR(testata->sectionSize(1), 222, 1);
-    EXPECT_TRUE(testata->isSectionHidden(2));
-    EXPECT_EQ(testata->sortIndicatorSection(), 6);
-    EXPECT_EQ(figlio<QLineEdit>(u"txtFiltro").text(), u"rossi"_s);
-    figlio<QAction>(u"azRipristinaColonne").trigger();
-    EXPECT_EQ(testata->visualIndex(0), 0);
-    EXPECT_FALSE(testata->isSectionHidden(2));
-    riapri();
-    EXPECT_EQ(figlio<QTableView>(u"tabCasi").horizontalHeader()->visualIndex(0), 0);
-    QSettings().setValue(u"finestra/geometria"_s, u"storta"_s);
-    QSettings().setValue(u"desk/colonne"_s, QByteArray("\0\xff", 2));
-    mFinestra = std::make_unique<Finestra>(deposito::Opzioni{archivio, {}, {}});
-    EXPECT_FALSE(figlio<QTableView>(u"tabCasi").horizontalHeader()->isSectionHidden(2));
-    QSettings().clear();
 }
 
 TEST(FinestraSenzaArchivio, lo_dice_subito)
