@@ -10,6 +10,8 @@
 #include <QTableView>
 #include <QTest>
 
+#include <gtest/gtest.h>
+
 using namespace Qt::StringLiterals;
 using deposito::Finestra;
 
