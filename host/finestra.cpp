@@ -102,6 +102,7 @@ void Finestra::apparecchia(const Opzioni& opzioni)
             apri(schermata, apertura);
         },
         this);
+    mDesk->riprendi(QSettings());
     mUi->verticale->addWidget(mDesk, 1);
     aggiungiSchede(*mDesk, opzioni, [this](const QString& testo) { mostraMessaggio(testo); });
     mDesk->azioni().riempiElenco(mUi->menuElenco);
@@ -240,7 +241,9 @@ void Finestra::closeEvent(QCloseEvent* evento)
         return;
     }
     evento->accept();
-    QSettings().setValue(voceGeometria, saveGeometry());
+    QSettings impostazioni;
+    impostazioni.setValue(voceGeometria, saveGeometry());
+    mDesk->ricorda(impostazioni);
     // The screens do not keep the program alive, nor do they end it: the host's window does.
     QCoreApplication::quit();
 }

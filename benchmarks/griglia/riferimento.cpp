@@ -91,6 +91,15 @@ SQLHDBC collega(SQLHENV ambiente, std::string stringa)
     return prepara(collegamento, mariadb) ? collegamento : SQL_NULL_HDBC;
 }
 
+bool unaVolta(SQLHDBC collegamento, const char* testo, long attese)
+{
+    SQLHSTMT istruzione = SQL_NULL_HSTMT;
+    SQLAllocHandle(SQL_HANDLE_STMT, collegamento, &istruzione);
+    const bool fatta = esegui(istruzione, testo) && leggi(istruzione, attese) == attese;
+    SQLFreeHandle(SQL_HANDLE_STMT, istruzione);
+    return fatta;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -105,6 +114,10 @@ int main(int argc, char* argv[])
     SQLAllocHandle(SQL_HANDLE_ENV, SQL_NULL_HANDLE, &ambiente);
     SQLSetEnvAttr(ambiente, SQL_ATTR_ODBC_VERSION, reinterpret_cast<SQLPOINTER>(SQL_OV_ODBC3), 0);
     const SQLHDBC schermata = collega(ambiente, connessione);
+
+    // There a statement is none of the first: nothing has to be loaded for it any more.
+    if (aperta && (!schermata || !unaVolta(schermata, argv[1], attese)))
+        return EXIT_FAILURE;
 
     const banco::Cronometro cronometro;
     const SQLHDBC ricerca = aperta ? schermata : collega(ambiente, connessione);

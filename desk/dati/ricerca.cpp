@@ -1,6 +1,7 @@
 #include "desk/dati/ricerca.h"
 
 #include "data/istruzionidesk.h"
+#include "database/sql.h"
 #include "desk/dati/tentativi.h"
 
 #include <algorithm>
@@ -74,7 +75,8 @@ EsitoRicerca cerca(Connessione& connessione, const QString& digitato)
     for (const Tentativo& tentativo : tentativi(esito.cercato)) {
         esito.provati << tentativo.parole;
         Recordset riga;
-        riga.apri(connessione, tentativo.istruzione, Recordset::Cursore::soloAvanti, tentativo.parametri);
+        riga.apri(connessione, sql::conTesti(tentativo.istruzione, tentativo.parametri),
+                  Recordset::Cursore::soloAvanti);
         for (; !riga.eof() && !esito.altre; riga.successivo()) {
             Trovata trovata = leggiTrovata(riga, tentativo.parole);
             const auto stessa = [&](const Trovata& altra) { return chi(altra) == chi(trovata); };

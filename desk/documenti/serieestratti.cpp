@@ -9,16 +9,17 @@ namespace giacenza::documenti {
 SerieEstratti::SerieEstratti(const Accesso& accesso, std::vector<ClienteAperto> clienti,
                              const RichiestaEstratto& periodo, const Forme& forme, Carta carta,
                              QString cartella)
-    : mClienti(std::move(clienti)), mPeriodo(periodo), mForme(forme), mCarta(std::move(carta)),
-      mCartella(std::move(cartella))
+    : mAccesso(accesso), mClienti(std::move(clienti)), mPeriodo(periodo), mForme(forme),
+      mCarta(std::move(carta)), mCartella(std::move(cartella))
 {
-    mConnessione.apri(accesso);
+    mConnessione.apri(mAccesso);
 }
 
 void SerieEstratti::avanti()
 {
     EsitoEstratto esito{prossimo(), {}, 0, {}};
     try {
+        mConnessione.apri(mAccesso); // one that was lost with the customer before
         RichiestaEstratto richiesta = mPeriodo;
         richiesta.cliente = esito.cliente.codice;
         const Estratto estratto = leggiEstratto(mConnessione, richiesta);

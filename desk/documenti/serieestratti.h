@@ -36,6 +36,7 @@ public:
     const std::vector<EsitoEstratto>& esiti() const { return mEsiti; }
 
 private:
+    Accesso mAccesso;
     Connessione mConnessione;
     std::vector<ClienteAperto> mClienti;
     RichiestaEstratto mPeriodo;

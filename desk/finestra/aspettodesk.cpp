@@ -27,6 +27,7 @@ QString aspettoDesk()
     return uR"(
 QLineEdit#txtCerca { font-size: 13pt; padding: 5px 8px; }
 QLineEdit#txtCerca:focus { border: 2px solid palette(highlight); }
+QLineEdit[filtra="true"] { font-weight: bold; padding: 1px 3px; border: 2px solid palette(highlight); }
 QLabel[titolo="true"] { font-size: 14pt; font-weight: bold; }
 QLabel[totale="true"] { font-weight: bold; }
 QLabel[insegna="true"] { font-weight: bold; padding: 2px 10px; border: 2px solid; }

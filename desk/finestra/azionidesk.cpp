@@ -41,8 +41,11 @@ AzioniDesk::AzioniDesk(QWidget* padre)
       cerca(azione(padre, u"azCerca", u"&Cerca o scansiona"_s, u"Va al campo di ricerca"_s,
                    Qt::CTRL | Qt::Key_L)),
       elenco(azione(padre, u"azElenco", u"&Torna all'elenco"_s, u"Lascia il caso e torna all'elenco"_s,
-                    Qt::Key_Escape))
-{}
+                    Qt::Key_Escape)),
+      colonne(new QMenu(u"C&olonne"_s, padre))
+{
+    colonne->setObjectName(u"menuColonne"_s);
+}
 
 void AzioniDesk::riempiCaso(QMenu* menu) const
 {
@@ -60,6 +63,7 @@ void AzioniDesk::riempiCaso(QMenu* menu) const
 void AzioniDesk::riempiElenco(QMenu* menu) const
 {
     menu->addActions({cerca, filtra, aggiorna});
+    menu->addMenu(colonne);
     menu->addSeparator();
     menu->addAction(elenco);
 }

@@ -23,6 +23,8 @@ struct AzioniDesk
     QAction* cerca;      ///< azCerca, Ctrl+L
     QAction* elenco;     ///< azElenco, Esc
 
+    QMenu* colonne; ///< menuColonne: which of the list's columns are shown; the list fills it
+
     /// What concerns the cases that are marked: for the menu bar and for a row.
     void riempiCaso(QMenu* menu) const;
     /// What concerns the list.

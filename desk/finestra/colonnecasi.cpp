@@ -89,7 +89,7 @@ bool ldvPrima(R a, R b)
 std::vector<ColonnaCasi> colonneDiChi()
 {
     return {
-        {u"Stato"_s, u"Che cosa c'è da fare"_s, u"da avvisare"_s, aSinistra,
+        {u"Stato"_s, u"Che cosa c'è da fare"_s, u"da avvisare m"_s /* it is bold */, aSinistra,
          [](R r) { return parole(r.valutazione.stato); },
          [](R a, R b) { return a.valutazione.stato < b.valutazione.stato; }},
         {u"Giacenza"_s, u"Numero e anno della giacenza"_s, u"99999/2026"_s, aSinistra,

@@ -7,6 +7,7 @@
 #include "desk/dati/impostazionidesk.h"
 #include "desk/finestra/aspettodesk.h"
 #include "desk/finestra/camposcansione.h"
+#include "desk/finestra/colonnescelte.h"
 #include "desk/finestra/modellocasi.h"
 #include "desk/finestra/paginacaso.h"
 #include "desk/finestra/paginaelenco.h"
@@ -82,6 +83,7 @@ void FinestraDesk::componi()
     verticale->addLayout(sopra);
     verticale->addWidget(mEsito);
     verticale->addWidget(mPagine, 1);
+    mElenco->tabella()->colonneScelte()->riempi(mAzioni.colonne);
     setFocusProxy(mCampo);
 }
 
@@ -196,6 +198,8 @@ void FinestraDesk::letturaFinita()
         mElenco->modello()->sostituisci(std::exchange(mLette, {}));
     mElenco->letta();
     mElenco->setLettura(letto(u"letto"_s));
+    if (std::exchange(mFiltroRipreso, false))
+        diciFiltroRipreso();
 }
 
 void FinestraDesk::letturaFallita(const QString& testo, const QString& dettaglio)

@@ -12,6 +12,7 @@
 
 class QLabel;
 class QPushButton;
+class QSettings;
 class QStackedWidget;
 
 namespace giacenza::desk {
@@ -51,6 +52,10 @@ public:
 
     /// Reads the list, and the case that is shown, anew.
     void aggiorna();
+    /// Takes columns, order, branch and filter from the last time; before the first reading.
+    void riprendi(const QSettings& impostazioni);
+    /// Writes them down for the next.
+    void ricorda(QSettings& impostazioni) const;
     /// Every how many milliseconds the list is read without being asked.
     void setIntervallo(int millisecondi);
 
@@ -67,6 +72,7 @@ private:
 
     void letteAltre(std::vector<RigaCaso>& righe);
     void letturaFinita();
+    void diciFiltroRipreso();
     void letturaFallita(const QString& testo, const QString& dettaglio);
 
     void cerca(const QString& testo);
@@ -98,6 +104,7 @@ private:
     PaginaCaso* mCaso;
     QTimer mTimer;
     bool mPrimaLettura = true;
+    bool mFiltroRipreso = false;  ///< it is the last time's, and nobody was told yet
     bool mCercando = false;       ///< an answer that the operator waits for is on its way
     bool mRilettura = false;      ///< the case on the screen is being read anew: nothing moves
     std::vector<RigaCaso> mLette; ///< of a reading that replaces an earlier one

@@ -5,6 +5,7 @@
 #include "desk/finestra/aspettodesk.h"
 #include "desk/finestra/tabelladesk.h"
 #include "widgets/annuncio.h"
+#include "widgets/misuraricordata.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -94,6 +95,7 @@ void FinestraInvio::componi()
     constexpr int righe = 18;
     resize(carattere * colonne, fontMetrics().height() * righe);
     setMinimumSize(0, 0);
+    ricordaMisura(*this, u"avvisi"_s);
 }
 
 void FinestraInvio::anteprima()

@@ -11,6 +11,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QStyle>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -48,13 +50,15 @@ QString testoTotali(const Totali& totali, std::size_t tutte)
 
 PaginaElenco::PaginaElenco(QWidget* padre)
     : QWidget(padre), mModello(new ModelloCasi(this)), mFiltro(new QLineEdit(this)),
-      mFiliale(new ElencoFermo(this)), mTabella(new TabellaCasi(mModello, this)), mTotali(new QLabel(this)),
-      mLettura(new QLabel(this))
+      mTogliFiltro(new QToolButton(this)), mFiliale(new ElencoFermo(this)),
+      mTabella(new TabellaCasi(mModello, this)), mTotali(new QLabel(this)), mLettura(new QLabel(this))
 {
     setObjectName(u"pagElenco"_s);
     componi();
     connect(mModello, &QAbstractItemModel::modelReset, this, &PaginaElenco::mostraTotali);
     connect(mFiltro, &QLineEdit::textChanged, mModello, &ModelloCasi::setFiltro);
+    connect(mFiltro, &QLineEdit::textChanged, this, &PaginaElenco::mostraSeFiltra);
+    connect(mTogliFiltro, &QToolButton::clicked, mFiltro, &QLineEdit::clear);
     connect(mFiltro, &QLineEdit::returnPressed, mTabella, [this] {
         mTabella->setFocus();
         if (mModello->rowCount() > 0 && !mTabella->currentIndex().isValid())
@@ -73,6 +77,10 @@ void PaginaElenco::componi()
     mFiltro->setMaxLength(lunghezzaFiltro);
     mFiltro->setClearButtonEnabled(true);
     mFiltro->setPlaceholderText(u"numero, LDV, nomi, riferimento"_s);
+    mTogliFiltro->setObjectName(u"cmdTogliFiltro"_s);
+    mTogliFiltro->setText(u"Togli filtro"_s);
+    mTogliFiltro->setToolTip(u"Mostra di nuovo tutti i casi (Esc nel filtro)"_s);
+    mTogliFiltro->hide();
     mFiliale->setObjectName(u"cmbFiliale"_s);
     mFiliale->addItem(u"Tutte le filiali"_s, QString());
     mFiliale->setSizeAdjustPolicy(QComboBox::AdjustToContents);
@@ -92,6 +100,7 @@ void PaginaElenco::componi()
     };
     etichetta(u"Fil&tra"_s, mFiltro);
     sopra->addWidget(mFiltro, 1);
+    sopra->addWidget(mTogliFiltro);
     etichetta(u"Fi&liale"_s, mFiliale);
     sopra->addWidget(mFiliale);
     auto* sotto = new QHBoxLayout;
@@ -109,9 +118,17 @@ QString PaginaElenco::filiale() const
     return mFiliale->currentData().toString();
 }
 
-void PaginaElenco::setFiliali(const std::vector<Filiale>& filiali)
+void PaginaElenco::scegliFiliale(const QString& codice)
 {
     const QSignalBlocker zitto(mFiliale);
+    if (mFiliale->findData(codice) < 0)
+        mFiliale->addItem(codice, codice);
+    mFiliale->setCurrentIndex(mFiliale->findData(codice));
+}
+
+void PaginaElenco::setFiliali(const std::vector<Filiale>& filiali)
+{
+    QSignalBlocker zitto(mFiliale);
     const QString scelta = filiale();
     while (mFiliale->count() > 1)
         mFiliale->removeItem(1);
@@ -120,7 +137,11 @@ void PaginaElenco::setFiliali(const std::vector<Filiale>& filiali)
               [](const Filiale& una, const Filiale& altra) { return una.codice < altra.codice; });
     for (const Filiale& f : ordinate)
         mFiliale->addItem(f.nome.isEmpty() ? f.codice : u"%1 · %2"_s.arg(f.codice, f.nome), f.codice);
-    mFiliale->setCurrentIndex(std::max(0, mFiliale->findData(scelta)));
+    const int posto = mFiliale->findData(scelta);
+    mFiliale->setCurrentIndex(std::max(0, posto));
+    zitto.unblock();
+    if (posto < 0)
+        Q_EMIT filialeScelta();
 }
 
 void PaginaElenco::letta()
@@ -147,6 +168,15 @@ void PaginaElenco::filtra()
 {
     mFiltro->setFocus(Qt::ShortcutFocusReason);
     mFiltro->selectAll();
+}
+
+/// A filter that hides cases must be seen, also by who did not write it today.
+void PaginaElenco::mostraSeFiltra()
+{
+    mFiltro->setProperty("filtra", !mFiltro->text().isEmpty());
+    mTogliFiltro->setVisible(!mFiltro->text().isEmpty());
+    mFiltro->style()->unpolish(mFiltro);
+    mFiltro->style()->polish(mFiltro);
 }
 
 void PaginaElenco::mostraTotali()

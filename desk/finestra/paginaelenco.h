@@ -7,6 +7,7 @@
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QToolButton;
 
 namespace giacenza::desk {
 
@@ -27,7 +28,10 @@ public:
 
     /// The branch whose cases are wanted; empty: all.
     QString filiale() const;
+    /// Of a branch that is no longer there, all are wanted instead, and filialeScelta() says so.
     void setFiliali(const std::vector<Filiale>& filiali);
+    /// Wants a branch's cases before the branches are known; says nothing. codice: empty: all.
+    void scegliFiliale(const QString& codice);
 
     /// The list was read to its end: until then, an empty one has no totals.
     void letta();
@@ -47,10 +51,12 @@ Q_SIGNALS:
 private:
     void componi();
     void mostraTotali();
+    void mostraSeFiltra();
 
     // In the order of the keyboard.
     ModelloCasi* mModello;
     QLineEdit* mFiltro;
+    QToolButton* mTogliFiltro; ///< there while it filters
     QComboBox* mFiliale;
     TabellaCasi* mTabella;
     QLabel* mTotali;

@@ -1,6 +1,7 @@
 #include "desk/finestra/tabellacasi.h"
 
 #include "desk/finestra/colonnecasi.h"
+#include "desk/finestra/colonnescelte.h"
 #include "desk/finestra/modellocasi.h"
 
 #include <QHeaderView>
@@ -25,6 +26,7 @@ TabellaCasi::TabellaCasi(ModelloCasi* modello, QWidget* padre)
     for (const ColonnaCasi& colonna : colonneCasi())
         misure << (colonna.misura.size() > colonna.titolo.size() ? colonna.misura : colonna.titolo + u"m"_s);
     setMisure(misure);
+    mColonneScelte = new ColonneScelte(this);
 }
 
 QList<int> TabellaCasi::marcate() const
@@ -41,7 +43,7 @@ QList<int> TabellaCasi::marcate() const
 
 void TabellaCasi::mostraRiga(int riga)
 {
-    setCurrentIndex(mModello->index(riga, 0));
+    setCurrentIndex(mModello->index(riga, primaVista()));
     scrollTo(currentIndex());
 }
 
@@ -80,7 +82,7 @@ void TabellaCasi::rimetti()
         selectionModel()->setCurrentIndex(mModello->index(corrente, mColonna), QItemSelectionModel::NoUpdate);
     selectionModel()->select(scelte, QItemSelectionModel::ClearAndSelect);
     if (prima > 0)
-        scrollTo(mModello->index(prima, 0), PositionAtTop);
+        scrollTo(mModello->index(prima, primaVista()), PositionAtTop); // nothing scrolls to a hidden one
     else
         scrollToTop();
 }

@@ -6,6 +6,7 @@
 
 namespace giacenza::desk {
 
+class ColonneScelte;
 class ModelloCasi;
 
 /// The list of the open cases. Whatever the model does, the marked rows stay marked, the current one stays
@@ -17,6 +18,8 @@ class TabellaCasi : public TabellaDesk
 public:
     explicit TabellaCasi(ModelloCasi* modello, QWidget* padre = nullptr);
 
+    ColonneScelte* colonneScelte() const { return mColonneScelte; }
+
     /// The rows that are marked, from the top; else the current one.
     QList<int> marcate() const;
     /// Makes a row the current and only marked one, and shows it.
@@ -27,6 +30,7 @@ private:
     void rimetti();
 
     ModelloCasi* mModello;
+    ColonneScelte* mColonneScelte;
     QSet<QString> mMarcate; ///< names of cases
     QString mCorrente;
     int mColonna = 0;

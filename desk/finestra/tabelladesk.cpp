@@ -29,17 +29,49 @@ TabellaDesk::TabellaDesk(const QString& nome, QWidget* padre) : QTableView(padre
 void TabellaDesk::setMisure(const QStringList& testi)
 {
     mMisure = testi;
-    misura();
+    ensurePolished();
+    larghezzeSolite();
 }
 
-void TabellaDesk::misura()
+int TabellaDesk::solita(int colonna) const
 {
     constexpr int intorno = 18;
+    return fontMetrics().horizontalAdvance(mMisure.at(colonna)) + intorno;
+}
+
+void TabellaDesk::larghezzeSolite()
+{
     constexpr int sopraESotto = 8;
-    ensurePolished();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + sopraESotto);
-    for (int i = 0; i < mMisure.size() && model(); ++i)
-        setColumnWidth(i, fontMetrics().horizontalAdvance(mMisure.at(i)) + intorno);
+    mCarattere = fontMetrics().averageCharWidth();
+    mSolite.clear();
+    for (int i = 0; i < mMisure.size() && model(); ++i) {
+        mSolite << solita(i);
+        setColumnWidth(i, mSolite.last());
+    }
+}
+
+/// What the user chose grows with the font; the rest is measured anew.
+void TabellaDesk::nuovoCarattere()
+{
+    const QList<int> prima = mSolite;
+    const int carattere = mCarattere;
+    QList<int> scelte;
+    for (int i = 0; i < prima.size(); ++i)
+        scelte << columnWidth(i);
+    larghezzeSolite();
+    for (int i = 0; i < prima.size(); ++i)
+        if (!isColumnHidden(i) && scelte[i] != prima[i])
+            setColumnWidth(i, scelte[i] * mCarattere / carattere);
+}
+
+int TabellaDesk::primaVista() const
+{
+    const QHeaderView* testata = horizontalHeader();
+    for (int posto = 0; posto < testata->count(); ++posto)
+        if (!testata->isSectionHidden(testata->logicalIndex(posto)))
+            return testata->logicalIndex(posto);
+    return 0;
 }
 
 void TabellaDesk::keyPressEvent(QKeyEvent* evento)
@@ -57,7 +89,7 @@ void TabellaDesk::changeEvent(QEvent* evento)
 {
     QTableView::changeEvent(evento);
     if (evento->type() == QEvent::FontChange)
-        misura();
+        nuovoCarattere();
 }
 
 } // namespace giacenza::desk

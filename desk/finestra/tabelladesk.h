@@ -16,6 +16,10 @@ public:
 
     /// The widths that show these texts whole, in the font of the table.
     void setMisure(const QStringList& testi);
+    /// Those widths again, whatever the user made of them.
+    void larghezzeSolite();
+    /// The first column that is seen, from the left.
+    int primaVista() const;
 
     void keyboardSearch(const QString&) override {}
 
@@ -28,9 +32,12 @@ protected:
     void changeEvent(QEvent* evento) override;
 
 private:
-    void misura();
+    int solita(int colonna) const;
+    void nuovoCarattere();
 
     QStringList mMisure;
+    QList<int> mSolite; ///< pixels, in the font that they were measured in
+    int mCarattere = 0; ///< that font's width
 };
 
 } // namespace giacenza::desk

@@ -1,6 +1,7 @@
 #include "desk/schede/finestracaso.h"
 
 #include "desk/schede/parti.h"
+#include "widgets/misuraricordata.h"
 
 #include <QVBoxLayout>
 
@@ -19,7 +20,8 @@ FinestraCaso::FinestraCaso(const Accesso& accesso, const ChiaveGiacenza& caso, c
     QPushButton* chiudi = pulsante(this, u"cmdChiudi"_s, u"&Chiudi"_s, u"Chiude la finestra (Esc)"_s);
     tutto->addWidget(chiudi, 0, Qt::AlignRight);
     connect(chiudi, &QPushButton::clicked, this, &QDialog::reject);
-    resize(780, 640);
+    resize(inCaratteri(*this, 112, 38));
+    ricordaMisura(*this, u"diario"_s);
     mScheda->mostra(caso);
 }
 

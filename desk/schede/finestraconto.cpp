@@ -7,6 +7,7 @@
 #include "desk/schede/modelloconto.h"
 #include "desk/schede/parti.h"
 #include "widgets/campodata.h"
+#include "widgets/misuraricordata.h"
 
 #include <QDir>
 #include <QGroupBox>
@@ -59,13 +60,15 @@ void FinestraConto::componi()
     QTableView* giorni = tavola(this, u"tblGiorni"_s, u"Giorni di sosta"_s);
     giorni->setModel(mModello);
     giorni->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    giorni->horizontalHeader()->setSectionResizeMode(ModelloConto::genere, QHeaderView::ResizeToContents);
     tutto->addWidget(giorni, 1);
     tutto->addWidget(riquadroTotali());
 
     mStato = scritta(this, u"lblStato"_s);
     tutto->addWidget(mStato);
     tutto->addLayout(rigaComandi());
-    resize(680, 620);
+    resize(inCaratteri(*this, 104, 38));
+    ricordaMisura(*this, u"conto"_s);
 
     connect(ricalcola, &QPushButton::clicked, this, &FinestraConto::calcola);
 }

@@ -1,8 +1,10 @@
 #include "desk/schede/finestraestratti.h"
 
 #include "base/orologio.h"
+#include "desk/schede/lavoroestratti.h"
 #include "desk/schede/parti.h"
 #include "widgets/campodata.h"
+#include "widgets/misuraricordata.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -11,7 +13,6 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -20,20 +21,28 @@ using namespace Qt::StringLiterals;
 
 namespace giacenza::schede {
 
+namespace {
+
+QString nome(const documenti::ClienteAperto& cliente)
+{
+    return u"%1 %2"_s.arg(cliente.codice, cliente.ragioneSociale).trimmed();
+}
+
+} // namespace
+
 FinestraEstratti::FinestraEstratti(const Accesso& accesso, const QString& cliente, QDate da, QDate a,
                                    const documenti::Carta& carta, QWidget* padre)
-    : QDialog(padre), mAccesso(accesso), mCarta(carta)
+    : QDialog(padre), mAccesso(accesso), mCarta(carta), mLavoro(new LavoroEstratti(this))
 {
     setObjectName(u"finestraEstratti"_s);
     setWindowTitle(u"Estratti delle giacenze"_s);
     componi();
+    collegaLavoro();
     mDa->imposta(dataBreve(da));
     mA->imposta(dataBreve(a));
     mCartella->setText(QDir::toNativeSeparators(carta.cartella));
     leggiClienti(cliente);
 }
-
-FinestraEstratti::~FinestraEstratti() = default;
 
 void FinestraEstratti::componi()
 {
@@ -79,10 +88,21 @@ void FinestraEstratti::componi()
     fondo->addStretch();
     fondo->addWidget(chiudi);
     tutto->addLayout(fondo);
-    resize(640, 460);
+    resize(inCaratteri(*this, 104, 31));
+    ricordaMisura(*this, u"estratti"_s);
     connect(mEsegui, &QPushButton::clicked, this, &FinestraEstratti::comincia);
-    connect(mFerma, &QPushButton::clicked, this, [this] { mFermata = true; });
+    connect(mFerma, &QPushButton::clicked, this, &FinestraEstratti::ferma);
     connect(chiudi, &QPushButton::clicked, this, &FinestraEstratti::reject);
+}
+
+void FinestraEstratti::collegaLavoro()
+{
+    connect(mLavoro, &LavoroEstratti::cominciato, this, [this](const documenti::ClienteAperto& cliente) {
+        if (!mFermata)
+            dici(u"Estratto di %1…"_s.arg(nome(cliente)));
+    });
+    connect(mLavoro, &LavoroEstratti::fatto, this, &FinestraEstratti::scriviEsito);
+    connect(mLavoro, &LavoroEstratti::finito, this, &FinestraEstratti::finisci);
 }
 
 QLayout* FinestraEstratti::rigaPeriodo()
@@ -92,6 +112,8 @@ QLayout* FinestraEstratti::rigaPeriodo()
         auto* giorno = new CampoData(this);
         giorno->setObjectName(nome);
         giorno->setAccessibleName(letto);
+        constexpr int cifreEBordo = 14;
+        giorno->setMinimumWidth(giorno->fontMetrics().averageCharWidth() * cifreEBordo);
         auto* etichetta = new QLabel(testo, this);
         etichetta->setBuddy(giorno);
         riga->addWidget(etichetta);
@@ -169,83 +191,82 @@ documenti::Forme FinestraEstratti::forme() const
     return {mForme[0]->isChecked(), mForme[1]->isChecked(), mForme[2]->isChecked()};
 }
 
-void FinestraEstratti::comincia()
+/// Whether what is asked for can be made; says what is missing.
+bool FinestraEstratti::completo()
 {
+    const auto manca = [this](const QString& che, QWidget* dove) {
+        dici(che);
+        dove->setFocus();
+        return false;
+    };
     const auto da = leggiData(mDa->testo());
     const auto a = leggiData(mA->testo());
-    if (!da || !a || *a < *da) {
-        dici(u"Il periodo non va bene: servono due date, la prima non dopo la seconda."_s);
-        mDa->setFocus();
+    if (!da || !a || *a < *da)
+        return manca(u"Il periodo non va bene: servono due date, la prima non dopo la seconda."_s, mDa);
+    if (forme().nessuna())
+        return manca(u"Scegliere almeno una forma: PDF, CSV o foglio di calcolo."_s, mForme[0]);
+    if (mCartella->text().trimmed().isEmpty())
+        return manca(u"Manca la cartella in cui salvare."_s, mCartella);
+    return true;
+}
+
+void FinestraEstratti::comincia()
+{
+    if (mLavoro->inCorso() || !completo())
         return;
-    }
-    if (forme().nessuna()) {
-        dici(u"Scegliere almeno una forma: PDF, CSV o foglio di calcolo."_s);
-        mForme[0]->setFocus();
-        return;
-    }
-    if (mCartella->text().trimmed().isEmpty()) {
-        dici(u"Manca la cartella in cui salvare."_s);
-        mCartella->setFocus();
-        return;
-    }
-    const QString guasto = provando([&] {
-        mSerie = std::make_unique<documenti::SerieEstratti>(
-            mAccesso, scelti(), documenti::RichiestaEstratto{{}, *da, *a, oggi()}, forme(), mCarta,
-            QDir::fromNativeSeparators(mCartella->text().trimmed()));
-    });
-    dici(guasto);
-    if (!guasto.isEmpty())
-        return;
+    const OrdineEstratti ordine{
+        mAccesso, scelti(), {{}, *leggiData(mDa->testo()), *leggiData(mA->testo()), oggi()},
+        forme(),  mCarta,   QDir::fromNativeSeparators(mCartella->text().trimmed())};
     mFermata = false;
+    mTotale = static_cast<int>(ordine.clienti.size());
+    mFatti = mFalliti = 0;
     mEsiti->clear();
-    mAvanzamento->setRange(0, mSerie->totale());
+    mAvanzamento->setRange(0, mTotale);
     mAvanzamento->setValue(0);
     mEsegui->setEnabled(false);
     mFerma->setEnabled(true);
     mFerma->setFocus();
-    QTimer::singleShot(0, this, &FinestraEstratti::avanti);
+    dici({});
+    mLavoro->comincia(ordine);
 }
 
-/// One customer, then the window has its turn: so it can be stopped.
-void FinestraEstratti::avanti()
+void FinestraEstratti::ferma()
 {
-    if (mFermata || mSerie->finita()) {
-        finisci();
-        return;
-    }
-    mSerie->avanti();
-    const documenti::EsitoEstratto& esito = mSerie->esiti().back();
-    const QString chi = u"%1 %2"_s.arg(esito.cliente.codice, esito.cliente.ragioneSociale).trimmed();
-    mEsiti->appendPlainText(
-        esito.guasto.isEmpty()
-            ? u"%1: giacenze %2, salvati %3"_s.arg(chi, QString::number(esito.casi), esito.file.join(u", "_s))
-            : u"%1: NON FATTO. %2"_s.arg(chi, esito.guasto));
-    mAvanzamento->setValue(mSerie->fatti());
-    QTimer::singleShot(0, this, &FinestraEstratti::avanti);
+    mFermata = true;
+    mFerma->setEnabled(false);
+    mLavoro->ferma();
+    dici(u"Mi fermo dopo l'estratto in corso…"_s);
 }
 
-void FinestraEstratti::finisci()
+void FinestraEstratti::scriviEsito(const documenti::EsitoEstratto& esito)
 {
-    int falliti = 0;
-    for (const documenti::EsitoEstratto& esito : mSerie->esiti())
-        falliti += esito.guasto.isEmpty() ? 0 : 1;
-    const int fatti = mSerie->fatti() - falliti;
-    QString testo = u"Estratti salvati: %1 di %2."_s.arg(fatti).arg(mSerie->totale());
-    if (falliti > 0)
-        testo += u" Non fatti: %1."_s.arg(falliti);
-    if (!mSerie->finita())
+    ++mFatti;
+    mFalliti += esito.guasto.isEmpty() ? 0 : 1;
+    mEsiti->appendPlainText(esito.guasto.isEmpty()
+                                ? u"%1: giacenze %2, salvati %3"_s.arg(nome(esito.cliente),
+                                                                       QString::number(esito.casi),
+                                                                       esito.file.join(u", "_s))
+                                : u"%1: NON FATTO. %2"_s.arg(nome(esito.cliente), esito.guasto));
+    mAvanzamento->setValue(mFatti);
+}
+
+void FinestraEstratti::finisci(const QString& guasto)
+{
+    QString testo = u"Estratti salvati: %1 di %2."_s.arg(mFatti - mFalliti).arg(mTotale);
+    if (mFalliti > 0)
+        testo += u" Non fatti: %1."_s.arg(mFalliti);
+    if (mFatti < mTotale)
         testo += u" Fermato: i clienti che seguono non sono stati guardati."_s;
-    mSerie.reset();
     mEsegui->setEnabled(true);
     mFerma->setEnabled(false);
     mEsegui->setFocus();
-    dici(testo);
+    dici(guasto.isEmpty() ? testo : guasto);
 }
 
 void FinestraEstratti::reject()
 {
-    if (mSerie)
-        mFermata = true;
+    if (mLavoro->inCorso() && !mFermata)
+        ferma();
     else
         QDialog::reject();
 }

@@ -6,8 +6,6 @@
 
 #include <QDialog>
 
-#include <memory>
-
 class QCheckBox;
 class QComboBox;
 class QLabel;
@@ -22,6 +20,8 @@ class CampoData;
 
 namespace giacenza::schede {
 
+class LavoroEstratti;
+
 /// The statements of one customer or of all that have open cases, for a period, as PDF, CSV and workbook.
 ///
 ///     FinestraEstratti finestra(accesso, cliente, da, a, cartaDelleLettere(logo), this);
@@ -34,28 +34,33 @@ public:
     /// cliente: the code of one; empty: all with open cases, until one is chosen.
     FinestraEstratti(const Accesso& accesso, const QString& cliente, QDate da, QDate a,
                      const documenti::Carta& carta, QWidget* padre = nullptr);
-    ~FinestraEstratti() override;
 
-    /// While statements are being made, closing stops after the one that is at work.
+    /// While statements are being made, the first time it stops after the one that is at work; the second it
+    /// closes, and the dialog's end waits for that one.
     void reject() override;
 
 private:
     void componi();
+    void collegaLavoro();
     QLayout* rigaPeriodo();
     QLayout* rigaCartella();
     void leggiClienti(const QString& cliente);
     std::vector<documenti::ClienteAperto> scelti() const;
     documenti::Forme forme() const;
+    bool completo();
     void comincia();
-    void avanti();
-    void finisci();
+    void ferma();
+    void scriviEsito(const documenti::EsitoEstratto& esito);
+    void finisci(const QString& guasto);
     void dici(const QString& testo);
 
     Accesso mAccesso;
     documenti::Carta mCarta;
     std::vector<documenti::ClienteAperto> mClienti;
-    std::unique_ptr<documenti::SerieEstratti> mSerie;
     bool mFermata = false;
+    int mTotale = 0;
+    int mFatti = 0;
+    int mFalliti = 0;
     QComboBox* mCliente = nullptr;
     CampoData* mDa = nullptr;
     CampoData* mA = nullptr;
@@ -66,6 +71,7 @@ private:
     QProgressBar* mAvanzamento = nullptr;
     QPlainTextEdit* mEsiti = nullptr;
     QLabel* mStato = nullptr;
+    LavoroEstratti* mLavoro;
 };
 
 } // namespace giacenza::schede

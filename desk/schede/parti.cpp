@@ -11,6 +11,12 @@ using namespace Qt::StringLiterals;
 
 namespace giacenza::schede {
 
+QSize inCaratteri(const QWidget& finestra, int larga, int alta)
+{
+    const QFontMetrics carattere = finestra.fontMetrics();
+    return {carattere.averageCharWidth() * larga, carattere.height() * alta};
+}
+
 QPushButton* pulsante(QWidget* padre, const QString& nome, const QString& testo, const QString& aiuto)
 {
     auto* nuovo = new QPushButton(testo, padre);

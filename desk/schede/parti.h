@@ -11,6 +11,9 @@
 /// What the windows of this room have in common.
 namespace giacenza::schede {
 
+/// So many characters wide and lines high, in the font of a window.
+QSize inCaratteri(const QWidget& finestra, int larga, int alta);
+
 /// A button that is reached by Tab and pressed by its letter, never by Enter from elsewhere.
 QPushButton* pulsante(QWidget* padre, const QString& nome, const QString& testo, const QString& aiuto);
 

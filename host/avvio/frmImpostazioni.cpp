@@ -12,8 +12,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -62,10 +65,16 @@ void frmImpostazioni::componi()
     connect(bottoni, &QDialogButtonBox::rejected, this, &frmImpostazioni::reject);
     auto* verticale = new QVBoxLayout(this);
     verticale->addWidget(area, 1);
-    verticale->addWidget(new QLabel(u"File: %1"_s.arg(QDir::toNativeSeparators(mFile))));
+    auto* quale = new QLabel(u"File: %1"_s.arg(QDir::toNativeSeparators(mFile)));
+    quale->setMinimumWidth(1); // a long path must not widen the window
+    quale->setToolTip(QDir::toNativeSeparators(mFile));
+    verticale->addWidget(quale);
     verticale->addWidget(mEsito);
     verticale->addWidget(bottoni);
-    resize(moduli->sizeHint().width() + caratteriInVista, 600);
+    constexpr int righe = 36;
+    constexpr int cornice = 40; // of the window manager
+    resize(moduli->sizeHint().width() + caratteriInVista,
+           std::min(fontMetrics().height() * righe, screen()->availableSize().height() - cornice));
 }
 
 /// The control of an entry; a folder's has its button beside it, in a parent of their own.

@@ -72,4 +72,21 @@ QString data(QDate valore)
     return dataSql(valore);
 }
 
+QString conTesti(const QString& istruzione, std::span<const Valore> testi)
+{
+    const QStringList pezzi = istruzione.split(u'?');
+    if (pezzi.size() != std::ssize(testi) + 1)
+        throw ErroreDatabase(
+            u"07002"_s, 0,
+            u"L'istruzione aspetta %1 valori e ne riceve %2."_s.arg(pezzi.size() - 1).arg(testi.size()),
+            istruzione);
+    QString intera = pezzi.first();
+    for (std::size_t i = 0; i < testi.size(); ++i) {
+        const Valore& valore = testi[i];
+        intera += valore ? u'\'' + testo(QString(*valore).replace(u"'"_s, u"''"_s)) + u'\'' : u"null"_s;
+        intera += pezzi[static_cast<qsizetype>(i) + 1];
+    }
+    return intera;
+}
+
 } // namespace giacenza::sql

@@ -2,6 +2,8 @@
 
 #include "database/valori.h"
 
+#include <span>
+
 namespace giacenza::sql {
 
 /// The one place where values are pasted into statements. A value that would leave its place is not sent: the
@@ -22,5 +24,11 @@ QString numero(const QString& valore);
 
 /// A day for a place between apostrophes: "yyyy-mm-dd". Throws for an invalid date.
 QString data(QDate valore);
+
+/// A statement whose "?" are taken, from the left, by these texts: each between apostrophes, its own doubled;
+/// null where there is none. Of two ways to say the same this is the quicker one: a statement with bound
+/// values is compiled twice by SQLite's driver. Throws 07002 when places and texts are not as many, 42000 and
+/// 22021 as testo() does.
+QString conTesti(const QString& istruzione, std::span<const Valore> testi);
 
 } // namespace giacenza::sql

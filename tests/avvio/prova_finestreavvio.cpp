@@ -136,4 +136,22 @@ TEST(FinestraImpostazioni, CioCheSiScriveVaNelFile)
     EXPECT_THAT(valori, testing::Contains(u"pdf"_s));
 }
 
+TEST(FinestreAvvio, StannoInUnoSchermoPiccolo)
+{
+    // A screen of 1920x1080 at 200 %, less what a window manager puts around a window.
+    constexpr QSize schermoPiccolo(960 - 16, 540 - 40);
+    const QTemporaryDir cartella;
+    SceltaArchivio server;
+    server.tipo = TipoArchivio::server;
+    frmArchivio archivio(server, true);
+    frmImpostazioni impostazioni(cartella.filePath(u"giacenza.ini"_s));
+    for (QWidget* finestra : {static_cast<QWidget*>(&archivio), static_cast<QWidget*>(&impostazioni)}) {
+        finestra->show();
+        EXPECT_LE(finestra->minimumSizeHint().width(), schermoPiccolo.width())
+            << finestra->objectName().toStdString();
+        EXPECT_LE(finestra->minimumSizeHint().height(), schermoPiccolo.height())
+            << finestra->objectName().toStdString();
+    }
+}
+
 } // namespace

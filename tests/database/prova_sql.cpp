@@ -100,4 +100,17 @@ TEST(SqlData, nellaFormaDellIstruzione)
               u"Errore di sintassi nell'istruzione SQL: attesa una data."_s);
 }
 
+TEST(SqlConTesti, ogniPostoHaIlSuo)
+{
+    const QString istruzione = u"select a from t where b=? and c=?"_s;
+    EXPECT_EQ(sql::conTesti(istruzione, std::vector<Valore>{u"x"_s, u"l'uno ? e l''altro"_s}),
+              u"select a from t where b='x' and c='l''uno ? e l''''altro'"_s);
+    EXPECT_EQ(sql::conTesti(istruzione, std::vector<Valore>{std::nullopt, QString()}),
+              u"select a from t where b=null and c=''"_s);
+    EXPECT_EQ(sql::conTesti(u"select 1"_s, {}), u"select 1"_s);
+    EXPECT_THROW(sql::conTesti(istruzione, std::vector<Valore>{u"x"_s}), ErroreDatabase) << "one is missing";
+    EXPECT_THROW(sql::conTesti(u"?"_s, std::vector<Valore>{QString(QChar(u'\0'))}), ErroreDatabase);
+    EXPECT_THROW(sql::conTesti(u"?"_s, std::vector<Valore>{QString(QChar(0xd800))}), ErroreDatabase);
+}
+
 } // namespace

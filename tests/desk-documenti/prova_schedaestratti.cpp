@@ -11,7 +11,10 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSemaphore>
 #include <QTest>
+#include <QThread>
+#include <QTimer>
 
 using namespace giacenza;
 using namespace giacenza::prove;
@@ -20,12 +23,39 @@ using testing::ElementsAre;
 
 namespace {
 
+/// Keeps every other thread than the window's from the archive until it is opened.
+class Cancello
+{
+public:
+    Accesso accesso(const BancaDati& base)
+    {
+        Accesso con = base.accesso();
+        con.traccia = [this, prima = con.traccia](EventoDati evento, const QString& testo) {
+            prima(evento, testo);
+            if (QThread::currentThread() == qApp->thread())
+                return;
+            constexpr int pazienza = 60'000; // a test that fails ends all the same
+            if (mAperto.tryAcquire(1, pazienza))
+                mAperto.release();
+        };
+        return con;
+    }
+    void apri() { mAperto.release(); }
+
+private:
+    QSemaphore mAperto;
+};
+
 class SchedaEstratti : public DepositoDesk
 {
 protected:
     std::unique_ptr<FinestraEstratti> apri(const QString& cliente = {})
     {
-        auto finestra = std::make_unique<FinestraEstratti>(mBase.accesso(), cliente, QDate(2026, 11, 1),
+        return apri(mBase.accesso(), cliente);
+    }
+    std::unique_ptr<FinestraEstratti> apri(const Accesso& accesso, const QString& cliente = {})
+    {
+        auto finestra = std::make_unique<FinestraEstratti>(accesso, cliente, QDate(2026, 11, 1),
                                                            QDate(2026, 11, 30), carta());
         finestra->show();
         return finestra;
@@ -70,16 +100,78 @@ TEST_P(SchedaEstratti, UnoSoloAncheSenzaGiacenzeAperte)
 
 TEST_P(SchedaEstratti, SiFermaDopoQuelloInCorso)
 {
-    const auto finestra = apri();
+    Cancello cancello;
+    const auto finestra = apri(cancello.accesso(mBase));
     auto* esegui = trova<QPushButton>(*finestra, u"cmdEsegui"_s);
     esegui->click();
     QTest::keyClick(finestra.get(), Qt::Key_Escape);
     EXPECT_TRUE(finestra->isVisible());
+    EXPECT_EQ(stato(*finestra), u"Mi fermo dopo l'estratto in corso…"_s);
+    cancello.apri();
     ASSERT_TRUE(QTest::qWaitFor([&] { return esegui->isEnabled(); }, 60'000));
     EXPECT_EQ(stato(*finestra),
               u"Estratti salvati: 0 di 2. Fermato: i clienti che seguono non sono stati guardati."_s);
+    EXPECT_TRUE(salvati().isEmpty());
     QTest::keyClick(finestra.get(), Qt::Key_Escape);
     EXPECT_FALSE(finestra->isVisible());
+}
+
+TEST_P(SchedaEstratti, MentreLArchivioFaAttendereLaFinestraVive)
+{
+    Cancello cancello;
+    const auto finestra = apri(cancello.accesso(mBase));
+    auto* esegui = trova<QPushButton>(*finestra, u"cmdEsegui"_s);
+    esegui->click();
+    int battiti = 0;
+    QTimer battito;
+    QObject::connect(&battito, &QTimer::timeout, [&] { ++battiti; });
+    battito.start(1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return battiti >= 50; }, 10'000));
+    EXPECT_FALSE(esegui->isEnabled()) << "it is still at work";
+    auto* cartella = trova<QLineEdit>(*finestra, u"txtCartella"_s);
+    QTest::keyClick(cartella, Qt::Key_End);
+    QTest::keyClicks(cartella, u"-altra"_s);
+    EXPECT_TRUE(cartella->text().endsWith(u"-altra"_s));
+    cancello.apri();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return esegui->isEnabled(); }, 60'000));
+    EXPECT_EQ(stato(*finestra), u"Estratti salvati: 2 di 2."_s);
+    EXPECT_EQ(salvati().size(), 2) << "where they were asked for when it began";
+}
+
+TEST_P(SchedaEstratti, ChiudendoUnaSecondaVoltaNonRestaNienteAMeta)
+{
+    QStringList clienti;
+    for (int codice = 2001; codice <= 2040; ++codice)
+        clienti << u"('MI','%1',2026,%1,'%1',2026,'2026-11-10')"_s.arg(codice);
+    mBase.esegui(u"insert into giace00f (GIFILI,GINRLV,GIANLV,GICODI,GINRGI,GIANGI,GIDTGI) values "_s +
+                 clienti.join(u','));
+    auto finestra = apri();
+    trova<QPushButton>(*finestra, u"cmdEsegui"_s)->click();
+    auto* avanzamento = trova<QProgressBar>(*finestra, u"barAvanzamento"_s);
+    ASSERT_EQ(avanzamento->maximum(), 42);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return avanzamento->value() > 0; }, 60'000));
+    QTest::keyClick(finestra.get(), Qt::Key_Escape);
+    QTest::keyClick(finestra.get(), Qt::Key_Escape);
+    EXPECT_FALSE(finestra->isVisible());
+    finestra.reset();
+    const QStringList tutti = salvati();
+    EXPECT_GE(tutti.size(), 1);
+    EXPECT_LT(tutti.size(), 42);
+    for (const QString& nome : tutti)
+        EXPECT_TRUE(testoPdf(mCartella.filePath(nome)).contains(u"Estratto giacenze"_s))
+            << nome.toStdString();
+    QTest::qWait(50);
+    EXPECT_EQ(salvati(), tutti) << "nobody works on";
+}
+
+TEST_P(SchedaEstratti, UnArchivioSparitoSiDice)
+{
+    const auto finestra = apri();
+    mBase.esegui(u"alter table letve00f rename to altrove"_s);
+    esegui(*finestra);
+    EXPECT_EQ(stato(*finestra), u"Estratti salvati: 0 di 2. Non fatti: 2."_s);
+    const QStringList esiti = trova<QPlainTextEdit>(*finestra, u"txtEsiti"_s)->toPlainText().split(u'\n');
+    EXPECT_TRUE(esiti.first().startsWith(u"1001 Ferramenta Lombarda S.r.l.: NON FATTO. "_s));
 }
 
 TEST_P(SchedaEstratti, QuelloCheMancaSiDice)

@@ -22,17 +22,24 @@ DeskDiProva::DeskDiProva()
         throw std::runtime_error("le impostazioni di prova non si scrivono");
     ini.close();
     mComponente = std::make_unique<cGiacenza>();
+    apriDesk();
+    attendiElenco();
+}
+
+void DeskDiProva::apriDesk(const std::function<void(desk::FinestraDesk& desk)>& prima)
+{
     mFinestra = std::make_unique<QMainWindow>();
     mDesk = new desk::FinestraDesk(
-        *mComponente, {mBase.stringa(), ini.fileName(), {}},
+        *mComponente, {mBase.stringa(), mCartella.filePath(u"g.ini"_s), {}},
         [](const QString&, const std::function<void()>& apri) { apri(); }, mFinestra.get());
+    if (prima)
+        prima(*mDesk);
     mFinestra->setCentralWidget(mDesk);
     mFinestra->resize(1366, 700);
     mFinestra->show();
     mDesk->setFocus();
     mFinestra->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(mFinestra.get()));
-    attendiElenco();
 }
 
 DeskDiProva::~DeskDiProva()

@@ -55,6 +55,9 @@ protected:
     DeskDiProva();
     ~DeskDiProva() override;
 
+    /// Opens another desk in a window of its own, in the place of the one that is open. prima: before it
+    /// reads.
+    void apriDesk(const std::function<void(desk::FinestraDesk& desk)>& prima = {});
     /// Waits until the list was read.
     void attendiElenco();
     void attendi(const std::function<bool()>& fatto);

@@ -207,7 +207,8 @@ TEST_P(ProvaDesk, ognTastoDellaGuidaENeiMenu)
             tasti << (azione->shortcut().isEmpty() ? azione->text().section(u'\t', 1)
                                                    : azione->shortcut().toString(QKeySequence::PortableText));
     EXPECT_THAT(tasti, ElementsAre(u"Invio"_s, u"F8"_s, u"Ctrl+R"_s, u"Ctrl+Shift+R"_s, u"Ctrl+N"_s,
-                                   u"Ctrl+P"_s, u"Ctrl+L"_s, u"Ctrl+F"_s, u"F5"_s, u"Esc"_s));
+                                   u"Ctrl+P"_s, u"Ctrl+L"_s, u"Ctrl+F"_s, u"F5"_s, QString(), u"Esc"_s))
+        << "the columns are a menu of their own";
 }
 
 TEST_P(ProvaDesk, iColoriDelDesktopValgonoAncheQuandoCambiano)

@@ -46,6 +46,19 @@ TEST_P(ProvaRicerca, ogniNumeroPortaAlCaso)
     EXPECT_TRUE(cercato(u"4722"_s).trovate.front().sua);
 }
 
+TEST_P(ProvaRicerca, unSegnoStranoNonEsceDalSuoPosto)
+{
+    for (const QString& riferimento :
+         {u"l'ordine"_s, u"l''ordine"_s, u"fine\\"_s, u"\\' or 1=1 --"_s, u"che cosa?"_s, u"a?b?c"_s,
+          u"{d '2026-01-01'}"_s, u"100%_"_s, u"\"tra virgolette\""_s, u"però €"_s, u"; drop table x"_s}) {
+        mBase.esegui(u"update letve00f set lerife='%1' where lenrlv='4722'"_s.arg(
+            QString(riferimento).replace(u"'"_s, u"''"_s)));
+        EXPECT_THAT(trovate(riferimento), ElementsAre(u"4722/2026 MI -> 42/2026"_s))
+            << riferimento.toStdString();
+    }
+    EXPECT_THAT(trovate(u"x' or '1'='1"_s), IsEmpty());
+}
+
 TEST_P(ProvaRicerca, ilCasoChiusoSiTrova)
 {
     const EsitoRicerca esito = cercato(u"4714"_s);

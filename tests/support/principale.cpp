@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QSettings>
+#include <QTemporaryDir>
 
 #include <clocale>
 #include <cstdio>
@@ -20,6 +22,9 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "La locale %s non c'è.\n", locale);
         return 1;
     }
+    // What a program remembers of its user stays within the test.
+    const QTemporaryDir ricordi;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ricordi.path());
     QApplication::setApplicationDisplayName(u"Deposito di prova"_s);
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
