@@ -1,5 +1,6 @@
 #include "guasti/operazione.h"
 
+#include "base/impostazioni.h"
 #include "support/stampa.h"
 
 #include <gtest/gtest.h>
@@ -135,18 +136,35 @@ public:
     {
         mOperazione.prepara();
         mMessaggi.prendi();
-        Accaduto accaduto = {.classe = classe};
         {
             GuastiOdbc guasti;
             guasti.pianta(chiamata, classe.guasto, classe.sempre);
             mOperazione.compi();
             EXPECT_GT(guasti.scattati(), 0) << "the failure never came";
         }
+        seguito(classe);
+    }
+
+    void taglia(TagliaConferma& rete, int pacchetto, TagliaConferma::Quando quando)
+    {
+        mOperazione.prepara();
+        mMessaggi.prendi();
+        rete.arma(pacchetto, quando);
+        mOperazione.compi();
+        EXPECT_TRUE(rete.tagliata()) << "the cut never came";
+        const bool prima = quando == TagliaConferma::Quando::primaDelServer;
+        seguito({prima ? "tagliata prima" : "tagliata dopo",
+                 perduta(2013, u"HY000"_s, prima ? Momento::prima : Momento::dopo), caduta});
+    }
+
+private:
+    void seguito(const Classe& classe)
+    {
+        Accaduto accaduto = {.classe = classe};
         guarda(accaduto);
         ripeti(accaduto);
     }
 
-private:
     void guarda(Accaduto& accaduto)
     {
         for (const Messaggio& messaggio : mMessaggi.prendi())
@@ -210,6 +228,45 @@ void provaOgniGuasto(const std::string& tipo, RegistroMessaggi& messaggi, const 
         }
     std::cout << chiamate.size() << " calls, " << stati.size() << " states, " << guasti << " failures, "
               << tempo.elapsed() << " ms\n";
+}
+
+void provaOgniTaglio(TagliaConferma& rete, RegistroMessaggi& messaggi, const Operazione& operazione)
+{
+    using Quando = TagliaConferma::Quando;
+    QStringList chiamate;
+    const QStringList stati = statiDi(operazione, messaggi, chiamate);
+    operazione.prepara();
+    const int prima = rete.passati();
+    operazione.compi();
+    messaggi.prendi();
+    const int pacchetti = rete.passati() - prima;
+    EXPECT_GT(pacchetti, 0);
+    Caso caso(operazione, messaggi, stati);
+    for (int pacchetto = 0; pacchetto < pacchetti; ++pacchetto)
+        for (const Quando quando : {Quando::primaDelServer, Quando::primaDellaRisposta}) {
+            SCOPED_TRACE("packet " + std::to_string(pacchetto) +
+                         (quando == Quando::primaDelServer ? ", not sent" : ", answer lost"));
+            caso.taglia(rete, pacchetto, quando);
+        }
+    std::cout << pacchetti << " packets, " << 2 * pacchetti << " cuts\n";
+}
+
+Cavo::Cavo(const BancaDati& base)
+{
+    const QString stringa = base.stringa();
+    if (!stringa.contains(u"PORT="_s))
+        return;
+    const QString porta = stringa.section(u"PORT="_s, 1).section(u';', 0, 0);
+    mRete.emplace(porta.toUShort());
+    impostazioni().percorsoDatabase =
+        base.stringa().replace(u"PORT="_s + porta, u"PORT=%1"_s.arg(mRete->porta()));
+}
+
+void Cavo::prova(const std::string& tipo, RegistroMessaggi& messaggi, const Operazione& operazione)
+{
+    provaOgniGuasto(tipo, messaggi, operazione);
+    if (mRete)
+        provaOgniTaglio(*mRete, messaggi, operazione);
 }
 
 } // namespace giacenza::prove

@@ -3,8 +3,10 @@
 #include "guasti/guastiodbc.h"
 #include "support/bancadati.h"
 #include "support/registromessaggi.h"
+#include "support/tagliaconferma.h"
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace giacenza::prove {
@@ -55,5 +57,22 @@ struct Operazione
 /// driver's call of it failing in turn with each class. Afterwards the rows must be one of those states, the
 /// operator told what is true, and the next try succeed. Prints how many failures that was.
 void provaOgniGuasto(const std::string& tipo, RegistroMessaggi& messaggi, const Operazione& operazione);
+
+/// The same on the wire: the connection is cut at each packet that the operation sends, before the server
+/// gets it and before its answer comes back. rete: what the screen's connections pass through.
+void provaOgniTaglio(TagliaConferma& rete, RegistroMessaggi& messaggi, const Operazione& operazione);
+
+/// The cable between the screens and the server: in the way of a MariaDB, nothing for SQLite.
+class Cavo
+{
+public:
+    explicit Cavo(const BancaDati& base);
+
+    /// Every failure of an operation, on the wire too where there is one.
+    void prova(const std::string& tipo, RegistroMessaggi& messaggi, const Operazione& operazione);
+
+private:
+    std::optional<TagliaConferma> mRete;
+};
 
 } // namespace giacenza::prove

@@ -17,7 +17,8 @@ class GuastiGestione : public AvvisoDiProva
 {
 protected:
     QString stato() const { return mostrato("lblStato"); }
-    void prova(const Operazione& operazione) { provaOgniGuasto(GetParam(), mMessaggi, operazione); }
+    void TearDown() override { delete mSchermata; }
+    void prova(const Operazione& operazione) { mCavo.prova(GetParam(), mMessaggi, operazione); }
 
     /// The case 39 as it was, on the screen.
     void rimetti()
@@ -38,6 +39,7 @@ protected:
 
     /// The last connection to a file of SQLite that closes has everything written to the disk: not ours.
     Connessione mTenuta = mBase.connessione();
+    Cavo mCavo{mBase};
 };
 
 INSTANTIATE_TEST_SUITE_P(Basi, GuastiGestione, testing::Values("sqlite", "mariadb"),

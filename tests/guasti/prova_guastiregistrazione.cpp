@@ -30,7 +30,8 @@ protected:
     QString stato() const { return mostrato("lblStato"); }
     QString destinatario() const { return mostrato("txtDestinatario"); }
 
-    void prova(const Operazione& operazione) { provaOgniGuasto(GetParam(), mMessaggi, operazione); }
+    void TearDown() override { delete mSchermata; }
+    void prova(const Operazione& operazione) { mCavo.prova(GetParam(), mMessaggi, operazione); }
 
     /// The case of waybill 4711 without its number, and whether the waybill's link is that case's.
     QString giacenzaNuova() const
@@ -81,6 +82,7 @@ protected:
 
     /// The last connection to a file of SQLite that closes has everything written to the disk: not ours.
     Connessione mTenuta = mBase.connessione();
+    Cavo mCavo{mBase};
 };
 
 INSTANTIATE_TEST_SUITE_P(Basi, GuastiRegistrazione, testing::Values("sqlite", "mariadb"),

@@ -25,7 +25,8 @@ protected:
                       [] { return std::make_unique<emissione::EmittenteDeposito>(); });
     }
 
-    void prova(const Operazione& operazione) { provaOgniGuasto(GetParam(), mMessaggi, operazione); }
+    void TearDown() override { delete mSchermata; }
+    void prova(const Operazione& operazione) { mCavo.prova(GetParam(), mMessaggi, operazione); }
 
     void rimetti()
     {
@@ -50,6 +51,7 @@ protected:
 
     /// The last connection to a file of SQLite that closes has everything written to the disk: not ours.
     Connessione mTenuta = mBase.connessione();
+    Cavo mCavo{mBase};
 };
 
 INSTANTIATE_TEST_SUITE_P(Basi, GuastiRiconsegna, testing::Values("sqlite", "mariadb"),
