@@ -6,6 +6,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <string_view>
@@ -38,15 +39,19 @@ bool tutto(int presa, const char* byte, ssize_t quanti)
     return true;
 }
 
-/// The end of a connection or of a prepared statement, alone: nobody waits for it, and it comes when it
-/// likes.
-bool senzaRisposta(std::string_view pacchetto)
+/// Nothing but ends of prepared statements and of the connection: nobody waits for them, and they come alone
+/// or in front of the next packet, as it happens.
+bool senzaRisposta(std::string_view pacchetti)
 {
-    constexpr std::size_t testata = 4;
+    constexpr std::size_t testata = 4; // three bytes of length, and the number in the exchange
     constexpr char fineConnessione = 0x01;
     constexpr char fineIstruzione = 0x19;
-    return (pacchetto.size() == testata + 1 && pacchetto[testata] == fineConnessione) ||
-           (pacchetto.size() == testata + 5 && pacchetto[testata] == fineIstruzione);
+    while (pacchetti.size() > testata && pacchetti[3] == 0 &&
+           (pacchetti[testata] == fineConnessione || pacchetti[testata] == fineIstruzione)) {
+        const auto lunghezza = static_cast<unsigned char>(pacchetti[0]);
+        pacchetti.remove_prefix(std::min(pacchetti.size(), testata + lunghezza));
+    }
+    return pacchetti.empty();
 }
 
 } // namespace
