@@ -21,6 +21,12 @@ if(GIACENZA_SANITIZE)
     target_link_options(giacenza_opzioni INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(GIACENZA_FUZZ)
+    target_compile_options(giacenza_opzioni INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+        -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(giacenza_opzioni INTERFACE -fsanitize=address,undefined)
+endif()
+
 # giacenza_porta(TARGET ROOM SCOPE): lets the target, and with SCOPE PUBLIC who links it, include the headers of one room, of
 # src/ or of the desk, as "room/header.h", and of no other. The folder holds a link to the room alone.
 function(giacenza_porta nome stanza ambito)

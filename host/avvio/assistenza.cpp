@@ -67,7 +67,8 @@ QString schermi()
 QString senzaParola(const QString& stringa)
 {
     static const QRegularExpression parola(
-        u"((?:^|;)\\s*(?:PWD|PASSWORD)\\s*=\\s*)(?:\\{(?:[^}]|\\}\\})*\\}|[^;]*)"_s,
+        // In braces up to the next semicolon behind them; what is never closed is hidden whole.
+        u"((?:^|;)\\s*(?:PWD|PASSWORD)\\s*=\\s*)(?:\\{(?:[^}]|\\}\\})*+(?:\\}[^;]*|$)|[^;]*)"_s,
         QRegularExpression::CaseInsensitiveOption);
     QString pulita = stringa;
     return pulita.replace(parola, u"\\1…"_s);

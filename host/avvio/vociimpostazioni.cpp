@@ -64,6 +64,19 @@ void metti(QStringList& righe, const QString& sezione, const QString& chiave, co
     righe.insert(fine, chiave + u'=' + valore);
 }
 
+/// Whether the component's reader finds the values in a content: a line that stood there may hide what
+/// follows.
+bool siLeggono(const QByteArray& contenuto, const std::vector<QString>& valori)
+{
+    for (std::size_t i = 0; i < valori.size(); ++i) {
+        const VoceImpostazioni& voce = vociImpostazioni().at(i);
+        if (giacenza::LettoreIniProprio::daContenuto(contenuto, nome(voce.sezione), {nome(voce.chiave)})
+                .front() != valori[i].simplified())
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 const std::vector<VoceImpostazioni>& vociImpostazioni()
@@ -118,12 +131,16 @@ QString scriviImpostazioni(const QString& file, const std::vector<QString>& valo
             metti(righe, nome(voce.sezione), nome(voce.chiave), valori[i].simplified());
         }
         const QString testo = righe.join(u'\n') + u'\n';
+        const QByteArray contenuto = giacenza::codifica(testo, letto.codifica).value_or(testo.toUtf8());
+        if (!siLeggono(contenuto, valori))
+            return u"Le impostazioni non si possono scrivere in \"%1\": il file ha una riga che nasconde le "
+                   u"altre, "
+                   "o un valore ha caratteri che il file non tiene. Correggerlo a mano."_s.arg(
+                       QDir::toNativeSeparators(file));
         if (!QFileInfo(file).absoluteDir().mkpath(u"."_s))
             return u"La cartella delle impostazioni non si può creare."_s;
         QSaveFile nuovo(file);
-        const auto scritti = giacenza::codifica(testo, letto.codifica);
-        if (!nuovo.open(QIODevice::WriteOnly) || nuovo.write(scritti.value_or(testo.toUtf8())) < 0 ||
-            !nuovo.commit())
+        if (!nuovo.open(QIODevice::WriteOnly) || nuovo.write(contenuto) < 0 || !nuovo.commit())
             return u"Le impostazioni non si possono scrivere in \"%1\": %2."_s.arg(
                 QDir::toNativeSeparators(file), nuovo.errorString());
         return {};

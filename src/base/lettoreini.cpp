@@ -19,7 +19,13 @@ QStringList LettoreIniProprio::leggi(const QString& percorsoFile, const QString&
                                      const QStringList& chiavi)
 {
     const auto byte = leggiFileLimitato(percorsoNativo(percorsoFile), limiteImpostazioni);
-    const QByteArray testo = decodifica(byte.value_or(QByteArray())).testo.toUtf8();
+    return daContenuto(byte.value_or(QByteArray()), sezione, chiavi);
+}
+
+QStringList LettoreIniProprio::daContenuto(const QByteArray& contenuto, const QString& sezione,
+                                           const QStringList& chiavi)
+{
+    const QByteArray testo = decodifica(contenuto).testo.toUtf8();
     CSimpleIniA voci(true, true);
     const bool letto = voci.LoadData(testo.constData(), static_cast<size_t>(testo.size())) >= 0;
     QStringList valori;

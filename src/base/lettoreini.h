@@ -16,6 +16,9 @@ public:
     QString leggi(const QString& percorsoFile, const QString& sezione, const QString& chiave) override;
     /// The values of several keys of one section, of which the file is read once.
     static QStringList leggi(const QString& percorsoFile, const QString& sezione, const QStringList& chiavi);
+    /// The same of what such a file holds, or is to hold.
+    static QStringList daContenuto(const QByteArray& contenuto, const QString& sezione,
+                                   const QStringList& chiavi);
 };
 
 } // namespace giacenza

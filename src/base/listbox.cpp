@@ -19,7 +19,8 @@ QStringList righe(const QString& testo)
     if (tutte.last().isEmpty())
         tutte.removeLast();
     for (QString& riga : tutte) {
-        if (riga.endsWith(u'\r'))
+        // A file without a last line end may end in half of one, and the next line brings a whole one.
+        while (riga.endsWith(u'\r'))
             riga.chop(1);
     }
     return tutte;

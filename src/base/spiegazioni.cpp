@@ -10,15 +10,26 @@ namespace {
 
 QString perCodiceMariadb(int codice)
 {
+    static const QString pieno = u"Il disco dell'archivio è pieno."_s;
+    static const QString proibito =
+        u"Questo utente non ha il permesso di farlo: chiedere a chi amministra l'archivio."_s;
+    static const QString solaLettura = u"L'archivio è in sola lettura: chiedere a chi lo amministra."_s;
     static const QHash<int, QString> frasi = {
+        {1021, pieno},
+        {1040, u"Il server dell'archivio ha troppe postazioni collegate: riprovare tra poco."_s},
         {1044, u"Il server non apre a questo utente la base di dati indicata."_s},
         {1045, u"Il server ha rifiutato il nome o la parola d'ordine."_s},
         {1049, u"Sul server non c'è la base di dati indicata."_s},
         {1062, u"C'è già una registrazione con la stessa chiave."_s},
-        {1142, u"Questo utente non ha il permesso di farlo: chiedere a chi amministra l'archivio."_s},
+        {1114, pieno},
+        {1142, proibito},
+        {1143, proibito},
         {1146, u"Nell'archivio manca una tabella."_s},
         {1205, u"Un'altra postazione tiene occupata la registrazione: riprovare tra poco."_s},
         {1213, u"Due postazioni si sono ostacolate: riprovare."_s},
+        {1290, solaLettura},
+        {1836, solaLettura},
+        {1969, u"L'archivio non ha risposto in tempo."_s},
         {2002, u"Il server dell'archivio non risponde."_s},
         {2003, u"Il server dell'archivio non risponde."_s},
         {2005, u"Il server dell'archivio non si trova in rete."_s},
@@ -35,6 +46,8 @@ QString perTestoSqlite(const QString& testo)
     static const std::pair<QString, QString> frasi[] = {
         {u"database is locked"_s, u"Un'altra postazione tiene occupato l'archivio: riprovare tra poco."_s},
         {u"database or disk is full"_s, u"Il disco dell'archivio è pieno."_s},
+        {u"disk I/O error"_s, u"Il file dell'archivio non si legge o non si scrive."_s},
+        {u"interrupted"_s, u"L'archivio non ha risposto in tempo."_s},
         {u"readonly database"_s, u"L'archivio è in sola lettura: chiedere a chi lo amministra."_s},
         {u"file is not a database"_s, u"Il file indicato non è un archivio."_s},
         {u"unable to open database"_s, u"Il file dell'archivio non si apre."_s},
@@ -79,6 +92,18 @@ QString spiega(const Errore& errore)
 {
     const auto* delDatabase = dynamic_cast<const ErroreDatabase*>(&errore);
     return delDatabase ? spiega(*delDatabase) : errore.testo();
+}
+
+bool forseScritto(const Errore& errore)
+{
+    constexpr int nonMandata = 2006; // the server was gone before
+    constexpr int senzaRisposta = 2013;
+    const auto* delDatabase = dynamic_cast<const ErroreDatabase*>(&errore);
+    if (!delDatabase || delDatabase->codiceNativo() == nonMandata)
+        return false;
+    const bool caduta =
+        delDatabase->codiceNativo() == senzaRisposta || delDatabase->sqlstate().startsWith("08"_L1);
+    return caduta && delDatabase->istruzione().startsWith("update"_L1, Qt::CaseInsensitive);
 }
 
 } // namespace giacenza

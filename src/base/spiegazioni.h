@@ -12,4 +12,8 @@ QString spiega(const ErroreDatabase& errore);
 /// The same for any failure: what is not the database's has its own Italian text.
 QString spiega(const Errore& errore);
 
+/// Whether the connection was lost while a statement of its own was writing: then nobody knows whether it
+/// did. In a transaction it did not.
+bool forseScritto(const Errore& errore);
+
 } // namespace giacenza

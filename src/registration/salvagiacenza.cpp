@@ -1,5 +1,6 @@
 #include "registration/salvagiacenza.h"
 
+#include "base/spiegazioni.h"
 #include "data/archivio.h"
 #include "ui_frmGiacenza.h"
 
@@ -119,9 +120,11 @@ void SalvaGiacenza::avvisa()
         mAvviso.EmettiAvvisoGiacenza(false);
     } catch (const Errore& errore) {
         // What follows a save that succeeded ends without a message: the held shipment is there.
-        mSchermata.statoGuasto(
-            errore, u"La giacenza %1 è registrata, l'avviso no: emetterlo con il suo bottone. "_s.arg(
-                        mParti.caso.numero()));
+        const QString detto =
+            forseScritto(errore)
+                ? u"La giacenza %1 è registrata, non si sa se l'avviso è contato: emetterlo con il suo bottone. "_s
+                : u"La giacenza %1 è registrata, l'avviso no: emetterlo con il suo bottone. "_s;
+        mSchermata.statoGuasto(errore, detto.arg(mParti.caso.numero()));
     }
 }
 

@@ -21,6 +21,15 @@ namespace {
 struct Abbandono
 {};
 
+QString nonRiuscita(const ErroreDatabase& errore)
+{
+    if (forseScritto(errore))
+        return u"Non si sa se l'operazione è riuscita: l'archivio non ha risposto mentre scriveva. Ripeterla "
+               u"non "
+               "la conta due volte."_s;
+    return u"Operazione non riuscita: il database o un suo dato non risponde come dovrebbe."_s;
+}
+
 } // namespace
 
 Schermata::Schermata(const QString& nome)
@@ -58,10 +67,7 @@ std::function<void()> Schermata::gestore(std::function<void()> azione)
                 throw;
             } catch (const ErroreDatabase& errore) {
                 statoGuasto(errore);
-                messaggio(
-                    u"Operazione non riuscita: il database o un suo dato non risponde come dovrebbe.\n\n"_s +
-                        spiega(errore),
-                    Stile::critico, titoloGestione());
+                messaggio(nonRiuscita(errore) + u"\n\n"_s + spiega(errore), Stile::critico, titoloGestione());
             } catch (...) {
                 // A part of the host's throws what it likes, and nothing may pass through Qt's loop.
                 stato(testoErrore());

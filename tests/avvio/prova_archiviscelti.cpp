@@ -87,6 +87,8 @@ TEST(Assistenza, LaParolaDOrdineNonEsceMai)
     EXPECT_EQ(senzaParola(u"uid=a; Password = {se;gre}}ta};DATABASE=b"_s),
               u"uid=a; Password = …;DATABASE=b"_s);
     EXPECT_EQ(senzaParola(u"pwd=segreta"_s), u"pwd=…"_s);
+    EXPECT_EQ(senzaParola(u"PWD={se;gre;DATABASE=b"_s), u"PWD=…"_s) << "nobody knows where it ends";
+    EXPECT_EQ(senzaParola(u"PWD={se}gre;DATABASE=b"_s), u"PWD=…;DATABASE=b"_s);
     const QString testo = informazioniAssistenza(u"SERVER=s;PWD=segreta"_s, u"/nessuno/giacenza.ini"_s);
     EXPECT_FALSE(testo.contains(u"segreta"_s)) << testo.toStdString();
     for (const char16_t* atteso :

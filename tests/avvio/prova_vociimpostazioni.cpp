@@ -77,4 +77,17 @@ TEST_F(VociImpostazioni, CioCheNonSiPuoScrivereSiDice)
               u"La cartella delle impostazioni non si può creare."_s);
 }
 
+TEST_F(VociImpostazioni, UnaRigaCheNasconderebbeIlValoreFermaLaScrittura)
+{
+    mFile = mCartella.filePath(u"giacenza.ini"_s);
+    scrivi("[Altro]\nX=1\n[\n");
+    std::vector<QString> valori = leggiImpostazioni(mFile);
+    valori[posto(u"IdentificativoDll"_s)] = u"Deposito"_s;
+    EXPECT_EQ(
+        scriviImpostazioni(mFile, valori),
+        u"Le impostazioni non si possono scrivere in \"%1\": il file ha una riga che nasconde le altre, o un "
+        "valore ha caratteri che il file non tiene. Correggerlo a mano."_s.arg(mFile));
+    EXPECT_EQ(scritto(), QByteArray("[Altro]\nX=1\n[\n"));
+}
+
 } // namespace

@@ -32,8 +32,16 @@ TEST(Spiegazioni, OgniCodiceConosciutoHaLaSuaFrase)
     EXPECT_EQ(mariadb(1044), u"Il server non apre a questo utente la base di dati indicata."_s);
     EXPECT_EQ(mariadb(2026), u"La connessione cifrata con il server non è riuscita."_s);
     EXPECT_EQ(mariadb(1146), u"Nell'archivio manca una tabella."_s);
-    EXPECT_EQ(mariadb(1142),
-              u"Questo utente non ha il permesso di farlo: chiedere a chi amministra l'archivio."_s);
+    for (const int codice : {1142, 1143})
+        EXPECT_EQ(mariadb(codice),
+                  u"Questo utente non ha il permesso di farlo: chiedere a chi amministra l'archivio."_s);
+    for (const int codice : {1021, 1114})
+        EXPECT_EQ(mariadb(codice), u"Il disco dell'archivio è pieno."_s);
+    for (const int codice : {1290, 1836})
+        EXPECT_EQ(mariadb(codice), u"L'archivio è in sola lettura: chiedere a chi lo amministra."_s);
+    EXPECT_EQ(mariadb(1969, u"70100"_s), u"L'archivio non ha risposto in tempo."_s);
+    EXPECT_EQ(mariadb(1040),
+              u"Il server dell'archivio ha troppe postazioni collegate: riprovare tra poco."_s);
     EXPECT_EQ(mariadb(1205), u"Un'altra postazione tiene occupata la registrazione: riprovare tra poco."_s);
     EXPECT_EQ(mariadb(1213), u"Due postazioni si sono ostacolate: riprovare."_s);
     EXPECT_EQ(mariadb(1062), u"C'è già una registrazione con la stessa chiave."_s);
@@ -54,7 +62,23 @@ TEST(Spiegazioni, SqliteSiCapisceDalTesto)
     EXPECT_EQ(sqlite(u"attempt to write a readonly database"_s),
               u"L'archivio è in sola lettura: chiedere a chi lo amministra."_s);
     EXPECT_EQ(sqlite(u"[SQLite]no such table: porto (1)"_s), u"Nell'archivio manca una tabella."_s);
+    EXPECT_EQ(sqlite(u"[SQLite]disk I/O error (10)"_s),
+              u"Il file dell'archivio non si legge o non si scrive."_s);
+    EXPECT_EQ(sqlite(u"[SQLite]interrupted (9)"_s), u"L'archivio non ha risposto in tempo."_s);
     EXPECT_EQ(sqlite(u"file is not a database"_s), u"Il file indicato non è un archivio."_s);
+}
+
+TEST(Spiegazioni, SoloUnaRispostaPersaScrivendoLasciaInDubbio)
+{
+    const auto perso = [](const QString& stato, int codice, const QString& istruzione) {
+        return forseScritto(ErroreDatabase(stato, codice, u"lost"_s, istruzione));
+    };
+    EXPECT_TRUE(perso(u"HY000"_s, 2013, u"UPDATE giace00f SET GINRAV='1'"_s));
+    EXPECT_TRUE(perso(u"08S01"_s, 0, u"update giace00f set GIGGSO=1"_s));
+    EXPECT_FALSE(perso(u"08S01"_s, 2006, u"update giace00f set GIGGSO=1"_s)) << "it was not sent";
+    EXPECT_FALSE(perso(u"HY000"_s, 2013, u"select GIDTBF from giace00f"_s));
+    EXPECT_FALSE(perso(u"HY000"_s, 1205, u"update giace00f set GIGGSO=1"_s));
+    EXPECT_FALSE(forseScritto(Errore(u"Manca la data."_s)));
 }
 
 TEST(Spiegazioni, CioCheNonEDelDatabaseParlaDaSe)

@@ -119,15 +119,19 @@ TEST_P(AvvisoGuasti, CollegamentoPersoPrimaDiOgniIstruzione)
 {
     richiamaAvvisato();
     const QString prima = tutto(u"39"_s);
-    for (const char16_t* punto : {u"select GINRAV", u"UPDATE giace00f SET GINRAV"}) {
-        fallisce(QString::fromUtf16(punto), u"08S01"_s);
+    const std::pair<QString, QString> guasti[] = {
+        {u"select GINRAV"_s,
+         u"Operazione non riuscita: il database o un suo dato non risponde come dovrebbe."_s},
+        {u"UPDATE giace00f SET GINRAV"_s, u"Non si sa se l'operazione è riuscita: l'archivio non ha risposto "
+                                          u"mentre scriveva. Ripeterla non la "
+                                          "conta due volte."_s}};
+    for (const auto& [punto, detto] : guasti) {
+        fallisce(punto, u"08S01"_s);
         avvisa(u"motivo"_s);
         guarisce();
-        EXPECT_THAT(
-            mMessaggi.prendi(),
-            ElementsAre(Messaggio{u"Operazione non riuscita: il database o un suo dato non risponde come "
-                                  "dovrebbe.\n\nLa connessione con l'archivio è caduta."_s,
-                                  Stile::critico, u"Gestione Trasporti"_s}));
+        EXPECT_THAT(mMessaggi.prendi(),
+                    ElementsAre(Messaggio{detto + u"\n\nLa connessione con l'archivio è caduta."_s,
+                                          Stile::critico, u"Gestione Trasporti"_s}));
         EXPECT_EQ(c("lblStato")->toolTip(), u"guasto di prova"_s) << "the driver's words";
         EXPECT_EQ(tutto(u"39"_s), prima);
         EXPECT_EQ(mostrato("lblDataAvviso"), u"20/11/2026"_s);

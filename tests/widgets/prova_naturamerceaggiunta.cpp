@@ -99,6 +99,14 @@ TEST_F(NaturaMerceAggiunta, unUltimaRigaApertaNonSiAttaccaAllaNuova)
     EXPECT_EQ(leggi(lista), "VEDI DDT\nCOLLI\n");
 }
 
+TEST_F(NaturaMerceAggiunta, unaRigaCheFinisceAMetaRestaQuella)
+{
+    scrivi(lista, "VEDI DDT\r\nSCATOLE\r");
+    aggiungi(u"colli"_s);
+    EXPECT_EQ(giacenza::leggiElenco(percorsoNaturaMerce()),
+              (QStringList{u"VEDI DDT"_s, u"SCATOLE"_s, u"COLLI"_s}));
+}
+
 TEST_F(NaturaMerceAggiunta, laCodificaEQuellaDelFile)
 {
     scrivi(lista, "VEDI DDT\nCAFF\xC8\n");
