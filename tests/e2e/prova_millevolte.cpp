@@ -1,0 +1,195 @@
+// Screens and dialogs opened and closed again and again: the process is afterwards as it was before.
+
+#include "dialogs/frmCalendario.h"
+#include "dialogs/frmPorto.h"
+#include "dialogs/frmRifiuto.h"
+#include "management/frmGestGia.h"
+#include "redelivery/frmRiconsegna.h"
+#include "registration/frmGiacenza.h"
+#include "search/frmRicerca.h"
+#include "search/frmRicercaGia.h"
+#include "support/bancadati.h"
+#include "support/spedizioni.h"
+#include "support/stampa.h"
+
+#include "base/impostazioni.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QLineEdit>
+#include <QPixmapCache>
+#include <QPointer>
+#include <QTest>
+
+#include <gmock/gmock.h>
+
+#include <malloc.h>
+
+using namespace Qt::StringLiterals;
+using namespace giacenza;
+using namespace giacenza::prove;
+
+namespace {
+
+/// What stays for the process (fonts, styles, a driver) is there after these.
+constexpr int primeVolte = 60;
+/// Bytes that an opening may leave: less than the smallest object of the toolkit's.
+constexpr qint64 niente = 64;
+/// What Qt 6.4 keeps of a combo box under a style sheet, and of a calendar: plain ones leave as much.
+constexpr qint64 delToolkit = 1280;
+
+/// GIACENZA_VOLTE: how often each window is opened; 200 times where it is not set.
+int volte()
+{
+    bool detto = false;
+    const int quante = qEnvironmentVariableIntValue("GIACENZA_VOLTE", &detto);
+    return detto ? quante : 100;
+}
+
+void elabora()
+{
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+/// Bytes that the process has asked for and not given back; the toolkit's pictures, which it keeps up to a
+/// limit of its own, are given back first.
+qint64 memoria()
+{
+    QPixmapCache::clear();
+    return static_cast<qint64>(mallinfo2().uordblks);
+}
+
+qsizetype manici()
+{
+    return QDir(u"/proc/self/fd"_s).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size();
+}
+
+template<class Finestra>
+void mostra(Finestra& finestra)
+{
+    finestra.show();
+    elabora();
+    if constexpr (std::is_base_of_v<QDialog, Finestra>)
+        QTest::keyClick(&finestra, Qt::Key_Escape);
+    else
+        finestra.close();
+    elabora();
+}
+
+/// A screen goes with its closing.
+template<class Schermata>
+void schermata()
+{
+    QPointer<Schermata> schermo = new Schermata;
+    schermo->carica();
+    mostra(*schermo);
+    EXPECT_TRUE(schermo.isNull());
+}
+
+void elencoLdv()
+{
+    frmRicercaGia ricerca;
+    ricerca.setTipoRicerca(1);
+    ricerca.setCodiceCliente(u"1001"_s);
+    ricerca.setFiliale(u"MI"_s);
+    mostra(ricerca);
+}
+
+void soggetti()
+{
+    frmRicerca ricerca;
+    ricerca.setStringaConnessione(impostazioni().percorsoDatabase);
+    ricerca.setNomeTabella(u"clien"_s);
+    ricerca.setClienti_Fornitori(1);
+    mostra(ricerca);
+}
+
+template<class Dialogo>
+void dialogo()
+{
+    Dialogo finestra;
+    mostra(finestra);
+}
+
+struct Apertura
+{
+    const char* nome;
+    void (*apri)();
+    qint64 concesso;
+};
+
+/// What the toolkit itself keeps of a window.
+void nudo()
+{
+    QDialog finestra;
+    QLineEdit campo(&finestra);
+    mostra(finestra);
+}
+
+constexpr Apertura aperture[] = {
+    {"nudo", nudo, niente},
+    {"frmGiacenza", schermata<frmGiacenza>, delToolkit},
+    {"frmGestGia", schermata<frmGestGia>, delToolkit},
+    {"frmRiconsegna", schermata<frmRiconsegna>, delToolkit},
+    {"frmCalendario", dialogo<frmCalendario>, delToolkit},
+    {"frmRifiuto", dialogo<frmRifiuto>, niente},
+    {"frmPorto", dialogo<frmPorto>, niente},
+    {"frmRicerca", soggetti, niente},
+    {"frmRicercaGia", elencoLdv, niente},
+};
+
+class MilleVolte : public testing::TestWithParam<std::tuple<Apertura, std::string>>
+{
+protected:
+    MilleVolte()
+    {
+        riempiDeposito(mBase);
+        impostazioni().percorsoDatabase = mBase.stringa();
+    }
+    ~MilleVolte() override { impostazioni() = {}; }
+
+    /// Sessions that the server has open for the workstation's user; none to count in a file.
+    qint64 connessioni() const
+    {
+        if (std::get<1>(GetParam()) == "sqlite")
+            return 0;
+        const Valore quante = mBase.leggi(
+            u"select count(*) from information_schema.processlist where db=database() and command<>'Killed'"_s);
+        return quante.value_or(u"-1"_s).toLongLong();
+    }
+
+    BancaDati mBase{std::get<1>(GetParam())};
+};
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Finestre, MilleVolte,
+                         testing::Combine(testing::ValuesIn(aperture), testing::Values("sqlite", "mariadb")),
+                         [](const auto& parametro) {
+                             return std::string(std::get<0>(parametro.param).nome) + "_" +
+                                    std::get<1>(parametro.param);
+                         });
+
+TEST_P(MilleVolte, IlProcessoRestaComEra)
+{
+    const Apertura& apertura = std::get<0>(GetParam());
+    for (int volta = 0; volta < primeVolte; ++volta)
+        apertura.apri();
+    const qint64 prima = memoria();
+    const qsizetype maniciPrima = manici();
+    const qint64 connessioniPrima = connessioni();
+    ASSERT_GT(prima, 0);
+    const int quante = volte();
+    ASSERT_GT(quante, 0);
+    for (int volta = 0; volta < quante; ++volta)
+        apertura.apri();
+    const qint64 cresciuta = (memoria() - prima) / quante;
+    RecordProperty("bytes", static_cast<int>(cresciuta));
+    std::cout << apertura.nome << ": " << cresciuta << " bytes more for each of " << quante << " openings\n";
+    EXPECT_LE(cresciuta, apertura.concesso);
+    EXPECT_EQ(manici(), maniciPrima);
+    EXPECT_EQ(connessioni(), connessioniPrima);
+    EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
+}
