@@ -25,10 +25,10 @@ QDate data(const Recordset& riga, Colonna colonna)
     return leggiData(testo(riga, colonna).left(10)).value_or(QDate());
 }
 
-Catena leggiTesta(const Recordset& riga, QDate oggi, int giorniFerma)
+Catena leggiTesta(const Recordset& riga, Connessione& connessione, QDate oggi, int giorniFerma)
 {
     Catena catena;
-    catena.riga = rigaDi(leggiCaso(riga), oggi, giorniFerma);
+    catena.riga = rigaDi(leggiCaso(riga, connessione), oggi, giorniFerma);
     catena.buonFine = data(riga, ColonnaChiusura::gidtbf);
     catena.giorni = testo(riga, ColonnaChiusura::giggso);
     catena.importo = testo(riga, ColonnaChiusura::giimgi);
@@ -152,7 +152,7 @@ std::optional<Catena> leggiCatena(Connessione& connessione, const ChiaveGiacenza
               std::vector<Valore>{chiave.numero, QString::number(chiave.anno)});
     if (riga.eof())
         return std::nullopt;
-    Catena catena = leggiTesta(riga, oggi, giorniFerma);
+    Catena catena = leggiTesta(riga, connessione, oggi, giorniFerma);
     riga.chiudi();
     aggiungiAvvisi(catena, cartelle);
     aggiungiLegate(catena, connessione, cartelle);
