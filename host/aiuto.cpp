@@ -1,18 +1,17 @@
 #include "aiuto.h"
 
+#include "guida.h"
 #include "host/avvio/assistenza.h"
 #include "host/avvio/avvio.h"
 #include "host/avvio/frmImpostazioni.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QClipboard>
-#include <QDesktopServices>
-#include <QGuiApplication>
 #include <QMainWindow>
 #include <QMenu>
 #include <QProcess>
 #include <QSettings>
-#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -65,18 +64,13 @@ void Aiuto::cambiaArchivio()
 
 void Aiuto::mostraGuida()
 {
-    const QString guida = fileGuida();
-    QUrl pagina = QUrl::fromLocalFile(guida);
-    pagina.setFragment(u"la-giornata"_s);
-    if (guida.isEmpty())
-        mMessaggio(u"La guida non è installata su questo computer."_s);
-    else if (!QDesktopServices::openUrl(pagina))
-        mMessaggio(u"La guida non si apre: manca un programma per leggerla. È in %1"_s.arg(guida));
+    if (const QString guasto = apriGuida(ancoraGuida(QApplication::focusWidget())); !guasto.isEmpty())
+        mMessaggio(guasto);
 }
 
 void Aiuto::copiaInformazioni()
 {
-    QGuiApplication::clipboard()->setText(informazioniAssistenza(mOpzioni.database, mOpzioni.ini));
+    QApplication::clipboard()->setText(informazioniAssistenza(mOpzioni.database, mOpzioni.ini));
     mMessaggio(
         u"Le informazioni per l'assistenza sono negli appunti, senza la parola d'ordine: incollarle nel messaggio."_s);
 }

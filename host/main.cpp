@@ -1,11 +1,16 @@
+#include "desk/dati/sfondo.h"
+#include "desk/finestra/particomponente.h"
 #include "finestra.h"
+#include "guida.h"
 #include "host/avvio/avvio.h"
 #include "host/avvio/istanzaunica.h"
 #include "registro.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QSettings>
 
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 
@@ -39,6 +44,39 @@ bool trovaArchivio(deposito::Opzioni& opzioni)
     return scelto.has_value();
 }
 
+/// What the archive of this start is, as far as it is known before anything is asked; never the password.
+QString archivioNoto(const deposito::Opzioni& opzioni)
+{
+    if (!opzioni.database.isEmpty() || !opzioni.guasto.isEmpty())
+        return opzioni.database;
+    QSettings impostazioni;
+    const auto scelta = deposito::sceltaRicordata(impostazioni);
+    return scelta ? deposito::stringaOdbc(*scelta, {}) : QString();
+}
+
+/// What the operator has before him: the desk, and over it, or alone before there is one, what is asked.
+void vieniAvanti(deposito::Finestra* finestra)
+{
+    if (finestra)
+        finestra->vieniAvanti();
+    QWidget* domanda = QApplication::activeModalWidget();
+    if (!domanda)
+        return;
+    domanda->setWindowState(domanda->windowState() & ~Qt::WindowMinimized);
+    domanda->raise();
+    domanda->activateWindow();
+}
+
+/// A server that says nothing holds a reading for as long as it likes, and the program with it.
+void vaiSenzaChiNonFinisce(int codice)
+{
+    constexpr std::chrono::seconds pazienza(3);
+    if (giacenza::desk::Sfondo::fermatiEntro(pazienza))
+        return;
+    QSettings().sync();
+    std::_Exit(codice);
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -50,9 +88,15 @@ int main(int argc, char* argv[])
     QApplication::setWindowIcon(deposito::icona());
     QApplication::setQuitOnLastWindowClosed(false);
     deposito::parlaItaliano(applicazione);
+    const deposito::TastoGuida tastoGuida;
 
     deposito::Opzioni opzioni = deposito::leggiOpzioni(applicazione);
-    deposito::IstanzaUnica unica(opzioni.ini, opzioni.database);
+    // Where the archive's extension is, too.
+    giacenza::desk::cercaPartiAccantoAlComponente();
+    deposito::IstanzaUnica unica(opzioni.ini, archivioNoto(opzioni));
+    QPointer<deposito::Finestra> aperta;
+    QObject::connect(&unica, &deposito::IstanzaUnica::chiamata, &applicazione,
+                     [&aperta] { vieniAvanti(aperta); });
     if (!opzioni.nuova) {
         if (unica.chiama())
             return 0;
@@ -60,8 +104,15 @@ int main(int argc, char* argv[])
     }
     if (!trovaArchivio(opzioni))
         return 0;
+    if (unica.cambia(opzioni.database) && !opzioni.nuova && unica.chiama())
+        return 0;
+    // Also a window that was asked for beside another: on another archive it is the first.
+    unica.ascolta();
     deposito::Finestra finestra(opzioni);
-    QObject::connect(&unica, &deposito::IstanzaUnica::chiamata, &finestra, &deposito::Finestra::vieniAvanti);
+    aperta = &finestra;
+    QObject::connect(&applicazione, &QCoreApplication::aboutToQuit, &unica, &deposito::IstanzaUnica::taci);
     finestra.show();
-    return QApplication::exec();
+    const int codice = QApplication::exec();
+    vaiSenzaChiNonFinisce(codice);
+    return codice;
 }

@@ -19,6 +19,8 @@ QString racconta(const giacenza::RegistroPreparato& registro)
                         .arg(registro.versione));
     if (!registro.conti.isEmpty())
         righe << u"Lo leggono, e aggiungono note: %1."_s.arg(registro.conti.join(u", "_s));
+    for (const QString& conto : registro.possonoCambiarlo)
+        righe << u"%1 può cambiare il registro: togliergli i diritti sull'intera base."_s.arg(conto);
     if (registro.definitore == u"current_user"_s)
         righe << u"I trigger sono di questo conto: se viene tolto, i salvataggi saranno rifiutati finché chi "
                  u"può creare "

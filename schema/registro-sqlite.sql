@@ -158,3 +158,36 @@ create trigger if not exists registro_note_non_si_sostituisce before insert on r
 begin
     select raise(abort, 'Le righe di registro_note non si sostituiscono.');
 end;
+
+-- versione 3
+
+-- Before an insert new.progressivo is -1 where none is given: a row of that number would pass for the one that every
+-- later insert replaces, and so refuse every save. Such numbers are refused, and the one that may stand there is passed by.
+
+drop trigger if exists registro_non_si_sostituisce;
+
+create trigger if not exists registro_non_si_sostituisce before insert on registro
+    when new.progressivo <> -1 and exists (select 1 from registro where progressivo = new.progressivo)
+begin
+    select raise(abort, 'Le righe di registro non si sostituiscono.');
+end;
+
+create trigger if not exists registro_numero_positivo after insert on registro
+    when new.progressivo < 1
+begin
+    select raise(abort, 'I numeri delle righe di registro cominciano da 1.');
+end;
+
+drop trigger if exists registro_note_non_si_sostituisce;
+
+create trigger if not exists registro_note_non_si_sostituisce before insert on registro_note
+    when new.progressivo <> -1 and exists (select 1 from registro_note where progressivo = new.progressivo)
+begin
+    select raise(abort, 'Le righe di registro_note non si sostituiscono.');
+end;
+
+create trigger if not exists registro_note_numero_positivo after insert on registro_note
+    when new.progressivo < 1
+begin
+    select raise(abort, 'I numeri delle righe di registro_note cominciano da 1.');
+end;

@@ -98,11 +98,11 @@ void rimettiTrigger(Connessione& connessione, int versione, const QString& defin
                 connessione.esegui(istruzione);
 }
 
-QStringList contiPostazioni(Connessione& connessione)
+QStringList conti(Connessione& connessione, const QString& istruzione)
 {
     QStringList conti;
     Recordset righe;
-    for (righe.apri(connessione, istruzioni::contiPostazioni()); !righe.eof(); righe.successivo())
+    for (righe.apri(connessione, istruzione); !righe.eof(); righe.successivo())
         conti << righe.valore(0).value_or(QString());
     return conti;
 }
@@ -110,7 +110,7 @@ QStringList contiPostazioni(Connessione& connessione)
 void concedi(Connessione& connessione, RegistroPreparato& registro)
 {
     const QString base = primoValore(connessione, istruzioni::nomeBase());
-    for (const QString& conto : contiPostazioni(connessione)) {
+    for (const QString& conto : conti(connessione, istruzioni::contiPostazioni())) {
         bool tutte = true;
         for (const QString& istruzione : istruzioniPrivilegiRegistro(base, conto)) {
             // The notes come with a version of their own.
@@ -155,6 +155,7 @@ void preparaMariadb(Connessione& connessione, RegistroPreparato& registro, int f
     }
     rimettiTrigger(connessione, registro.versione, registro.definitore);
     concedi(connessione, registro);
+    registro.possonoCambiarlo = conti(connessione, istruzioni::contiSullaBase());
 }
 
 } // namespace

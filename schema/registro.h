@@ -20,11 +20,12 @@ QStringList istruzioniPrivilegiRegistro(const QString& base, const QString& cont
 /// What a preparation found and did.
 struct RegistroPreparato
 {
-    int prima = 0;           ///< the version that was there, 0 for none
-    int versione = 0;        ///< the version that is there now
-    QString definitore;      ///< who the triggers run as; empty on SQLite
-    QStringList conti;       ///< the accounts that may now read it; empty on SQLite
-    QStringList daConcedere; ///< what somebody with more rights has to run, statement by statement
+    int prima = 0;                ///< the version that was there, 0 for none
+    int versione = 0;             ///< the version that is there now
+    QString definitore;           ///< who the triggers run as; empty on SQLite
+    QStringList conti;            ///< the accounts that may now read it; empty on SQLite
+    QStringList possonoCambiarlo; ///< the accounts whose rights on the whole base reach the register too
+    QStringList daConcedere;      ///< what somebody with more rights has to run, statement by statement
 };
 
 /// Prepares the register of a depot's database: runs the versions that are not there yet, each once, and on

@@ -14,15 +14,23 @@ namespace {
 
 const QString avvisataOggi = u"avvisata oggi"_s;
 
-/// A failure in few words for the operator.
-QString inItaliano()
+/// The connection is gone, or was not had, or waited for too long.
+bool eDiConnessione(const ErroreDatabase& errore)
+{
+    return errore.sqlstate().startsWith(u"08"_s) || errore.sqlstate().startsWith(u"HYT"_s);
+}
+
+/// The failure at hand, in few words for the operator.
+EsitoCaso rifiutato()
 {
     try {
         throw;
+    } catch (const ErroreDatabase& errore) {
+        return {Esito::rifiutato, inUnaRiga(spiega(errore)), {}, eDiConnessione(errore)};
     } catch (const Errore& errore) {
-        return inUnaRiga(spiega(errore));
+        return {Esito::rifiutato, inUnaRiga(spiega(errore))};
     } catch (...) {
-        return inUnaRiga(testoErrore());
+        return {Esito::rifiutato, inUnaRiga(testoErrore())};
     }
 }
 
@@ -72,7 +80,18 @@ EsitoCaso EmittenteCaso::conta(const Caso& caso)
     try {
         return contaOra(caso);
     } catch (...) {
-        return {Esito::rifiutato, inItaliano()};
+        return rifiutato();
+    }
+}
+
+/// The module reads the archive by itself, and does not say when it cannot be reached.
+EsitoCaso EmittenteCaso::raggiungi(const EsitoCaso& esito)
+{
+    try {
+        connessione();
+        return esito;
+    } catch (...) {
+        return rifiutato();
     }
 }
 
@@ -83,10 +102,12 @@ EsitoCaso EmittenteCaso::svolgi(Lavoro lavoro, const Caso& caso, QWidget* padre)
     try {
         didascalie = leggiDidascalie();
     } catch (...) {
-        return {Esito::rifiutato, inItaliano()};
+        return rifiutato();
     }
     if (lavoro == Lavoro::avviso)
         esito = conta(caso);
+    else
+        esito = raggiungi(esito);
     if (esito.esito != Esito::fatto)
         return esito;
     const QString chiave = caso.chiave.numero + u'_' + QString::number(caso.chiave.anno);

@@ -24,8 +24,9 @@ enum class Esito
 struct EsitoCaso
 {
     Esito esito = Esito::rifiutato;
-    QString parole; ///< what was done, or why not
-    QString file{}; ///< the document, absolute; empty where the module does not say
+    QString parole;             ///< what was done, or why not
+    QString file{};             ///< the document, absolute; empty where the module does not say
+    bool senzaArchivio = false; ///< the archive does not answer: the next case would fare no better
 };
 
 /// Whether a case is left out of the notices of a day, as far as the list knows: nothing, or why.
@@ -45,6 +46,7 @@ public:
 private:
     EsitoCaso conta(const Caso& caso);
     EsitoCaso contaOra(const Caso& caso);
+    EsitoCaso raggiungi(const EsitoCaso& esito);
     Connessione& connessione();
 
     Accesso mAccesso;

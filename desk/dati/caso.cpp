@@ -27,8 +27,13 @@ private:
     const Recordset& mRiga;
 };
 
-std::optional<CondizioniSosta> condizioni(const Valori& v)
+/// The closure takes the terms by number and year alone: where another branch has them too, it is asked for
+/// what it would take.
+std::optional<CondizioniSosta> condizioni(const Valori& v, const ChiaveSpedizione& ldv,
+                                          Connessione& connessione)
 {
+    if (v.intero(ColonnaCaso::omonime) > 0)
+        return leggiCondizioni(connessione, ldv.numero, ldv.anno);
     if (!v.valore(ColonnaCaso::facodi))
         return std::nullopt;
     return CondizioniSosta{v.valore(ColonnaCaso::fadfgi), v.valore(ColonnaCaso::fafrgi),
@@ -37,7 +42,7 @@ std::optional<CondizioniSosta> condizioni(const Valori& v)
 
 } // namespace
 
-Caso leggiCaso(const Recordset& riga)
+Caso leggiCaso(const Recordset& riga, Connessione& connessione)
 {
     const Valori v(riga);
     Caso caso;
@@ -59,7 +64,7 @@ Caso leggiCaso(const Recordset& riga)
     caso.ultimaLegata = v.data(ColonnaCaso::ultimaLegata);
     caso.colli = v.intero(ColonnaCaso::lecoll);
     caso.peso = v.testo(ColonnaCaso::lepeso);
-    caso.condizioni = condizioni(v);
+    caso.condizioni = condizioni(v, caso.ldv, connessione);
     return caso;
 }
 

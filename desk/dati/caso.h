@@ -33,8 +33,9 @@ struct Caso
     std::optional<CondizioniSosta> condizioni; ///< nothing: the customer has none
 };
 
-/// The row of casiAperti() or casoIntero(). Throws ErroreDatabase.
-Caso leggiCaso(const Recordset& riga);
+/// The row of casiAperti() or casoIntero(), with the terms that a closure would charge by. connessione: the
+/// one that the row is read on. Throws ErroreDatabase.
+Caso leggiCaso(const Recordset& riga, Connessione& connessione);
 
 /// "231/2026".
 QString nomeGiacenza(const ChiaveGiacenza& chiave);

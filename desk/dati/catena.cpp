@@ -1,6 +1,7 @@
 #include "desk/dati/catena.h"
 
 #include "data/istruzionidesk.h"
+#include "desk/registro/cronologia.h"
 
 #include <QFileInfo>
 
@@ -25,10 +26,10 @@ QDate data(const Recordset& riga, Colonna colonna)
     return leggiData(testo(riga, colonna).left(10)).value_or(QDate());
 }
 
-Catena leggiTesta(const Recordset& riga, QDate oggi, int giorniFerma)
+Catena leggiTesta(const Recordset& riga, Connessione& connessione, QDate oggi, int giorniFerma)
 {
     Catena catena;
-    catena.riga = rigaDi(leggiCaso(riga), oggi, giorniFerma);
+    catena.riga = rigaDi(leggiCaso(riga, connessione), oggi, giorniFerma);
     catena.buonFine = data(riga, ColonnaChiusura::gidtbf);
     catena.giorni = testo(riga, ColonnaChiusura::giggso);
     catena.importo = testo(riga, ColonnaChiusura::giimgi);
@@ -62,14 +63,58 @@ void aggiungiDocumenti(Catena& catena, const std::vector<DocumentoTrovato>& docu
                                 QFileInfo(documento.file).fileName(), documento.file});
 }
 
-void aggiungiAvvisi(Catena& catena, const Cartelle& cartelle)
+/// The notices that the register saw go out, each with its day; nothing where it is not there, or came after
+/// the first of them: then the case alone says how many there are.
+std::vector<registro::Evento> avvisiRegistrati(Connessione& connessione, const Caso& caso)
+{
+    const registro::Presenza presenza = registro::presenzaRegistro(connessione);
+    if (!presenza.eventi)
+        return {};
+    std::vector<registro::Evento> avvisi = leggiCronologia(connessione, caso.chiave, presenza).eventi;
+    std::erase_if(avvisi, [](const registro::Evento& evento) {
+        return evento.fatto != u"avvisata"_s || evento.valore.isEmpty() ||
+               evento.fonte != registro::Fonte::registro;
+    });
+    return avvisi;
+}
+
+/// Each notice, and behind it the prints of its day and of the days up to the next one.
+void aggiungiAvvisiEDocumenti(Catena& catena, const std::vector<registro::Evento>& avvisi,
+                              const std::vector<DocumentoTrovato>& documenti)
+{
+    auto stampa = documenti.begin();
+    const auto aggiungiFinoA = [&](QDate giorno) {
+        for (; stampa != documenti.end() && stampa->scritto.date() < giorno; ++stampa)
+            aggiungiDocumenti(catena, {*stampa});
+    };
+    for (const registro::Evento& avviso : avvisi) {
+        aggiungiFinoA(avviso.quando.date());
+        catena.passi.push_back({TipoPasso::avviso, avviso.quando.date(), u"n. "_s + avviso.valore, {}});
+    }
+    aggiungiDocumenti(catena, {stampa, documenti.end()});
+}
+
+void aggiungiAvvisi(Catena& catena, Connessione& connessione, const Cartelle& cartelle)
 {
     const Caso& caso = catena.riga.caso;
-    const QString quanti =
-        caso.avvisi == u"1"_s ? u"1 avviso"_s : u"%1 avvisi; questo è l'ultimo"_s.arg(caso.avvisi);
-    catena.passi.push_back(
-        {TipoPasso::avviso, caso.ultimoAvviso, caso.avvisi.isEmpty() ? u"nessun avviso"_s : quanti, {}});
-    aggiungiDocumenti(catena, avvisiArchiviati(cartelle, caso.chiave));
+    const auto documenti = avvisiArchiviati(cartelle, caso.chiave);
+    const auto avvisi =
+        caso.avvisi.isEmpty() ? std::vector<registro::Evento>() : avvisiRegistrati(connessione, caso);
+    const auto primi = caso.avvisi.toInt() - static_cast<int>(avvisi.size());
+    if (avvisi.empty()) {
+        const QString quanti =
+            caso.avvisi == u"1"_s ? u"1 avviso"_s : u"%1 avvisi; questo è l'ultimo"_s.arg(caso.avvisi);
+        catena.passi.push_back(
+            {TipoPasso::avviso, caso.ultimoAvviso, caso.avvisi.isEmpty() ? u"nessun avviso"_s : quanti, {}});
+        return aggiungiDocumenti(catena, documenti);
+    }
+    if (primi > 0)
+        catena.passi.push_back({TipoPasso::avviso,
+                                {},
+                                primi == 1 ? u"1 avviso di prima del registro"_s
+                                           : u"%1 avvisi di prima del registro"_s.arg(primi),
+                                {}});
+    aggiungiAvvisiEDocumenti(catena, avvisi, documenti);
 }
 
 QString statoLettera(const Recordset& riga)
@@ -152,9 +197,9 @@ std::optional<Catena> leggiCatena(Connessione& connessione, const ChiaveGiacenza
               std::vector<Valore>{chiave.numero, QString::number(chiave.anno)});
     if (riga.eof())
         return std::nullopt;
-    Catena catena = leggiTesta(riga, oggi, giorniFerma);
+    Catena catena = leggiTesta(riga, connessione, oggi, giorniFerma);
     riga.chiudi();
-    aggiungiAvvisi(catena, cartelle);
+    aggiungiAvvisi(catena, connessione, cartelle);
     aggiungiLegate(catena, connessione, cartelle);
     aggiungiBuonFine(catena, cartelle);
     return catena;

@@ -6,25 +6,40 @@
 #include <QCoreApplication>
 #include <QDir>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace giacenza::desk {
 
 namespace {
 
-/// A document's first print has its name, the later ones have a number behind it. Looked up one by one: a
-/// folder of years is not to be listed for one case.
+/// So many numbers without a document behind one another: there are no later prints.
+constexpr int vuotiMassimi = 20;
+
+/// A document's first print has its name, the later ones have a number behind it; one may have been taken
+/// away. Looked up one by one: a folder of years is not to be listed for one case.
 std::vector<DocumentoTrovato> trovati(const QString& cartella, const QString& nome)
 {
     std::vector<DocumentoTrovato> tutti;
     const QString base = QDir(cartella).absoluteFilePath(comune::nomeSicuro(nome));
-    for (int copia = 1;; ++copia) {
+    int vuoti = 0;
+    for (int copia = 1; vuoti < vuotiMassimi; ++copia) {
         const QFileInfo file(copia == 1 ? base + u".pdf"_s
                                         : u"%1-%2.pdf"_s.arg(base, QString::number(copia)));
-        if (!file.isFile())
-            return tutti;
+        if (!file.isFile()) {
+            ++vuoti;
+            continue;
+        }
+        vuoti = 0;
         tutti.push_back({file.absoluteFilePath(), file.lastModified()});
     }
+    // A print takes the first number that is free.
+    std::stable_sort(tutti.begin(), tutti.end(),
+                     [](const DocumentoTrovato& uno, const DocumentoTrovato& altro) {
+                         return uno.scritto < altro.scritto;
+                     });
+    return tutti;
 }
 
 QString nomeCaso(const ChiaveGiacenza& caso)

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace giacenza::desk {
 
 /// What the settings file says of the desk, section "Desk".
@@ -12,6 +14,12 @@ struct ImpostazioniDesk
     /// What the file says and cannot be used, in Italian; empty: all is well.
     QString guasto{};
 };
+
+/// The most days that GiorniFerma may say.
+inline constexpr int giorniFermaMassimi = 3650;
+
+/// GiorniFerma as it is written: digits alone, from 1 to giorniFermaMassimi; nothing for anything else.
+std::optional<int> leggiGiorniFerma(const QString& scritto);
 
 /// Reads them anew; what is missing or cannot be used has its default.
 ImpostazioniDesk leggiImpostazioniDesk();

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +23,11 @@ QString scritto(const Decimale& importo)
 
 void valutaImporti(const CondizioniSosta& condizioni, Valutazione& v)
 {
+    // The closure counts them in 16 bits.
+    if (*v.giorni > std::numeric_limits<qint16>::max() || *v.giorni < std::numeric_limits<qint16>::min()) {
+        v.senzaImporto = u"troppi giorni"_s;
+        return;
+    }
     const QString giorni = QString::number(*v.giorni);
     try {
         v.franchi = -giorniAddebitati(condizioni, giorni);

@@ -94,4 +94,13 @@ EsitoRicerca cerca(Connessione& connessione, const QString& digitato)
     return esito;
 }
 
+QString senzaEsito(const EsitoRicerca& esito)
+{
+    if (esito.provati.empty())
+        return u"Nessuna corrispondenza: ciò che è scritto ha %1 caratteri, e nessun numero ne ha più di %2."_s
+            .arg(QString::number(esito.cercato.size()), QString::number(riferimentoMassimo));
+    return u"Nessuna corrispondenza per %1. Cercato come: %2."_s.arg(esito.cercato,
+                                                                     esito.provati.join(u", "_s));
+}
+
 } // namespace giacenza::desk

@@ -40,6 +40,9 @@ struct EsitoRicerca
 /// ErroreDatabase.
 EsitoRicerca cerca(Connessione& connessione, const QString& digitato);
 
+/// Why a search found nothing, for the operator: what was looked for, or that no number is so long.
+QString senzaEsito(const EsitoRicerca& esito);
+
 /// How many are listed at most.
 inline constexpr std::size_t trovateMassime = 100;
 

@@ -52,7 +52,7 @@ private:
                       std::vector<Valore>{mRichiesta.filiale, mRichiesta.filiale});
         const QSet<QString> prima = mViste;
         for (; !riga.eof() && !mAnnullata; riga.successivo()) {
-            Caso caso = leggiCaso(riga);
+            Caso caso = leggiCaso(riga, mConnessione);
             if (mPrimoLotto)
                 mViste.insert(nomeGiacenza(caso.chiave));
             else if (prima.contains(nomeGiacenza(caso.chiave)))

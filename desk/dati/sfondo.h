@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QThread>
 
+#include <chrono>
 #include <functional>
 
 namespace giacenza::desk {
@@ -20,7 +21,14 @@ public:
     /// lavoro: must not throw.
     void esegui(std::function<void()> lavoro);
 
+    /// Tells all of them to end and waits for that, no longer than given. False: one is still at work, as one
+    /// that waits for a server that says nothing; its destructor would wait on, so the program has to go
+    /// without.
+    static bool fermatiEntro(std::chrono::milliseconds attesa);
+
 private:
+    void ferma();
+
     QThread mThread;
     QObject* mLaggiu; ///< lives in the thread
 };

@@ -10,7 +10,6 @@ namespace giacenza::desk {
 namespace {
 
 constexpr qsizetype numeroMassimo = 20;
-constexpr qsizetype riferimentoMassimo = 60;
 constexpr qsizetype cifreAnno = 4;
 
 std::optional<ChiaveSpedizione> codice(const QString& testo)

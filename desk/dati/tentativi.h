@@ -8,6 +8,9 @@
 
 namespace giacenza::desk {
 
+/// Characters of the longest thing that is looked up, a customer's reference.
+inline constexpr qsizetype riferimentoMassimo = 60;
+
 /// One thing that a number may be.
 struct Tentativo
 {

@@ -50,6 +50,19 @@ void importi(CasoEstratto& caso)
     caso.totale = somma(caso.fisso, caso.sosta);
 }
 
+/// The case as it stood at the period's end: what a later closure wrote was not there yet.
+void comeAllaFine(DatiConto& dati, QDate fine)
+{
+    if (!dati.buonFine || *dati.buonFine <= fine)
+        return;
+    dati.buonFine.reset();
+    dati.giorniScritti.reset();
+    dati.sostaScritta.reset();
+    dati.fissoScritto.reset();
+    dati.fattura.clear();
+    dati.dataFattura.reset();
+}
+
 QString nomeCliente(Connessione& connessione, const QString& codice)
 {
     Recordset riga;
@@ -112,6 +125,7 @@ Estratto leggiEstratto(Connessione& connessione, const RichiestaEstratto& richie
     const registro::Presenza presenza = registro::presenzaRegistro(connessione);
     for (CasoEstratto& caso : estratto.casi) {
         DatiConto& dati = caso.conto.dati;
+        comeAllaFine(dati, richiesta.a);
         dati.ragioneSociale = estratto.ragioneSociale;
         dati.condizioni = leggiCondizioni(connessione, dati.ldv.numero, dati.ldv.anno);
         caso.conto = calcolaConto(dati, dati.buonFine.value_or(estratto.alla));

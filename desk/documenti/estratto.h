@@ -29,14 +29,15 @@ struct RichiestaEstratto
 /// Where a case's amounts are from.
 enum class Origine
 {
-    calcolati, ///< the case is open: as a closure of the statement's day would charge
+    calcolati, ///< the case is open, or was at the period's end: as a closure of the statement's day would
+               ///< charge
     scritti,   ///< the case is closed: what stands on it
     mancanti,  ///< neither can be said
 };
 
 struct CasoEstratto
 {
-    Conto conto; ///< at the statement's day, or at the closure
+    Conto conto; ///< at the statement's day, or at the closure; one that came after the period is left out
     QDate dataLdv;
     QString riferimento;
     QString localita;

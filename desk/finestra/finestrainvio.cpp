@@ -158,12 +158,13 @@ void FinestraInvio::prossimo()
         ++mProssimo;
     }
     mBarra->setValue(static_cast<int>(mProssimo));
-    if (mInterrotto || mProssimo == mCasi.size())
+    if (mInterrotto || mSenzaArchivio || mProssimo == mCasi.size())
         return finito();
     const std::size_t questo = mProssimo++;
     const EsitoCaso esito = mEmittente.svolgi(mLavoro, mCasi[questo], this);
     ++mConti[static_cast<int>(esito.esito)];
     scriviEsito(questo, esito.parole, esito.esito);
+    mSenzaArchivio = esito.senzaArchivio;
     QTimer::singleShot(0, this, &FinestraInvio::prossimo);
 }
 
@@ -204,7 +205,9 @@ QString FinestraInvio::riepilogo() const
     if (quanti(Esito::incompleto) > 0)
         parti << u"%1 contati e non stampati: ristamparli con Ctrl+P"_s.arg(quanti(Esito::incompleto));
     const auto mancano = static_cast<int>(mCasi.size() - mProssimo);
-    if (mInterrotto && mancano > 0)
+    if (mSenzaArchivio && mancano > 0)
+        parti << u"%1 non cominciati: l'archivio non risponde"_s.arg(mancano);
+    else if (mInterrotto && mancano > 0)
         parti << u"%1 non cominciati: interrotto"_s.arg(mancano);
     return parti.join(u", "_s) + u'.';
 }

@@ -48,7 +48,8 @@ private:
     bool mCominciato = false;
     bool mInCorso = false;
     bool mInterrotto = false;
-    int mConti[4] = {}; ///< by Esito
+    bool mSenzaArchivio = false; ///< the last case found the archive silent
+    int mConti[4] = {};          ///< by Esito
     QLabel* mTesto;
     TabellaDesk* mTabella;
     QStandardItemModel* mModello;

@@ -26,7 +26,8 @@ namespace {
 
 CasoDaMostrare daMostrare(const Caso& caso)
 {
-    return {caso.chiave.numero, dataBreve(caso.dal), caso.ldv.numero, dataBreve(caso.dataLdv), caso.cliente};
+    return {caso.chiave.numero,      dataBreve(caso.dal), caso.ldv.numero,
+            dataBreve(caso.dataLdv), caso.cliente,        caso.ldv.filiale};
 }
 
 } // namespace
@@ -87,9 +88,7 @@ void FinestraDesk::trovato(const EsitoRicerca& esito)
     mRilettura = mCercando = false;
     mCampo->cercato();
     if (esito.trovate.empty())
-        return dici(u"Nessuna corrispondenza per %1. Cercato come: %2."_s.arg(esito.cercato,
-                                                                              esito.provati.join(u", "_s)),
-                    true);
+        return dici(senzaEsito(esito), true);
     dici({});
     mRisultati->mostra(esito);
     mPagine->setCurrentWidget(mRisultati);

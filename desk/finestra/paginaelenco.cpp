@@ -42,7 +42,7 @@ QString testoTotali(const Totali& totali, std::size_t tutte)
     QString testo = u"%1 casi · %2 colli · %3 · %4 a oggi"_s.arg(
         quanti, conteggio(totali.colli), chili(totali.centesimiKg), euro(totali.centesimi));
     if (totali.senzaImporto > 0)
-        testo += u", più %1 senza condizioni"_s.arg(conteggio(totali.senzaImporto));
+        testo += u", più %1 senza importo"_s.arg(conteggio(totali.senzaImporto));
     return testo;
 }
 

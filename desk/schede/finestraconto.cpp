@@ -98,7 +98,8 @@ QWidget* FinestraConto::riquadroTotali()
     auto* riquadro = new QGroupBox(u"Importi"_s, this);
     auto* griglia = new QGridLayout(riquadro);
     const QStringList righe = {u"Sosta"_s, u"Fisso"_s, u"Totale"_s};
-    griglia->addWidget(new QLabel(u"Calcolati"_s, riquadro), 0, 1, Qt::AlignRight);
+    mCalcolati = scritta(riquadro, u"lblCalcolati"_s);
+    griglia->addWidget(mCalcolati, 0, 1, Qt::AlignRight);
     griglia->addWidget(new QLabel(u"Scritti sulla giacenza"_s, riquadro), 0, 2, Qt::AlignRight);
     for (int i = 0; i < 3; ++i) {
         griglia->addWidget(new QLabel(righe[i], riquadro), i + 1, 0);
@@ -138,19 +139,20 @@ void FinestraConto::leggi()
     calcola();
 }
 
-void FinestraConto::calcola()
+bool FinestraConto::calcola()
 {
     const auto alla = leggiData(mAlla->testo());
     if (!mLetto)
-        return;
+        return false;
     if (!alla) {
         dici(u"La data del conto non è una data."_s);
         mAlla->setFocus();
-        return;
+        return false;
     }
     mConto = documenti::calcolaConto(mDati, *alla);
     dici({});
     mostra();
+    return true;
 }
 
 void FinestraConto::mostra()
@@ -169,6 +171,7 @@ void FinestraConto::mostra()
         avvertenze.prepend(mConto.mancante);
     mostraAvvertenza(*mAvvertenze, avvertenze.join(u'\n'));
     mModello->mostra(mConto.righe);
+    mCalcolati->setText(u"Calcolati al "_s + dataBreve(mConto.alla));
 
     const auto euro = [](const Valore& importo) {
         return importo && eNumero(*importo) ? valuta(*importo) : u"—"_s;
@@ -184,6 +187,10 @@ void FinestraConto::mostra()
 
 void FinestraConto::salva(bool interi)
 {
+    // The page is of the day that stands in the field, also when nobody asked for its amounts yet.
+    mApri->offri({});
+    if (!calcola())
+        return;
     QString file;
     const QString guasto = provando([&] {
         const auto documento = documenti::documentoConto(mConto, mCarta, oggi(), interi);

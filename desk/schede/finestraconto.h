@@ -39,7 +39,8 @@ private:
     void componi();
     QLayout* rigaComandi();
     QWidget* riquadroTotali();
-    void calcola();
+    /// At the day that is written; false, and said, when it is none.
+    bool calcola();
     void mostra();
     void salva(bool interi);
     void dici(const QString& testo);
@@ -54,6 +55,7 @@ private:
     QLabel* mCondizioni = nullptr;
     QLabel* mAvvertenze = nullptr;
     QLabel* mStato = nullptr;
+    QLabel* mCalcolati = nullptr;
     QLabel* mTotali[6] = {};
     CampoData* mAlla = nullptr;
     ModelloConto* mModello = nullptr;

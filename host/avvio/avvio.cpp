@@ -3,6 +3,7 @@
 #include "host/avvio/dimostrazione.h"
 #include "host/avvio/frmArchivio.h"
 
+#include <QFile>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -15,6 +16,18 @@ namespace deposito {
 namespace {
 
 const QString voceInChiaro = u"archivio/parolaInChiaro"_s;
+
+/// Writes the password into the settings, whose file nobody else may read any more from before it stands
+/// there. False, and nothing is written, where the system does not let it.
+bool scriviInChiaro(QSettings& impostazioni, const QString& parola)
+{
+    impostazioni.sync();
+    if (!QFile::setPermissions(impostazioni.fileName(), QFile::ReadOwner | QFile::WriteOwner))
+        return false;
+    impostazioni.setValue(voceInChiaro, parola);
+    impostazioni.sync();
+    return impostazioni.status() == QSettings::NoError;
+}
 
 } // namespace
 
@@ -81,7 +94,7 @@ std::optional<QString> Avvio::scegli(QWidget* padre)
 std::optional<QString> Avvio::parolaRicordata(const SceltaArchivio& scelta, QWidget* padre)
 {
     QString perche;
-    if (scelta.custodia == CustodiaParola::inChiaro)
+    if (scelta.custodia == CustodiaParola::inChiaro && mImpostazioni.contains(voceInChiaro))
         return mImpostazioni.value(voceInChiaro).toString();
     if (scelta.custodia == CustodiaParola::portachiavi) {
         const EsitoPortachiavi letta = mPortachiavi.leggi(nomeParola(scelta));
@@ -102,8 +115,11 @@ void Avvio::custodisci(const SceltaArchivio& prima, const SceltaArchivio& scelta
         mPortachiavi.togli(nomeParola(prima));
     if (scelta.tipo != TipoArchivio::server)
         return;
-    if (scelta.custodia == CustodiaParola::inChiaro)
-        mImpostazioni.setValue(voceInChiaro, parola);
+    if (scelta.custodia == CustodiaParola::inChiaro && !scriviInChiaro(mImpostazioni, parola))
+        mDomande.avverti(
+            u"La parola d'ordine non è stata ricordata: al prossimo avvio verrà chiesta. Il file "
+            "delle impostazioni non si può chiudere agli altri utenti: %1"_s.arg(mImpostazioni.fileName()),
+            padre);
     if (scelta.custodia != CustodiaParola::portachiavi)
         return;
     const EsitoPortachiavi esito = mPortachiavi.scrivi(nomeParola(scelta), parola);

@@ -18,9 +18,11 @@ frmArchivio::frmArchivio(const SceltaArchivio& scelta, bool conPortachiavi, QWid
     mUi->cmbCustodia->addItem(u"chiederla a ogni avvio"_s, int(CustodiaParola::nessuna));
     if (conPortachiavi)
         mUi->cmbCustodia->addItem(u"ricordarla nel portachiavi"_s, int(CustodiaParola::portachiavi));
-    mUi->cmbCustodia->addItem(
-        u"ricordarla in chiaro: la legge chi usa questo computer con lo stesso utente"_s,
-        int(CustodiaParola::inChiaro));
+    mUi->cmbCustodia->addItem(u"ricordarla in chiaro"_s, int(CustodiaParola::inChiaro));
+    // The window does not jump when the warning comes.
+    QSizePolicy posto = mUi->lblInChiaro->sizePolicy();
+    posto.setRetainSizeWhenHidden(true);
+    mUi->lblInChiaro->setSizePolicy(posto);
     mostra(scelta);
     for (const QRadioButton* scelto : {mUi->optDimostrazione, mUi->optFile, mUi->optServer})
         connect(scelto, &QRadioButton::toggled, this, &frmArchivio::cambiata);
@@ -28,6 +30,7 @@ frmArchivio::frmArchivio(const SceltaArchivio& scelta, bool conPortachiavi, QWid
          {mUi->txtFile, mUi->txtServer, mUi->txtBase, mUi->txtUtente, mUi->txtParola, mUi->txtCertificato})
         connect(campo, &QLineEdit::textEdited, this, &frmArchivio::cambiata);
     connect(mUi->chkTls, &QCheckBox::toggled, this, &frmArchivio::cambiata);
+    connect(mUi->cmbCustodia, &QComboBox::currentIndexChanged, this, &frmArchivio::abilita);
     connect(mUi->txtPorta, &QSpinBox::valueChanged, this, &frmArchivio::cambiata);
     connect(mUi->cmdSfogliaFile, &QPushButton::clicked, this, [this] {
         sfoglia(u"Archivio"_s, u"Archivi (*.db *.sqlite *.sqlite3);;Tutti i file (*)"_s, mUi->txtFile);
@@ -83,6 +86,8 @@ void frmArchivio::abilita()
 {
     mUi->fraFile->setEnabled(mUi->optFile->isChecked());
     mUi->fraServer->setEnabled(mUi->optServer->isChecked());
+    mUi->lblInChiaro->setVisible(CustodiaParola(mUi->cmbCustodia->currentData().toInt()) ==
+                                 CustodiaParola::inChiaro);
     mUi->fraCertificato->setEnabled(mUi->chkTls->isChecked());
     // The demonstration is made when it is chosen: there is nothing to try.
     mUi->cmdProva->setEnabled(!mUi->optDimostrazione->isChecked());

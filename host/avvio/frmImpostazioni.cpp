@@ -1,5 +1,7 @@
 #include "host/avvio/frmImpostazioni.h"
 
+#include "desk/dati/impostazionidesk.h"
+
 #include "host/avvio/vociimpostazioni.h"
 
 #include <QAccessible>
@@ -149,13 +151,11 @@ void frmImpostazioni::accept()
     for (std::size_t i = 0; i < mCampi.size(); ++i) {
         valori.push_back(valore(i));
         const VoceImpostazioni& voce = vociImpostazioni()[i];
-        bool numero = true;
-        if (voce.genere == VoceImpostazioni::Genere::numero && !valori.back().isEmpty())
-            numero = valori.back().toInt(&numero) > 0 && numero;
-        if (!numero) {
+        if (voce.genere == VoceImpostazioni::Genere::numero && !valori.back().isEmpty() &&
+            !giacenza::desk::leggiGiorniFerma(valori.back())) {
             mCampi[i]->setFocus();
-            return dici(
-                u"%1: scrivere un numero di giorni, da 1 in su."_s.arg(QString::fromUtf16(voce.nome)));
+            return dici(u"%1: scrivere un numero di giorni, da 1 a %2."_s.arg(
+                QString::fromUtf16(voce.nome), QString::number(giacenza::desk::giorniFermaMassimi)));
         }
     }
     const QString guasto = scriviImpostazioni(mFile, valori);

@@ -49,6 +49,35 @@ bool eArchivioSqlite(const QString& percorso)
            (file.size() == 0 || file.read(inizio.size()) == inizio);
 }
 
+/// Why nothing can be written into a file; empty when it can. Beside it, its journal is written too.
+QString soloLettura(const QString& percorso)
+{
+    const QFileInfo file(percorso);
+    if (!file.isWritable())
+        return u"Il file dell'archivio si può solo leggere: chiedere a chi amministra il computer di poterci "
+               "scrivere. È %1"_s.arg(percorso);
+    if (!QFileInfo(file.absolutePath()).isWritable())
+        return u"Nella cartella dell'archivio non si può scrivere, e l'archivio ne ha bisogno: chiedere a "
+               u"chi "
+               "amministra il computer di poterci scrivere. È %1"_s.arg(file.absolutePath());
+    return {};
+}
+
+/// What the screens' statements call and SQLite does not have by itself.
+std::optional<EsitoProva> estensioneMancante(Connessione& connessione)
+{
+    try {
+        connessione.esegui(giacenza::istruzioni::annoDiProva());
+        return std::nullopt;
+    } catch (const ErroreDatabase& errore) {
+        return nonRiuscita(
+            u"Il driver di SQLite non ha caricato l'estensione del programma, libgiacenza_sqlite: le "
+            "schermate non lavorerebbero. Reinstallare il programma, o dirne il percorso con LoadExt nella "
+            "stringa di connessione."_s,
+            errore);
+    }
+}
+
 bool distingueMaiuscole(Connessione& connessione)
 {
     giacenza::Recordset riga;
@@ -68,6 +97,9 @@ EsitoProva esamina(Connessione& connessione)
     } catch (const ErroreDatabase& errore) {
         return {.testo = errore.testo() + u". Si creano con schema/mariadb.sql o schema/sqlite.sql."_s};
     }
+    if (connessione.dialetto() == Dialetto::sqlite)
+        if (const auto manca = estensioneMancante(connessione))
+            return *manca;
     if (connessione.dialetto() == Dialetto::mariadb)
         if (const auto mancano = dirittiMancanti(connessione))
             return *mancano;
@@ -98,6 +130,9 @@ EsitoProva provaArchivio(const SceltaArchivio& scelta, const QString& parola)
 {
     if (scelta.tipo == TipoArchivio::file && !eArchivioSqlite(scelta.file))
         return {.testo = u"Il file indicato non è un archivio."_s};
+    if (scelta.tipo == TipoArchivio::file)
+        if (const QString perche = soloLettura(scelta.file); !perche.isEmpty())
+            return {.testo = perche};
     return provaStringa(stringaOdbc(scelta, parola));
 }
 

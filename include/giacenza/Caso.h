@@ -15,6 +15,10 @@ struct CasoDaMostrare
     QString numeroLdv;      ///< of the waybill that is held
     QString dataLdv;        ///< the day of that waybill
     QString cliente;        ///< the customer's code
+    /// The branch of that waybill; empty: unknown. The two screens of a waybill look it up by number and
+    /// date, which another branch may have used too: they tell when the one that they found is of another
+    /// branch than this, or of another held shipment than numeroGiacenza, and let nothing be issued for it.
+    QString filialeLdv = {};
 };
 
 /// The screen on which a held shipment is brought up.

@@ -33,6 +33,8 @@ void riconsegna(cGiacenza& classe, cGiacenza::Reso tipo, const CasoDaMostrare& c
         return;
     schermata->setProperty("NLettVett", caso.numeroLdv);
     schermata->setProperty("DataLdv", caso.dataLdv);
+    schermata->setProperty("Filiale", caso.filialeLdv);
+    schermata->setProperty("NumeroGiacenza", caso.numeroGiacenza);
     schermata->setProperty("CodiceCliente", caso.cliente);
 }
 

@@ -13,7 +13,9 @@ QString colonneCaso()
            "letve00f.lecoll, letve00f.lepeso, clien.RagioneSociale, FACODI, FADFGI, FAFRGI, FATGIG, FAMIGI, "
            "(select count(*) from letve00f legata where legata.LERFGI=GINRGI and legata.LEANGI=GIANGI) as "
            "Legate, (select max(legata.ledtlv) from letve00f legata where legata.LERFGI=GINRGI and "
-           "legata.LEANGI=GIANGI) as UltimaLegata"_s;
+           "legata.LEANGI=GIANGI) as UltimaLegata, "
+           "(select count(*) from letve00f omonima where omonima.lenrlv=GINRLV and omonima.leanlv=GIANLV and "
+           "omonima.lefili<>coalesce(GIFILI,'')) as Omonime"_s;
 }
 
 QString unioneCaso()

@@ -7,8 +7,9 @@
 namespace giacenza::istruzioni {
 
 /// The cases whose GIDTBF is null, by the day from which the goods are held, each with its waybill, customer,
-/// storage terms, and how many waybills are linked to it and of which day the last one is. The columns have
-/// the order of ColonnaCaso.
+/// storage terms, how many waybills are linked to it and of which day the last one is, and how many waybills
+/// of other branches have its waybill's number and year: where there are any, the terms that the closure
+/// charges by may be theirs. The columns have the order of ColonnaCaso.
 QString casiAperti();
 /// The same of the branch that holds the goods; where none is written, of the waybill's. Two parameters: its
 /// code, twice.
@@ -58,6 +59,7 @@ enum class ColonnaCaso
     famigi,
     legate,
     ultimaLegata,
+    omonime, ///< waybills of other branches with the same number and year
     quante,
 };
 

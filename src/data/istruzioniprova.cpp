@@ -21,6 +21,11 @@ std::vector<Diritto> diritti()
     };
 }
 
+QString annoDiProva()
+{
+    return u"select year('2026-01-01')"_s;
+}
+
 QString comeSiChiamanoLeTabelle()
 {
     return u"select @@lower_case_table_names"_s;

@@ -17,6 +17,9 @@ struct Diritto
 /// Those that the screens need, of MariaDB, which asks for the right before it explains a statement.
 std::vector<Diritto> diritti();
 
+/// Fails on an SQLite that lacks the function that the screens' statements call.
+QString annoDiProva();
+
 /// One row, one column: 0 when the server tells table names apart by their case.
 QString comeSiChiamanoLeTabelle();
 

@@ -58,9 +58,21 @@ QString triggerRegistro()
 
 QString contiPostazioni()
 {
-    return u"select distinct grantee from information_schema.column_privileges "
+    return u"select grantee from information_schema.column_privileges "
            "where table_schema=database() and table_name='giace00f' and column_name='GINRGI' and "
-           "privilege_type='INSERT' order by grantee"_s;
+           "privilege_type='INSERT' union select grantee from information_schema.table_privileges "
+           "where table_schema=database() and table_name='giace00f' and privilege_type='INSERT' "
+           "order by grantee"_s;
+}
+
+QString contiSullaBase()
+{
+    // The base's name in a grant may hold "_" and "%" as patterns.
+    return u"select distinct grantee from information_schema.schema_privileges "
+           "where database() like table_schema and "
+           "privilege_type in ('INSERT','UPDATE','DELETE','DROP','ALTER') and "
+           "grantee<>concat(quote(substring_index(current_user(),'@',1)),'@',"
+           "quote(substring_index(current_user(),'@',-1))) order by grantee"_s;
 }
 
 QString nomeBase()

@@ -36,8 +36,12 @@ QString contoCorrente();
 QString triggerRegistro();
 
 /// The accounts that may add held shipments to this base by columns, as schema/grants.sql lets the
-/// workstations: as a grant names them. MariaDB only.
+/// workstations, or to the whole table: as a grant names them. MariaDB only.
 QString contiPostazioni();
+
+/// The accounts, but this session's own, whose rights on all tables of this base are the register's too: they
+/// can change it. As a grant names them. MariaDB only.
+QString contiSullaBase();
 
 /// The name of this base. MariaDB only.
 QString nomeBase();

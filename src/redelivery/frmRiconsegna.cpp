@@ -82,9 +82,12 @@ void frmRiconsegna::attivata()
 
 void frmRiconsegna::eseguiConsegna()
 {
+    const QString filiale = std::exchange(mFilialeLdv, {}).trimmed();
+    const QString giacenza = std::exchange(mNumeroGiacenza, {}).trimmed();
     const auto giorno = leggiData(mDataLdv);
     if (mNLettVett.isEmpty() || mCodiceCliente.isEmpty() || !giorno)
         return;
+    mAttesa = {mNLettVett, *giorno, filiale, giacenza};
     // The code of an earlier hand-over is locked: this one's takes its place.
     if (const Seguito rifiuto = mParti.cliente.imposta(mCodiceCliente))
         durante(rifiuto);
@@ -146,12 +149,43 @@ void frmRiconsegna::mostra(const QString& numero, QDate giorno)
         return stato(u"LDV %1 del %2: non trovata."_s.arg(numero, dataBreve(giorno)));
     scrivi(mUi->barLdv, u"%1 del %2"_s.arg(tag(mUi->txtLDV), testo(mUi->txtDataLdv)));
     const bool inGiacenza = !mParti.caso.numero().isEmpty();
-    stato(inGiacenza ? QString() : u"Questa lettera di vettura non è in giacenza."_s);
+    const QString altra = altraDaQuellaConsegnata(numero, giorno);
+    trattieni(!altra.isEmpty());
+    if (!altra.isEmpty())
+        stato(altra);
+    else
+        stato(inGiacenza ? QString() : u"Questa lettera di vettura non è in giacenza."_s);
     if (inGiacenza)
         return;
     // They belong to the date and the branch of another held shipment, which stand beside them as left-overs.
     scrivi(mUi->barGiorniSosta, {});
     scrivi(mUi->barFilialeGia, {});
+}
+
+QString frmRiconsegna::altraDaQuellaConsegnata(const QString& numero, QDate giorno) const
+{
+    if (numero != mAttesa.numero || giorno != mAttesa.giorno)
+        return {};
+    const QString filiale = testo(mUi->txtFiliale).trimmed();
+    if (!mAttesa.filiale.isEmpty() && filiale.compare(mAttesa.filiale, Qt::CaseInsensitive) != 0)
+        return u"È stata trovata un'altra LDV con lo stesso numero e giorno (filiale %1)."_s.arg(filiale);
+    const QString giacenza = mParti.caso.numero();
+    if (mAttesa.giacenza.isEmpty() || giacenza == mAttesa.giacenza)
+        return {};
+    return giacenza.isEmpty()
+               ? u"Questa LDV non è più nella giacenza %1."_s.arg(mAttesa.giacenza)
+               : u"Questa LDV è nella giacenza %1, non nella %2."_s.arg(giacenza, mAttesa.giacenza);
+}
+
+void frmRiconsegna::trattieni(bool trattenuta)
+{
+    // A waybill that was issued put the button out for good.
+    if (trattenuta && mUi->cmdRiconsegna->isEnabledTo(this)) {
+        mTrattenuta = true;
+        mUi->cmdRiconsegna->setEnabled(false);
+    } else if (!trattenuta && std::exchange(mTrattenuta, false)) {
+        mUi->cmdRiconsegna->setEnabled(true);
+    }
 }
 
 Seguito frmRiconsegna::lascia(const ChiaveRicerca& chiave)

@@ -18,6 +18,10 @@ class frmRiconsegna : public Schermata
     /// shown.
     Q_PROPERTY(QString NLettVett MEMBER mNLettVett)
     Q_PROPERTY(QString DataLdv MEMBER mDataLdv)
+    /// The waybill's branch and the held shipment that are meant, for this hand-over alone; empty: whichever
+    /// are found.
+    Q_PROPERTY(QString Filiale MEMBER mFilialeLdv)
+    Q_PROPERTY(QString NumeroGiacenza MEMBER mNumeroGiacenza)
     Q_PROPERTY(QString CodiceCliente READ codiceCliente WRITE setCodiceCliente)
 
 public:
@@ -47,6 +51,11 @@ private:
     void cercaPerNumero();
     void mostraRiconsegne();
     void mostra(const QString& numero, QDate giorno);
+    /// Why what is shown is not what the host handed over; empty when it is, or when something else was
+    /// sought.
+    QString altraDaQuellaConsegnata(const QString& numero, QDate giorno) const;
+    /// Nothing is issued for a waybill that was not meant.
+    void trattieni(bool trattenuta);
     Seguito lascia(const ChiaveRicerca& chiave);
     Seguito convalidaFilialeGia();
 
@@ -60,6 +69,17 @@ private:
     QString mNLettVett;
     QString mDataLdv;
     QString mCodiceCliente;
+    QString mFilialeLdv;
+    QString mNumeroGiacenza;
+    /// The hand-over that says what it means.
+    struct Attesa
+    {
+        QString numero;
+        QDate giorno;
+        QString filiale;
+        QString giacenza;
+    } mAttesa;
+    bool mTrattenuta = false;
 };
 
 } // namespace giacenza

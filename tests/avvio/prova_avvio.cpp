@@ -48,8 +48,16 @@ public:
 class AllAvvio : public testing::Test
 {
 protected:
-    AllAvvio() { qputenv("XDG_DATA_HOME", mCartella.path().toUtf8()); }
-    ~AllAvvio() override { qunsetenv("XDG_DATA_HOME"); }
+    AllAvvio()
+    {
+        qputenv("XDG_DATA_HOME", mCartella.path().toUtf8());
+        qputenv("GIACENZA_PARTI", GIACENZA_PROVA_PARTI);
+    }
+    ~AllAvvio() override
+    {
+        qunsetenv("GIACENZA_PARTI");
+        qunsetenv("XDG_DATA_HOME");
+    }
 
     Avvio::Domande domande()
     {
@@ -141,9 +149,29 @@ TEST_F(AllAvvio, LaParolaInChiaroSiTogliePassandoAdAltro)
     Avvio avvio(mImpostazioni, mPortachiavi, domande());
     EXPECT_EQ(avvio.scegli(nullptr), stringa(u"p4"_s));
     EXPECT_EQ(mImpostazioni.value(u"archivio/parolaInChiaro"_s).toString(), u"p4"_s);
+    EXPECT_EQ(QFile::permissions(mImpostazioni.fileName()) &
+                  (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
+              QFile::Permissions())
+        << "nobody else reads it";
+    EXPECT_THAT(mAvvertimenti, IsEmpty());
     EXPECT_EQ(avvio.archivio(nullptr), stringa(u"p4"_s));
     EXPECT_EQ(avvio.scegli(nullptr), stringa(u"p5"_s));
     EXPECT_FALSE(mImpostazioni.contains(u"archivio/parolaInChiaro"_s));
+}
+
+TEST_F(AllAvvio, DoveNonSiPuoCustodireLaParolaInChiaroNonSiScrive)
+{
+    const QString assente = mCartella.filePath(u"assente"_s);
+    QFile(assente).open(QIODevice::WriteOnly); // a file stands where the settings' folder would be
+    QSettings altre(assente + u"/deposito.ini"_s, QSettings::IniFormat);
+    mRisposte = {{server(CustodiaParola::inChiaro), u"p7"_s}};
+    Avvio avvio(altre, mPortachiavi, domande());
+    EXPECT_EQ(avvio.scegli(nullptr), stringa(u"p7"_s));
+    EXPECT_FALSE(altre.contains(u"archivio/parolaInChiaro"_s));
+    EXPECT_THAT(mAvvertimenti,
+                ElementsAre(u"La parola d'ordine non è stata ricordata: al prossimo avvio verrà chiesta. Il "
+                            "file delle impostazioni non si può chiudere agli altri utenti: %1"_s.arg(
+                                altre.fileName())));
 }
 
 TEST_F(AllAvvio, UnaParolaNonRicordataSiDice)

@@ -104,6 +104,29 @@ TEST(FinestraArchivio, UnArchivioCheNonVaSiUsaSoloChiedendoloDueVolte)
     EXPECT_EQ(prove, 2);
 }
 
+TEST(FinestraArchivio, ChiSceglieLaParolaInChiaroLeggeCheCosaVuolDire)
+{
+    SceltaArchivio scelta;
+    scelta.tipo = TipoArchivio::server;
+    frmArchivio finestra(scelta, true);
+    finestra.show();
+    auto* custodia = trova<QComboBox>(finestra, u"cmbCustodia"_s);
+    auto* avvertenza = trova<QLabel>(finestra, u"lblInChiaro"_s);
+    EXPECT_FALSE(avvertenza->isVisible());
+    const QSize prima = finestra.size();
+    custodia->setFocus();
+    QTest::keyClick(custodia, Qt::Key_End);
+    EXPECT_EQ(custodia->currentText(), u"ricordarla in chiaro"_s);
+    EXPECT_TRUE(avvertenza->isVisible());
+    EXPECT_EQ(avvertenza->text(),
+              u"⚠ Resta scritta nel file delle impostazioni: la legge chi usa questo computer con lo stesso "
+              "utente."_s);
+    EXPECT_GE(avvertenza->height(), avvertenza->heightForWidth(avvertenza->width())) << "all of it is seen";
+    EXPECT_EQ(finestra.size(), prima);
+    QTest::keyClick(custodia, Qt::Key_Home);
+    EXPECT_FALSE(avvertenza->isVisible());
+}
+
 TEST(FinestraArchivio, OgniControlloHaUnNome)
 {
     frmArchivio finestra({}, true);
@@ -119,12 +142,14 @@ TEST(FinestraImpostazioni, CioCheSiScriveVaNelFile)
     finestra.show();
     auto* giorni = trova<QLineEdit>(finestra, u"GiorniFerma"_s);
     giorni->setFocus();
-    QTest::keyClicks(giorni, u"dieci"_s);
-    finestra.accept();
-    EXPECT_TRUE(finestra.isVisible());
-    EXPECT_EQ(trova<QLabel>(finestra, u"lblEsito"_s)->text(),
-              u"⚠ Giorni per \"ferma\": scrivere un numero di giorni, da 1 in su."_s);
-    giorni->clear();
+    for (const QString& rifiutato : {u"dieci"_s, u"5000"_s, u"+5"_s, u"0"_s}) { // as the desk refuses them
+        QTest::keyClicks(giorni, rifiutato);
+        finestra.accept();
+        EXPECT_TRUE(finestra.isVisible()) << rifiutato.toStdString();
+        EXPECT_EQ(trova<QLabel>(finestra, u"lblEsito"_s)->text(),
+                  u"⚠ Giorni per \"ferma\": scrivere un numero di giorni, da 1 a 3650."_s);
+        giorni->clear();
+    }
     QTest::keyClicks(giorni, u"10"_s);
     auto* modalita = trova<QComboBox>(finestra, u"Modalita"_s);
     modalita->setFocus();

@@ -36,4 +36,21 @@ TEST(IstanzaUnica, ConAltreImpostazioniEUnAltroProgramma)
     EXPECT_FALSE(IstanzaUnica(cartella.filePath(u"due.ini"_s)).chiama());
 }
 
+TEST(IstanzaUnica, UnAltroArchivioEUnAltroNomeUnAltraParolaNo)
+{
+    QTemporaryDir cartella;
+    const QString ini = cartella.filePath(u"giacenza.ini"_s);
+    IstanzaUnica prima(ini, u"SERVER=s;UID=u;PWD=;DATABASE=b"_s);
+    ASSERT_TRUE(prima.ascolta());
+    EXPECT_TRUE(prima.ascolta()) << "it does already";
+    EXPECT_FALSE(prima.cambia(u"SERVER=s;UID=u;PWD={se;greta};DATABASE=b"_s));
+    EXPECT_TRUE(IstanzaUnica(ini, u"SERVER=s;UID=u;PWD=x;DATABASE=b"_s).chiama());
+    ASSERT_TRUE(prima.cambia(u"SERVER=s;UID=u;PWD=;DATABASE=c"_s));
+    EXPECT_FALSE(IstanzaUnica(ini, u"SERVER=s;UID=u;PWD=x;DATABASE=b"_s).chiama());
+    ASSERT_TRUE(prima.ascolta());
+    EXPECT_TRUE(IstanzaUnica(ini, u"SERVER=s;UID=u;PWD=x;DATABASE=c"_s).chiama());
+    prima.taci();
+    EXPECT_FALSE(IstanzaUnica(ini, u"SERVER=s;UID=u;PWD=x;DATABASE=c"_s).chiama());
+}
+
 } // namespace

@@ -10,6 +10,8 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
+#include <unistd.h>
+
 using namespace deposito;
 using namespace giacenza::prove;
 using namespace Qt::StringLiterals;
@@ -103,6 +105,70 @@ TEST(ProvaArchivio, UnFile)
     scelta.tipo = TipoArchivio::file;
     scelta.file = altro.fileName();
     EXPECT_EQ(provaArchivio(scelta, {}).testo, u"Il file indicato non è un archivio."_s);
+}
+
+/// What a file's permissions say holds for everybody but the administrator: where the tests are his, they ask
+/// for an account that is nobody's.
+class ComeUnUtente
+{
+public:
+    ComeUnUtente() : mAmministratore(geteuid() == 0)
+    {
+        constexpr uid_t nessuno = 65534;
+        if (mAmministratore && setreuid(nessuno, 0) != 0)
+            throw std::runtime_error("the account of the tests cannot be left");
+    }
+    ~ComeUnUtente()
+    {
+        if (mAmministratore) {
+            EXPECT_EQ(setreuid(0, 0), 0);
+        }
+    }
+
+private:
+    bool mAmministratore;
+};
+
+TEST(ProvaArchivio, UnFileOUnaCartellaInCuiNonSiScriveSiDice)
+{
+    QTemporaryDir cartella;
+    QFile file(cartella.filePath(u"deposito.db"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)); // an empty one is an archive without tables
+    file.close();
+    const auto tutti = QFile::ReadUser | QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther |
+                       QFile::ExeUser | QFile::ExeOwner | QFile::ExeGroup | QFile::ExeOther;
+    const auto scrivono = QFile::WriteUser | QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    SceltaArchivio scelta;
+    scelta.tipo = TipoArchivio::file;
+    scelta.file = file.fileName();
+    const auto prova = [&](QFile::Permissions cartellaCon, QFile::Permissions fileCon) {
+        EXPECT_TRUE(QFile::setPermissions(file.fileName(), fileCon));
+        EXPECT_TRUE(QFile::setPermissions(cartella.path(), cartellaCon));
+        const ComeUnUtente utente;
+        return provaArchivio(scelta, {}).testo;
+    };
+    EXPECT_EQ(prova(tutti | scrivono, tutti),
+              u"Il file dell'archivio si può solo leggere: chiedere a chi amministra il computer di poterci "
+              "scrivere. È %1"_s.arg(scelta.file));
+    EXPECT_EQ(prova(tutti, tutti | scrivono),
+              u"Nella cartella dell'archivio non si può scrivere, e l'archivio ne ha bisogno: chiedere a chi "
+              "amministra il computer di poterci scrivere. È %1"_s.arg(cartella.path()));
+    EXPECT_THAT(prova(tutti | scrivono, tutti | scrivono).toStdString(),
+                testing::StartsWith("Nell'archivio mancano"));
+}
+
+TEST(ProvaArchivio, SenzaLEstensioneSiDice)
+{
+    const BancaDati base("sqlite");
+    QString stringa = base.stringa();
+    stringa.truncate(stringa.indexOf(u";LoadExt"_s));
+    const EsitoProva esito = provaStringa(stringa);
+    EXPECT_EQ(esito.testo,
+              u"Il driver di SQLite non ha caricato l'estensione del programma, libgiacenza_sqlite: le "
+              "schermate non lavorerebbero. Reinstallare il programma, o dirne il percorso con LoadExt nella "
+              "stringa di connessione."_s);
+    EXPECT_FALSE(esito.riuscita);
+    EXPECT_FALSE(esito.dettaglio.isEmpty());
 }
 
 TEST(ProvaArchivio, SenzaDriverSiDiceQualePacchettoLoPorta)

@@ -13,7 +13,7 @@ namespace {
 class MostraCasoDaFuori : public ComponenteDiProva
 {
 protected:
-    const CasoDaMostrare mCaso{u"42"_s, u"10/11/2026"_s, u"4722"_s, u"05/11/2026"_s, u"1001"_s};
+    const CasoDaMostrare mCaso{u"42"_s, u"10/11/2026"_s, u"4722"_s, u"05/11/2026"_s, u"1001"_s, u"MI"_s};
 };
 
 } // namespace
@@ -29,6 +29,7 @@ TEST_F(MostraCasoDaFuori, laGestioneRiceveNumeroEData)
 TEST_F(MostraCasoDaFuori, laRiconsegnaEIlResoRicevonoLaLettera)
 {
     const QStringList lettera{u"frmRiconsegna.NLettVett=4722"_s, u"frmRiconsegna.DataLdv=05/11/2026"_s,
+                              u"frmRiconsegna.Filiale=MI"_s, u"frmRiconsegna.NumeroGiacenza=42"_s,
                               u"frmRiconsegna.CodiceCliente=1001"_s};
     MostraCaso(*mClasse, SchermataCaso::riconsegna, mCaso);
     EXPECT_EQ(impostazioni().movimento, Movimento::riconsegna);

@@ -15,7 +15,8 @@ const QString caso =
     "letve00f.lepeso, clien.RagioneSociale, FACODI, FADFGI, FAFRGI, FATGIG, FAMIGI, (select count(*) from "
     "letve00f legata where legata.LERFGI=GINRGI and legata.LEANGI=GIANGI) as Legate, (select "
     "max(legata.ledtlv) from letve00f legata where legata.LERFGI=GINRGI and legata.LEANGI=GIANGI) as "
-    "UltimaLegata"_s;
+    "UltimaLegata, (select count(*) from letve00f omonima where omonima.lenrlv=GINRLV and "
+    "omonima.leanlv=GIANLV and omonima.lefili<>coalesce(GIFILI,'')) as Omonime"_s;
 
 const QString unione =
     u" from ((giace00f left join letve00f on lefili=GIFILI and lenrlv=GINRLV and leanlv=GIANLV) left join "

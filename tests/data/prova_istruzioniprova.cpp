@@ -26,5 +26,6 @@ TEST(IstruzioniProva, ChiedonoIDirittiSenzaCambiareRighe)
             "UltimoNumGiacenza=UltimoNumGiacenza where 1=0"_s,
             u"emettere lettere di vettura: explain insert into letve00f (lefili) values ('')"_s,
         }));
+    EXPECT_EQ(istruzioni::annoDiProva(), u"select year('2026-01-01')"_s);
     EXPECT_EQ(istruzioni::comeSiChiamanoLeTabelle(), u"select @@lower_case_table_names"_s);
 }

@@ -71,6 +71,22 @@ TEST_P(EstrattoCliente, IlPeriodoScegliICasiEIlGiornoDelConto)
     EXPECT_THROW(leggi(u"1001"_s, mOggi, mOggi.addDays(-1)), Errore);
 }
 
+TEST_P(EstrattoCliente, ChiusaDopoIlPeriodoAllaFineEraAperta)
+{
+    const Estratto estratto = leggi(u"1001"_s, QDate(2026, 11, 1), QDate(2026, 11, 15));
+    ASSERT_EQ(estratto.casi.size(), 2U);
+    EXPECT_EQ(estratto.aperti, 2);
+    const CasoEstratto& poiChiuso = estratto.casi[1];
+    EXPECT_EQ(poiChiuso.conto.dati.caso.numero, u"40"_s);
+    EXPECT_EQ(statoInParole(poiChiuso), u"aperta"_s) << "neither the closure nor its invoice were there yet";
+    EXPECT_EQ(poiChiuso.origine, Origine::calcolati);
+    EXPECT_EQ(poiChiuso.conto.giorni, 2);
+    EXPECT_EQ(poiChiuso.totale, u"5.00"_s);
+    EXPECT_EQ(estratto.totale, u"25.00"_s);
+    EXPECT_EQ(statoInParole(leggi(u"1001"_s, QDate(2026, 11, 1), QDate(2026, 11, 18)).casi[1]),
+              u"chiusa il 18/11/2026, fattura n. 77"_s);
+}
+
 TEST_P(EstrattoCliente, SenzaCondizioniGliImportiMancanoENonSonoZero)
 {
     const Estratto estratto = leggi(u"1002"_s);

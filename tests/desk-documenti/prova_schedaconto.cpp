@@ -94,6 +94,31 @@ TEST_P(SchedaConto, SalvaESiPuoAprire)
     EXPECT_TRUE(apri->isEnabled());
 }
 
+TEST_P(SchedaConto, SiSalvaAllaDataScrittaAncheSeNonCalcolata)
+{
+    FinestraConto finestra(mBase.accesso(), mAperta, carta());
+    EXPECT_EQ(testo(finestra, u"lblCalcolati"_s), u"Calcolati al 22/11/2026"_s);
+    finestra.show();
+    finestra.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
+    auto* data = trova<CampoData>(finestra, u"txtAlla"_s);
+    data->setFocus();
+    data->selectAll();
+    QTest::keyClicks(data, u"05122026"_s);
+    trova<QPushButton>(finestra, u"cmdSalvaPdf"_s)->click();
+    ASSERT_THAT(salvati(), ElementsAre(u"Conto della sosta 42-2026.pdf"_s));
+    const QString pagina = testoPdf(mCartella.filePath(salvati().first())).simplified();
+    EXPECT_TRUE(pagina.contains(u"Totale al 05/12/2026 48,50 €"_s)) << pagina.toStdString();
+    EXPECT_EQ(testo(finestra, u"lblCalcolati"_s), u"Calcolati al 05/12/2026"_s);
+
+    data->selectAll();
+    QTest::keyClicks(data, u"31022026"_s);
+    trova<QPushButton>(finestra, u"cmdSalvaPdf"_s)->click();
+    EXPECT_EQ(testo(finestra, u"lblStato"_s), u"La data del conto non è una data."_s);
+    EXPECT_THAT(salvati(), ElementsAre(u"Conto della sosta 42-2026.pdf"_s)) << "and nothing is saved";
+    EXPECT_FALSE(trova<QPushButton>(finestra, u"cmdApri"_s)->isEnabled());
+}
+
 TEST_P(SchedaConto, UnCasoCheNonCeSiDice)
 {
     const FinestraConto finestra(mBase.accesso(), {u"999"_s, 2026}, carta());

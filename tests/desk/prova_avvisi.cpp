@@ -82,7 +82,7 @@ protected:
         Recordset riga;
         riga.apri(connessione, istruzioni::casoIntero(), Recordset::Cursore::chiave,
                   std::vector<Valore>{numero, u"2026"_s});
-        return leggiCaso(riga);
+        return leggiCaso(riga, connessione);
     }
     QString stato(const QString& numero) const
     {

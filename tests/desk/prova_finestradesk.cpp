@@ -44,7 +44,7 @@ TEST_P(ProvaDesk, mostraICasiApertiPerScadenzaConITotali)
     EXPECT_THAT(colonna(elenco(), colonnaGiacenza),
                 ElementsAre(u"42/2026"_s, u"43/2026"_s, u"41/2026"_s, u"44/2026"_s, u"45/2026"_s));
     EXPECT_EQ(figlio<QLabel>(u"lblTotali")->text(),
-              u"5 casi · 20 colli · 444,75 kg · 15,00 € a oggi, più 2 senza condizioni"_s);
+              u"5 casi · 20 colli · 444,75 kg · 15,00 € a oggi, più 2 senza importo"_s);
     EXPECT_EQ(detto(), QString());
 }
 
@@ -60,7 +60,7 @@ TEST_P(ProvaDesk, siFiltraScrivendo)
     premi(Qt::Key_Return);
     EXPECT_TRUE(elenco()->hasFocus());
     premi(Qt::Key_Return);
-    EXPECT_THAT(chiamate(), testing::Contains(u"caso 0 44|01/11/2026|4724|28/10/2026|1002"_s));
+    EXPECT_THAT(chiamate(), testing::Contains(u"caso 0 44|01/11/2026|4724|28/10/2026|1002|MI"_s));
 }
 
 TEST_P(ProvaDesk, siScegliELaFiliale)
@@ -110,7 +110,7 @@ TEST_P(ProvaDesk, iDocumentiSiAproncoConInvio)
     EXPECT_THAT(aperti.file, ElementsAre(pdf.fileName()));
     premi(Qt::Key_Up);
     premi(Qt::Key_Return);
-    EXPECT_THAT(chiamate(), testing::Contains(u"caso 0 42|10/11/2026|4722|05/11/2026|1001"_s));
+    EXPECT_THAT(chiamate(), testing::Contains(u"caso 0 42|10/11/2026|4722|05/11/2026|1001|MI"_s));
 }
 
 TEST_P(ProvaDesk, unaLetteraLiberaSiRegistraConInvio)
@@ -156,7 +156,7 @@ TEST_P(ProvaDesk, iTastiApronoLeSchermateSulCaso)
     premi(Qt::Key_Return);
     premi(Qt::Key_R, Qt::ControlModifier);
     premi(Qt::Key_R, Qt::ControlModifier | Qt::ShiftModifier);
-    const QString caso = u"43|16/11/2026|4723|13/11/2026|1001"_s;
+    const QString caso = u"43|16/11/2026|4723|13/11/2026|1001|MI"_s;
     EXPECT_THAT(chiamate(),
                 testing::IsSupersetOf({u"caso 0 "_s + caso, u"caso 1 "_s + caso, u"caso 2 "_s + caso}));
     premi(Qt::Key_F8);

@@ -1,3 +1,4 @@
+#include "data/archivio.h"
 #include "desk/deskdiprova.h"
 #include "desk/finestra/finestrainvio.h"
 #include "support/albero.h"
@@ -144,6 +145,26 @@ TEST_P(ProvaInvio, chiDiceDiNoNonFermaGliAltri)
                                            u"⚠ avviso n. 2, non stampato: La stampante è spenta."_s}));
         QTest::keyClick(&finestra, Qt::Key_Return);
     });
+}
+
+TEST_P(ProvaInvio, unArchivioCheNonRispondeFermaIlResto)
+{
+    segnaTutte();
+    int guardate = 0;
+    const Traccia vecchia = impostaTraccia([&](EventoDati evento, const QString& testo) {
+        if (evento == EventoDati::istruzione && testo.startsWith(u"select GIDTBF from"_s) && ++guardate == 2)
+            throw ErroreDatabase(u"08S01"_s, 2013, u"Lost connection"_s);
+    });
+    invia([&](FinestraInvio& finestra) {
+        QTest::keyClick(&finestra, Qt::Key_Return);
+        finisci(finestra);
+        EXPECT_EQ(testo(finestra),
+                  u"1 avviso prodotto, 1 rifiutati, 3 non cominciati: l'archivio non risponde."_s);
+        EXPECT_THAT(esiti(finestra), testing::Contains(u"non cominciata"_s).Times(3));
+        QTest::keyClick(&finestra, Qt::Key_Return);
+    });
+    impostaTraccia(vecchia);
+    EXPECT_EQ(mStampate.size(), 1);
 }
 
 TEST_P(ProvaInvio, laRistampaNonConta)

@@ -95,10 +95,12 @@ TEST(Importo, senzaCondizioniLoDiceENonVaZero)
     senza.condizioni.reset();
     Caso incomplete = caso(12);
     incomplete.condizioni->minimo.reset();
+    Caso antica = caso(32768);
     Caso senzaData = caso(12);
     senzaData.dal = {};
     for (const auto& [c, parole] : {std::pair{senza, u"senza condizioni"_s},
                                     {incomplete, u"condizioni incomplete"_s},
+                                    {antica, u"troppi giorni"_s},
                                     {senzaData, u"manca la data"_s}}) {
         const Valutazione v = valutazioneDi(c, oggi, setteGiorni);
         EXPECT_FALSE(v.centesimi);

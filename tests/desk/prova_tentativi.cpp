@@ -1,3 +1,4 @@
+#include "desk/dati/ricerca.h"
 #include "desk/dati/tentativi.h"
 
 #include "support/stampa.h"
@@ -52,6 +53,16 @@ TEST(Tentativi, unTestoLungoESoloUnRiferimento)
 {
     EXPECT_THAT(provati(QString(21, u'x')), ElementsAre(u"riferimento "_s + QString(21, u'x')));
     EXPECT_THAT(provati(QString(61, u'x')), testing::IsEmpty());
+}
+
+TEST(SenzaEsito, diceCheCosaSiECercatoOCheETroppoLungo)
+{
+    EXPECT_EQ(senzaEsito({u"x"_s, provati(QString(21, u'x')), {}}),
+              u"Nessuna corrispondenza per x. Cercato come: riferimento xxxxxxxxxxxxxxxxxxxxx."_s);
+    const QString lungo(61, u'x');
+    EXPECT_EQ(
+        senzaEsito({lungo, provati(lungo), {}}),
+        u"Nessuna corrispondenza: ciò che è scritto ha 61 caratteri, e nessun numero ne ha più di 60."_s);
 }
 
 TEST(Ripulito, togliCioCheNonSiVede)

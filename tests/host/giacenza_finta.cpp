@@ -101,8 +101,9 @@ QVariant cGiacenza::Esegui(const QString& Azione, const QVariant& Arg)
 
 void MostraCaso(cGiacenza&, SchermataCaso schermata, const CasoDaMostrare& caso)
 {
-    apri(u"caso %1 %2|%3|%4|%5|%6"_s.arg(QString::number(static_cast<int>(schermata)), caso.numeroGiacenza,
-                                         caso.dataGiacenza, caso.numeroLdv, caso.dataLdv, caso.cliente));
+    apri(u"caso %1 %2|%3|%4|%5|%6|%7"_s.arg(QString::number(static_cast<int>(schermata)), caso.numeroGiacenza,
+                                            caso.dataGiacenza, caso.numeroLdv, caso.dataLdv, caso.cliente,
+                                            caso.filialeLdv));
 }
 
 } // namespace giacenza

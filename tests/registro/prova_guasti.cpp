@@ -90,6 +90,31 @@ TEST_P(GuastiSqlite, LeRigheNonSiCambianoENonSiTolgono)
     EXPECT_EQ(mBase.leggi(u"select testo from registro_note"_s), u"x"_s);
 }
 
+TEST_P(GuastiSqlite, UnNumeroNegativoSiRifiutaEISalvataggiPassano)
+{
+    for (const QString& tabella : {u"registro (progressivo, fatto) values (-1, 'z')"_s,
+                                   u"registro (progressivo, fatto) values (0, 'z')"_s,
+                                   u"registro_note (progressivo, GINRGI, GIANGI, autore, testo) "
+                                   "values (-1, '40', 2026, 'Neri', 'z')"_s})
+        for (const QString& come : {u"insert into "_s, u"insert or replace into "_s})
+            EXPECT_THAT(rifiuto(come + tabella).toStdString(), testing::HasSubstr("cominciano da 1"));
+    faiTutto(mBase);
+    EXPECT_EQ(registrati(mBase).size(), 8);
+}
+
+/// Such a row came in before the version that refuses it.
+TEST(RegistroSqlite, UnaRigaNegativaDiPrimaNonFermaISalvataggi)
+{
+    const BancaDati base("sqlite");
+    riempiDeposito(base);
+    preparaRegistro(base.accessoAmministratore(), 2);
+    base.esegui(u"insert into registro (progressivo, fatto) values (-1, 'z')"_s);
+    EXPECT_THROW(base.esegui(u"update giace00f set GINRAV='3' where GINRGI='40'"_s), ErroreDatabase);
+    preparaRegistro(base.accessoAmministratore());
+    base.esegui(u"update giace00f set GINRAV='3' where GINRGI='40'"_s);
+    EXPECT_EQ(base.leggi(u"select testo from registro where fatto='avvisata'"_s), u"3"_s);
+}
+
 TEST_P(GuastiSqlite, ChiScriveInsiemeSiAspettaESiRegistraTutto)
 {
     const auto salva = [this](int da) {

@@ -45,9 +45,17 @@ TEST(IstruzioniRegistro, preparazione)
               u"select trigger_name, definer from information_schema.triggers "
               "where trigger_schema=database() and trigger_name like 'registro\\_%' order by trigger_name"_s);
     EXPECT_EQ(istruzioni::contiPostazioni(),
-              u"select distinct grantee from information_schema.column_privileges "
+              u"select grantee from information_schema.column_privileges "
               "where table_schema=database() and table_name='giace00f' and column_name='GINRGI' and "
-              "privilege_type='INSERT' order by grantee"_s);
+              "privilege_type='INSERT' union select grantee from information_schema.table_privileges "
+              "where table_schema=database() and table_name='giace00f' and privilege_type='INSERT' "
+              "order by grantee"_s);
+    EXPECT_EQ(istruzioni::contiSullaBase(),
+              u"select distinct grantee from information_schema.schema_privileges "
+              "where database() like table_schema and "
+              "privilege_type in ('INSERT','UPDATE','DELETE','DROP','ALTER') and "
+              "grantee<>concat(quote(substring_index(current_user(),'@',1)),'@',"
+              "quote(substring_index(current_user(),'@',-1))) order by grantee"_s);
 }
 
 TEST(IstruzioniEstratto, letture)

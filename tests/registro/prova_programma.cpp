@@ -46,15 +46,33 @@ TEST_P(Programma, preparaIlRegistroUnaVolta)
     const QString stringa = mBase.accessoAmministratore().stringa;
     const Esito prima = esegui(stringa);
     EXPECT_EQ(prima.codice, 0) << prima.errori;
-    EXPECT_THAT(prima.uscita, HasSubstr("Il registro è preparato: dalla versione 0 alla 2.\n"));
+    const std::string ultima = GetParam() == "mariadb" ? "2" : "3";
+    EXPECT_THAT(prima.uscita, HasSubstr("Il registro è preparato: dalla versione 0 alla " + ultima + ".\n"));
     if (GetParam() == "mariadb") {
         EXPECT_THAT(prima.uscita, HasSubstr("Lo leggono, e aggiungono note: 'prova_"));
     }
     const Esito dopo = esegui(stringa);
     EXPECT_EQ(dopo.codice, 0);
-    EXPECT_THAT(dopo.uscita, HasSubstr("Il registro era già preparato, versione 2.\n"));
+    EXPECT_THAT(dopo.uscita, HasSubstr("Il registro era già preparato, versione " + ultima + ".\n"));
     riempiDeposito(mBase);
     EXPECT_EQ(mBase.leggi(u"select count(*) from registro where fatto='registrata'"_s), u"1"_s);
+}
+
+TEST_P(Programma, diceChiLoPuoCambiare)
+{
+    if (GetParam() == "sqlite") { // there are no accounts there
+        EXPECT_THAT(esegui(mBase.accessoAmministratore().stringa).uscita,
+                    testing::Not(HasSubstr("può cambiare")));
+        return;
+    }
+    const QString nome = *mBase.leggi(u"select database()"_s);
+    const QString intera = u"'%1_i'@'127.0.0.1'"_s.arg(nome);
+    mBase.esegui(u"create user %1"_s.arg(intera));
+    const auto via = qScopeGuard([&] { mBase.esegui(u"drop user %1"_s.arg(intera)); });
+    mBase.esegui(u"grant all on `%1`.* to %2"_s.arg(nome, intera));
+    EXPECT_THAT(esegui(mBase.accessoAmministratore().stringa).uscita,
+                HasSubstr(intera.toStdString() +
+                          " può cambiare il registro: togliergli i diritti sull'intera base.\n"));
 }
 
 TEST_P(Programma, senzaLeTabelleDiceCheCosaManca)

@@ -15,7 +15,9 @@ QStringList cheCosa(Dialetto dialetto, int versione)
 {
     QStringList fatte;
     for (QString istruzione : istruzioniRegistro(dialetto, versione, u"registro_giacenza"_s)) {
-        istruzione.remove(u"or replace definer = registro_giacenza "_s).remove(u"if not exists "_s);
+        istruzione.remove(u"or replace definer = registro_giacenza "_s)
+            .remove(u"if not exists "_s)
+            .remove(u"if exists "_s);
         fatte << istruzione.split(u' ').mid(0, 3).join(u' ');
     }
     return fatte;
@@ -36,7 +38,7 @@ TEST(Versioni, diMariadb)
 
 TEST(Versioni, diSqlite)
 {
-    EXPECT_EQ(ultimaVersioneRegistro(Dialetto::sqlite), 2);
+    EXPECT_EQ(ultimaVersioneRegistro(Dialetto::sqlite), 3);
     EXPECT_THAT(
         cheCosa(Dialetto::sqlite, 1),
         ElementsAre(u"create table registro_versione"_s, u"create table registro"_s,
@@ -51,6 +53,13 @@ TEST(Versioni, diSqlite)
                             u"create trigger registro_note_non_cambia"_s,
                             u"create trigger registro_note_non_si_toglie"_s,
                             u"create trigger registro_note_non_si_sostituisce"_s));
+    EXPECT_THAT(cheCosa(Dialetto::sqlite, 3),
+                ElementsAre(u"drop trigger registro_non_si_sostituisce"_s,
+                            u"create trigger registro_non_si_sostituisce"_s,
+                            u"create trigger registro_numero_positivo"_s,
+                            u"drop trigger registro_note_non_si_sostituisce"_s,
+                            u"create trigger registro_note_non_si_sostituisce"_s,
+                            u"create trigger registro_note_numero_positivo"_s));
 }
 
 TEST(Versioni, diUnAltroDatabaseNonCeNeSono)
@@ -64,7 +73,7 @@ TEST(Versioni, ogniIstruzioneSiPuoRipetere)
     for (const Dialetto dialetto : {Dialetto::mariadb, Dialetto::sqlite})
         for (int versione = 1; versione <= ultimaVersioneRegistro(dialetto); ++versione)
             for (const QString& istruzione : istruzioniRegistro(dialetto, versione, u"x"_s))
-                EXPECT_TRUE(istruzione.contains(u"if not exists"_s) ||
+                EXPECT_TRUE(istruzione.contains(u"if not exists"_s) || istruzione.contains(u"if exists"_s) ||
                             istruzione.startsWith(u"create or replace"_s))
                     << istruzione.toStdString();
 }

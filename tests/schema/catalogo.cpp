@@ -144,6 +144,8 @@ std::vector<VoceCatalogo> emissione(const Campione& c, Dialetto dialetto)
         {u"ultimoNumeroLdv"_s, ultimoNumeroLdv(dialetto), {anno}},
         {u"portoPerNumero"_s, portoPerNumero(), {u"1"_s}},
     };
+    if (dialetto == Dialetto::sqlite)
+        voci.push_back({u"annoDiProva"_s, annoDiProva()});
     if (dialetto == Dialetto::mariadb) {
         voci.push_back({u"comeSiChiamanoLeTabelle"_s, comeSiChiamanoLeTabelle()});
         voci.push_back({u"colonnaNumeroLdv"_s, colonnaNumeroLdv()});
