@@ -10,9 +10,9 @@ namespace giacenza::prove {
 
 namespace {
 
-std::map<std::string, std::unique_ptr<BancaDati>>& basi()
+std::map<std::pair<std::string, int>, std::unique_ptr<BancaDati>>& basi()
 {
-    static std::map<std::string, std::unique_ptr<BancaDati>> mappa;
+    static std::map<std::pair<std::string, int>, std::unique_ptr<BancaDati>> mappa;
     return mappa;
 }
 
@@ -27,15 +27,15 @@ const testing::Environment* const pulizia = testing::AddGlobalTestEnvironment(ne
 
 } // namespace
 
-const BancaDati& basePiena(const std::string& tipo)
+const BancaDati& basePiena(const std::string& tipo, int spedizioni)
 {
-    std::unique_ptr<BancaDati>& base = basi()[tipo];
+    std::unique_ptr<BancaDati>& base = basi()[{tipo, spedizioni}];
     if (base)
         return *base;
     const bool senzaStatistiche = tipo == "sqliteNuovo";
     auto nuova = std::make_unique<BancaDati>(senzaStatistiche ? "sqlite" : tipo);
     Connessione connessione = nuova->amministratore();
-    dimostrazione::riempi(connessione, {.spedizioni = spedizioniDimostrative, .oggi = oggiDimostrativo()});
+    dimostrazione::riempi(connessione, {.spedizioni = spedizioni, .oggi = oggiDimostrativo()});
     if (senzaStatistiche)
         connessione.esegui(u"delete from sqlite_stat1"_s);
     base = std::move(nuova);

@@ -14,7 +14,7 @@ inline constexpr int spedizioniDimostrative = 3000;
 
 /// A database of demonstration data, made once and shared by the tests of this program: they only read it.
 ///
-/// tipo: as for BancaDati, or "sqliteNuovo": one whose statistics nobody gathered yet.
-const BancaDati& basePiena(const std::string& tipo);
+/// tipo: as for BancaDati, or "sqliteNuovo": one whose statistics nobody gathered yet. spedizioni: waybills.
+const BancaDati& basePiena(const std::string& tipo, int spedizioni = spedizioniDimostrative);
 
 } // namespace giacenza::prove

@@ -66,10 +66,19 @@ bool buono(const AccessoTabella& accesso)
                        [](const QString& colonna) { return !colonneLarghe.contains(colonna); });
 }
 
+/// So many that the open cases are the few of a depot that has worked for years: where they are many, reading
+/// the whole table is the better plan. GIACENZA_SPEDIZIONI sets another number, as a million.
+int spedizioniDiAnni()
+{
+    bool detto = false;
+    const int quante = qEnvironmentVariableIntValue("GIACENZA_SPEDIZIONI", &detto);
+    return detto ? quante : 20'000;
+}
+
 class Piani : public testing::TestWithParam<std::string>
 {
 protected:
-    const BancaDati& mBase = basePiena(GetParam());
+    const BancaDati& mBase = basePiena(GetParam(), spedizioniDiAnni());
     Connessione mConnessione = mBase.amministratore();
 };
 
@@ -211,7 +220,7 @@ TEST(Catalogo, haOgniIstruzioneDelComponente)
 {
     QSet<QString> voci;
     for (const char* base : {"sqlite", "mariadb"})
-        for (const VoceCatalogo& voce : catalogo(basePiena(base)))
+        for (const VoceCatalogo& voce : catalogo(basePiena(base, spedizioniDiAnni())))
             voci << voce.nome;
     QStringList inCatalogo;
     for (const QString& voce : voci)
