@@ -3,6 +3,7 @@
 #include "base/orologio.h"
 #include "database/valori.h"
 #include "desk/finestra/aspettodesk.h"
+#include "desk/finestra/sordoaicodici.h"
 #include "desk/finestra/tabelladesk.h"
 #include "widgets/annuncio.h"
 #include "widgets/misuraricordata.h"
@@ -12,6 +13,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSet>
+#include <QShortcut>
 #include <QStandardItemModel>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -63,7 +65,10 @@ FinestraInvio::FinestraInvio(Lavoro lavoro, std::vector<Caso> casi, const Access
     vesti(this);
     componi();
     anteprima();
+    new SordoAiCodici(this);
     connect(mEmetti, &QPushButton::clicked, this, &FinestraInvio::avvia);
+    for (const Qt::Key tasto : {Qt::Key_Return, Qt::Key_Enter})
+        connect(new QShortcut(Qt::CTRL | tasto, this), &QShortcut::activated, mEmetti, &QPushButton::click);
     connect(mChiudi, &QPushButton::clicked, this, &FinestraInvio::reject);
 }
 
@@ -78,7 +83,8 @@ void FinestraInvio::componi()
     mBarra->setAccessibleName(u"Avanzamento"_s);
     mBarra->hide();
     mEmetti->setObjectName(u"cmdEmetti"_s);
-    mEmetti->setDefault(true);
+    mEmetti->setAutoDefault(false);
+    mEmetti->setFocusPolicy(Qt::NoFocus); // a scan may hold blanks too
     mChiudi->setObjectName(u"cmdChiudi"_s);
     mChiudi->setAutoDefault(false);
     auto* sotto = new QHBoxLayout;
@@ -131,9 +137,9 @@ void FinestraInvio::anteprima()
                             : u" %1 giacenze già avvisate oggi restano fuori."_s.arg(fuori);
     mTesto->setText(daFare == 0 ? u"Non c'è nessun avviso da emettere: oggi sono già stati emessi."_s
                                 : testo);
-    mEmetti->setText(mLavoro == Lavoro::avviso ? u"&Emetti"_s : u"Ristam&pa"_s);
+    mEmetti->setText(mLavoro == Lavoro::avviso ? u"&Emetti (Ctrl+Invio)"_s : u"Ristam&pa (Ctrl+Invio)"_s);
     mEmetti->setEnabled(daFare > 0);
-    (daFare > 0 ? mEmetti : mChiudi)->setFocus();
+    mTabella->setFocus();
 }
 
 void FinestraInvio::avvia()
@@ -143,7 +149,6 @@ void FinestraInvio::avvia()
     mInCorso = true;
     mEmetti->hide();
     mChiudi->setText(u"&Interrompi"_s);
-    mChiudi->setFocus();
     mBarra->setRange(0, static_cast<int>(mCasi.size()));
     mBarra->show();
     mModello->setHeaderData(colonnaEsito, Qt::Horizontal, u"Esito"_s);
@@ -223,8 +228,7 @@ void FinestraInvio::finito()
     annuncia(mTesto);
     mChiudi->setText(u"&Chiudi"_s);
     mChiudi->setEnabled(true);
-    mChiudi->setDefault(true);
-    mChiudi->setFocus();
+    mTabella->setFocus();
 }
 
 void FinestraInvio::reject()

@@ -15,6 +15,7 @@
 
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QStackedWidget>
 #include <QUrl>
 
@@ -29,6 +30,28 @@ CasoDaMostrare daMostrare(const Caso& caso)
     return {caso.chiave.numero,      dataBreve(caso.dal), caso.ldv.numero,
             dataBreve(caso.dataLdv), caso.cliente,        caso.ldv.filiale};
 }
+
+/// A menu that the first character of a scan closes: its letters are the one field's, and choose nothing.
+class MenuDelCaso : public QMenu
+{
+public:
+    MenuDelCaso(CampoScansione* campo, QWidget* padre) : QMenu(padre), mCampo(campo)
+    {
+        setAttribute(Qt::WA_DeleteOnClose);
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* evento) override
+    {
+        if (evento->key() == Qt::Key_Space || !scriveUnCarattere(*evento))
+            return QMenu::keyPressEvent(evento);
+        close();
+        mCampo->prendi(*evento);
+    }
+
+private:
+    CampoScansione* mCampo;
+};
 
 } // namespace
 
@@ -164,8 +187,8 @@ void FinestraDesk::menuCaso(const QPoint& dove)
 {
     if (casi().empty())
         return;
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
+    auto* menu = new MenuDelCaso(mCampo, this);
+    menu->setObjectName(u"menuRiga"_s);
     mAzioni.riempiCaso(menu);
     menu->popup(mElenco->tabella()->viewport()->mapToGlobal(dove));
 }

@@ -94,6 +94,28 @@ TEST_P(ProvaDesk, unNumeroDovunqueSiScrivaPortaAlCaso)
     EXPECT_THAT(mStampate, IsEmpty()) << "the N of a number sends no notice";
 }
 
+TEST_P(ProvaDesk, unaScansioneColMenuDellaRigaApertoNonSceglieNulla)
+{
+    vai(u"43/2026"_s);
+    for (const QString& numero : {u"A99"_s, u"p98"_s}) {
+        Q_EMIT elenco()->customContextMenuRequested({40, 40});
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_TRUE(menu);
+        menu->setActiveAction(mDesk->azioni().gestione);
+        QTest::keyClick(menu, numero.front().toLatin1());
+        EXPECT_FALSE(QApplication::activePopupWidget());
+        mFinestra->activateWindow(); // without a window manager nobody gives it its focus back
+        ASSERT_TRUE(QTest::qWaitForWindowActive(mFinestra.get()));
+        scansiona(numero.mid(1));
+        EXPECT_EQ(detto(),
+                  u"Nessuna corrispondenza per %1. Cercato come: LDV %1, giacenza %1, riferimento %1."_s.arg(
+                      numero));
+    }
+    EXPECT_THAT(mStampate, IsEmpty());
+    EXPECT_THAT(chiamate(), testing::Each(testing::Not(testing::Truly(
+                                [](const QString& chiamata) { return chiamata.startsWith(u"caso"_s); }))));
+}
+
 TEST_P(ProvaDesk, iDocumentiSiAproncoConInvio)
 {
     const QString cartella = mCartella.filePath(u"documenti"_s);
