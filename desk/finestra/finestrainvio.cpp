@@ -57,7 +57,7 @@ QStandardItem* cella(const QString& testo)
 FinestraInvio::FinestraInvio(Lavoro lavoro, std::vector<Caso> casi, const Accesso& accesso, QWidget* padre)
     : QDialog(padre), mLavoro(lavoro), mCasi(std::move(casi)), mEmittente(accesso), mTesto(new QLabel(this)),
       mTabella(new TabellaDesk(u"Casi e loro esito"_s, this)), mModello(new QStandardItemModel(this)),
-      mBarra(new QProgressBar(this)), mEmetti(new QPushButton(this)),
+      mRiga(new QLabel(this)), mBarra(new QProgressBar(this)), mEmetti(new QPushButton(this)),
       mChiudi(new QPushButton(u"Annulla"_s, this))
 {
     setObjectName(u"frmInvio"_s);
@@ -66,6 +66,10 @@ FinestraInvio::FinestraInvio(Lavoro lavoro, std::vector<Caso> casi, const Access
     componi();
     anteprima();
     new SordoAiCodici(this);
+    connect(mTabella->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &FinestraInvio::diciRiga);
+    connect(mModello, &QStandardItemModel::itemChanged, this, &FinestraInvio::diciRiga);
+    diciRiga();
     connect(mEmetti, &QPushButton::clicked, this, &FinestraInvio::avvia);
     for (const Qt::Key tasto : {Qt::Key_Return, Qt::Key_Enter})
         connect(new QShortcut(Qt::CTRL | tasto, this), &QShortcut::activated, mEmetti, &QPushButton::click);
@@ -79,6 +83,11 @@ void FinestraInvio::componi()
     mTabella->setObjectName(u"tabInvio"_s);
     mTabella->setSelectionMode(QAbstractItemView::SingleSelection);
     mTabella->setModel(mModello);
+    mRiga->setObjectName(u"lblRiga"_s);
+    mRiga->setTextFormat(Qt::PlainText);
+    mRiga->setWordWrap(true);
+    mRiga->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    mRiga->setFocusPolicy(Qt::StrongFocus);
     mBarra->setObjectName(u"barInvio"_s);
     mBarra->setAccessibleName(u"Avanzamento"_s);
     mBarra->hide();
@@ -95,6 +104,7 @@ void FinestraInvio::componi()
     auto* verticale = new QVBoxLayout(this);
     verticale->addWidget(mTesto);
     verticale->addWidget(mTabella, 1);
+    verticale->addWidget(mRiga);
     verticale->addLayout(sotto);
     const int carattere = fontMetrics().averageCharWidth();
     constexpr int colonne = 115;
@@ -191,9 +201,24 @@ void FinestraInvio::scriviEsito(std::size_t quale, const QString& parole, Esito 
     QStandardItem* dove = mModello->item(static_cast<int>(quale), colonnaEsito);
     dove->setText(segno() + parole);
     dove->setToolTip(dove->text());
-    if (esito == Esito::rifiutato || esito == Esito::incompleto)
+    if (esito == Esito::rifiutato || esito == Esito::incompleto) {
         dove->setForeground(coloreAllarme());
+        if (mPrimoGuasto < 0)
+            mPrimoGuasto = dove->row();
+    }
     mTabella->scrollTo(dove->index());
+}
+
+/// The current row's outcome whole: a column is too narrow for a reason.
+void FinestraInvio::diciRiga()
+{
+    const int riga = mTabella->currentIndex().row();
+    if (riga < 0)
+        return;
+    const QString nome = mModello->item(riga, 0)->text();
+    const QString esito = mModello->item(riga, colonnaEsito)->text();
+    mRiga->setText(u"%1: %2"_s.arg(nome, esito));
+    mRiga->setAccessibleName(u"Giacenza %1: %2"_s.arg(nome, esito));
 }
 
 QString FinestraInvio::riepilogo() const
@@ -223,6 +248,8 @@ void FinestraInvio::finito()
         if (!mFuori[i])
             mModello->item(static_cast<int>(i), colonnaEsito)->setText(u"non cominciata"_s);
     mInCorso = false;
+    if (mPrimoGuasto >= 0)
+        mTabella->setCurrentIndex(mModello->index(mPrimoGuasto, 0));
     mBarra->hide();
     mTesto->setText(riepilogo());
     annuncia(mTesto);

@@ -132,6 +132,7 @@ TEST_P(ProvaInvio, unaScansioneNonEmetteNulla)
         EXPECT_FALSE(finestra.cominciato());
         EXPECT_TRUE(finestra.isVisible()) << "nor is it closed";
         EXPECT_EQ(tabella->currentIndex().row(), 0);
+        EXPECT_EQ(trova<QLabel>(finestra, u"lblRiga"_s)->text(), u"42/2026: si conta e si stampa"_s);
         QTest::keyClick(&finestra, Qt::Key_Escape);
     });
     EXPECT_EQ(avvisi(), QString());
@@ -184,6 +185,12 @@ TEST_P(ProvaInvio, chiDiceDiNoNonFermaGliAltri)
         EXPECT_THAT(esiti(finestra),
                     testing::IsSupersetOf({u"✗ rifiutata: chiusa il 20/11/2026"_s,
                                            u"⚠ avviso n. 2, non stampato: La stampante è spenta."_s}));
+        const auto* riga = trova<QLabel>(finestra, u"lblRiga"_s);
+        EXPECT_EQ(riga->text(), u"41/2026: ✗ rifiutata: chiusa il 20/11/2026"_s) << "the first that failed";
+        EXPECT_EQ(riga->accessibleName(), u"Giacenza 41/2026: ✗ rifiutata: chiusa il 20/11/2026"_s);
+        EXPECT_TRUE(riga->wordWrap());
+        premi(Qt::Key_Down);
+        EXPECT_EQ(riga->text(), u"44/2026: ⚠ avviso n. 2, non stampato: La stampante è spenta."_s);
         QTest::keyClick(&finestra, Qt::Key_Escape);
     });
 }
@@ -197,12 +204,12 @@ TEST_P(ProvaInvio, unArchivioCheNonRispondeFermaIlResto)
             throw ErroreDatabase(u"08S01"_s, 2013, u"Lost connection"_s);
     });
     invia([&](FinestraInvio& finestra) {
-        QTest::keyClick(&finestra, Qt::Key_Return);
+        conferma(finestra);
         finisci(finestra);
         EXPECT_EQ(testo(finestra),
                   u"1 avviso prodotto, 1 rifiutati, 3 non cominciati: l'archivio non risponde."_s);
         EXPECT_THAT(esiti(finestra), testing::Contains(u"non cominciata"_s).Times(3));
-        QTest::keyClick(&finestra, Qt::Key_Return);
+        QTest::keyClick(&finestra, Qt::Key_Escape);
     });
     impostaTraccia(vecchia);
     EXPECT_EQ(mStampate.size(), 1);
