@@ -87,6 +87,8 @@ std::vector<Caso> FinestraDesk::casi() const
         return mElenco->marcati();
     if (mPagine->currentWidget() == mCaso && mCaso->catena())
         return {mCaso->catena()->riga.caso};
+    if (const auto scelto = mRisultati->caso(); scelto && mPagine->currentWidget() == mRisultati)
+        return {*scelto};
     return {};
 }
 
@@ -106,9 +108,29 @@ void FinestraDesk::cerca(const QString& testo)
     mCampo->cercato();
 }
 
+void FinestraDesk::letto(const Catena& catena)
+{
+    mCercando = false;
+    mCaso->mostra(catena);
+    const bool rilettura = std::exchange(mRilettura, false);
+    if (rilettura && mPagine->currentWidget() != mRisultati)
+        return;
+    // What was found has become one case: its page takes the place, and the focus only from there.
+    const bool conFuoco = !rilettura || mRisultati->isAncestorOf(window()->focusWidget());
+    if (!rilettura) {
+        dici({});
+        mCampo->cercato();
+    }
+    mPagine->setCurrentWidget(mCaso);
+    if (conFuoco)
+        mCaso->setFocus();
+}
+
 void FinestraDesk::trovato(const EsitoRicerca& esito)
 {
-    mRilettura = mCercando = false;
+    mCercando = false;
+    if (std::exchange(mRilettura, false))
+        return mRisultati->rimostra(esito);
     mCampo->cercato();
     if (esito.trovate.empty())
         return dici(senzaEsito(esito), true);
