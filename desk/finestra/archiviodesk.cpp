@@ -72,6 +72,30 @@ void ArchivioDesk::leggi(const Sguardo& sguardo, const ChiaveGiacenza& chiave)
     });
 }
 
+void ArchivioDesk::leggiCaso(const Sguardo& sguardo, const ChiaveGiacenza& chiave)
+{
+    mSfondo.esegui([this, sguardo, chiave, questo = ++mCasoChiesto] {
+        if (questo != mCasoChiesto)
+            return;
+        try {
+            prepara(mConnessione, sguardo.accesso);
+            const auto catena =
+                leggiCatena(*mConnessione, chiave, sguardo.cartelle, sguardo.oggi, sguardo.giorniFerma);
+            if (catena)
+                QMetaObject::invokeMethod(
+                    this, [this, caso = catena->riga.caso] { Q_EMIT casoLetto(caso); }, Qt::QueuedConnection);
+        } catch (const Errore& errore) {
+            mConnessione.reset();
+            QMetaObject::invokeMethod(
+                this,
+                [this, testo = spiega(errore), dettaglio = errore.testo()] {
+                    Q_EMIT fallito(testo, dettaglio);
+                },
+                Qt::QueuedConnection);
+        }
+    });
+}
+
 void ArchivioDesk::leggiFiliali(const Accesso& accesso)
 {
     mSfondo.esegui([this, accesso] {

@@ -6,6 +6,7 @@
 
 #include <QObject>
 
+#include <atomic>
 #include <memory>
 
 namespace giacenza::desk {
@@ -39,6 +40,9 @@ public:
     void cerca(const Sguardo& sguardo, const QString& digitato);
     /// A case: letto() comes. chiesto: as what it was found, for letto().
     void leggi(const Sguardo& sguardo, const ChiaveGiacenza& chiave);
+    /// A case that the operator may act on: casoLetto() comes, nothing when there is none. A later question
+    /// of these takes the place of one that has not begun; cerca() and leggi() stand beside it.
+    void leggiCaso(const Sguardo& sguardo, const ChiaveGiacenza& chiave);
     /// The branches: filialiLette() comes; nothing when they cannot be read, since the list itself tells
     /// that.
     void leggiFiliali(const Accesso& accesso);
@@ -46,6 +50,7 @@ public:
 Q_SIGNALS:
     void trovato(const giacenza::desk::EsitoRicerca& esito);
     void letto(const giacenza::desk::Catena& catena);
+    void casoLetto(const giacenza::desk::Caso& caso);
     void sparito(const QString& nomeGiacenza);
     void fallito(const QString& testo, const QString& dettaglio);
     void filialiLette(const std::vector<giacenza::desk::Filiale>& filiali);
@@ -56,6 +61,7 @@ private:
                                    Connessione& connessione);
 
     quint64 mDomanda = 0;
+    std::atomic<quint64> mCasoChiesto = 0;
     std::unique_ptr<Connessione> mConnessione; ///< of the thread's
     Sfondo mSfondo;                            ///< last: it ends before what its work uses
 };

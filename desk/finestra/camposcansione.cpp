@@ -37,6 +37,13 @@ bool vuoleLoSpazio(const QWidget* controllo)
 
 } // namespace
 
+bool scriveUnCarattere(const QKeyEvent& tasto)
+{
+    constexpr auto comandi = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    const QString testo = tasto.text();
+    return !(tasto.modifiers() & comandi) && !testo.isEmpty() && testo.at(0).isPrint();
+}
+
 CampoScansione::CampoScansione(QWidget* padre) : QLineEdit(padre)
 {
     setObjectName(u"txtCerca"_s);
@@ -64,14 +71,12 @@ void CampoScansione::cercato()
 
 bool CampoScansione::miSpetta(const QWidget* destinatario, const QKeyEvent& tasto) const
 {
-    constexpr auto comandi = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    const QString testo = tasto.text();
     if (destinatario == this || destinatario->window() != window() || !isVisible() || !isEnabled() ||
-        (tasto.modifiers() & comandi) || testo.isEmpty() || !testo.at(0).isPrint())
+        !scriveUnCarattere(tasto))
         return false;
     if (QApplication::activeModalWidget() || QApplication::activePopupWidget())
         return false;
-    return !prendeTesto(destinatario) && !(testo == u" "_s && vuoleLoSpazio(destinatario));
+    return !prendeTesto(destinatario) && !(tasto.text() == u" "_s && vuoleLoSpazio(destinatario));
 }
 
 bool CampoScansione::eventFilter(QObject* oggetto, QEvent* evento)
@@ -82,10 +87,15 @@ bool CampoScansione::eventFilter(QObject* oggetto, QEvent* evento)
     const auto* tasto = static_cast<const QKeyEvent*>(evento);
     if (!destinatario || !miSpetta(destinatario, *tasto))
         return QLineEdit::eventFilter(oggetto, evento);
-    setFocus(Qt::OtherFocusReason);
-    QKeyEvent mio(QEvent::KeyPress, tasto->key(), tasto->modifiers(), tasto->text(), tasto->isAutoRepeat());
-    QCoreApplication::sendEvent(this, &mio);
+    prendi(*tasto);
     return true;
+}
+
+void CampoScansione::prendi(const QKeyEvent& tasto)
+{
+    setFocus(Qt::OtherFocusReason);
+    QKeyEvent mio(QEvent::KeyPress, tasto.key(), tasto.modifiers(), tasto.text(), tasto.isAutoRepeat());
+    QCoreApplication::sendEvent(this, &mio);
 }
 
 void CampoScansione::focusInEvent(QFocusEvent* evento)

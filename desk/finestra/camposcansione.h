@@ -4,6 +4,9 @@
 
 namespace giacenza::desk {
 
+/// Whether a key puts a character where there is a field for it: no command, no arrow, no Enter.
+bool scriveUnCarattere(const QKeyEvent& tasto);
+
 /// The one field: it takes what a scanner or a hand gives, wherever in its window the focus is, unless
 /// another field has it.
 class CampoScansione : public QLineEdit
@@ -16,6 +19,8 @@ public:
 
     /// What it holds was looked for: the next character begins anew.
     void cercato();
+    /// Takes a key that somebody else was given, and the focus.
+    void prendi(const QKeyEvent& tasto);
 
 Q_SIGNALS:
     void chiesto(const QString& testo);

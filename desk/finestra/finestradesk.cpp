@@ -31,9 +31,9 @@ namespace {
 
 constexpr int cinqueMinuti = 5 * 60 * 1000;
 
-QString letto(const QString& che)
+QString adesso()
 {
-    return u"%1 alle %2"_s.arg(che, QTime::currentTime().toString(u"HH:mm:ss"_s));
+    return QTime::currentTime().toString(u"HH:mm:ss"_s);
 }
 
 } // namespace
@@ -101,6 +101,8 @@ void FinestraDesk::collegaPagine()
             [this](const Caso& caso) { apriCaso(SchermataCaso::gestione, u"Gestione giacenze"_s, caso); });
     connect(mCaso, &PaginaCaso::documento, this, &FinestraDesk::apriDocumento);
     connect(mRisultati, &PaginaRisultati::scelta, this, &FinestraDesk::scelta);
+    connect(mRisultati, &PaginaRisultati::indicata, this,
+            [this](const ChiaveGiacenza& chiave) { mArchivio->leggiCaso(sguardo(), chiave); });
     mElenco->tabella()->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(mElenco->tabella(), &QWidget::customContextMenuRequested, this, &FinestraDesk::menuCaso);
     connect(&mComponente, &cGiacenza::fine, this, &FinestraDesk::aggiorna);
@@ -113,16 +115,8 @@ void FinestraDesk::collegaLettura()
     connect(mScadenzario, &Scadenzario::fallito, this, &FinestraDesk::letturaFallita);
     connect(mArchivio, &ArchivioDesk::filialiLette, mElenco, &PaginaElenco::setFiliali);
     connect(mArchivio, &ArchivioDesk::trovato, this, &FinestraDesk::trovato);
-    connect(mArchivio, &ArchivioDesk::letto, this, [this](const Catena& catena) {
-        mCercando = false;
-        mCaso->mostra(catena);
-        if (std::exchange(mRilettura, false))
-            return;
-        dici({});
-        mCampo->cercato();
-        mPagine->setCurrentWidget(mCaso);
-        mCaso->setFocus();
-    });
+    connect(mArchivio, &ArchivioDesk::letto, this, &FinestraDesk::letto);
+    connect(mArchivio, &ArchivioDesk::casoLetto, mRisultati, &PaginaRisultati::setCaso);
     connect(mArchivio, &ArchivioDesk::sparito, this, [this](const QString& nome) {
         mRilettura = mCercando = false;
         dici(u"La giacenza %1 non c'è più."_s.arg(nome), true);
@@ -177,11 +171,20 @@ void FinestraDesk::aggiorna()
     mElenco->setLettura(u"lettura in corso…"_s);
     mScadenzario->leggi({*con, mElenco->filiale(), oggi(), lette.giorniFerma});
     mArchivio->leggiFiliali(*con);
-    // Not in the place of what the operator has asked for.
-    if (mPagine->currentWidget() == mCaso && mCaso->catena() && !mCercando) {
-        mRilettura = true;
+    rileggi();
+}
+
+/// What stands on the screen besides the list; not in the place of what the operator has asked for.
+void FinestraDesk::rileggi()
+{
+    const QWidget* pagina = mPagine->currentWidget();
+    if (mCercando || (pagina == mCaso && !mCaso->catena()) || pagina == mElenco)
+        return;
+    mRilettura = true;
+    if (pagina == mCaso)
         mArchivio->leggi(sguardo(), mCaso->catena()->riga.caso.chiave);
-    }
+    else
+        mArchivio->cerca(sguardo(), mRisultati->cercato());
 }
 
 void FinestraDesk::letteAltre(std::vector<RigaCaso>& righe)
@@ -197,7 +200,10 @@ void FinestraDesk::letturaFinita()
     if (!std::exchange(mPrimaLettura, false))
         mElenco->modello()->sostituisci(std::exchange(mLette, {}));
     mElenco->letta();
-    mElenco->setLettura(letto(u"letto"_s));
+    mLettaAlle = adesso();
+    mElenco->setLettura(u"letto alle %1"_s.arg(mLettaAlle));
+    if (mEsito->text() == std::exchange(mGuastoElenco, {}))
+        dici({});
     if (std::exchange(mFiltroRipreso, false))
         diciFiltroRipreso();
 }
@@ -207,8 +213,10 @@ void FinestraDesk::letturaFallita(const QString& testo, const QString& dettaglio
     // What a first reading has brought is not the whole: the next one begins anew.
     if (mPrimaLettura)
         mElenco->modello()->sostituisci({});
-    mElenco->setLettura(letto(u"lettura non riuscita"_s));
-    dici(u"L'elenco non si legge. %1"_s.arg(testo), true, dettaglio);
+    mElenco->setLettura(mPrimaLettura ? u"lettura non riuscita alle %1"_s.arg(adesso())
+                                      : u"letto alle %1; alle %2 non riuscita"_s.arg(mLettaAlle, adesso()));
+    mGuastoElenco = u"L'elenco non si legge. %1"_s.arg(testo);
+    dici(mGuastoElenco, true, dettaglio);
 }
 
 void FinestraDesk::dici(const QString& testo, bool allarme, const QString& dettaglio)

@@ -47,10 +47,11 @@ public:
     ~FinestraDesk() override;
 
     AzioniDesk& azioni() { return mAzioni; }
-    /// What the actions are about: the case that is shown, else those that are marked in the list.
+    /// What the actions are about: the case that is shown, or chosen among what was found, else those that
+    /// are marked in the list.
     std::vector<Caso> casi() const;
 
-    /// Reads the list, and the case that is shown, anew.
+    /// Reads the list, and the case or what was found that is shown, anew.
     void aggiorna();
     /// Takes columns, order, branch and filter from the last time; before the first reading.
     void riprendi(const QSettings& impostazioni);
@@ -75,7 +76,9 @@ private:
     void diciFiltroRipreso();
     void letturaFallita(const QString& testo, const QString& dettaglio);
 
+    void rileggi();
     void cerca(const QString& testo);
+    void letto(const Catena& catena);
     void trovato(const EsitoRicerca& esito);
     void scelta(const Trovata& trovata);
     void mostraCatena(const Caso& caso);
@@ -106,7 +109,9 @@ private:
     bool mPrimaLettura = true;
     bool mFiltroRipreso = false;  ///< it is the last time's, and nobody was told yet
     bool mCercando = false;       ///< an answer that the operator waits for is on its way
-    bool mRilettura = false;      ///< the case on the screen is being read anew: nothing moves
+    bool mRilettura = false;      ///< what is on the screen is being read anew: nothing moves
+    QString mLettaAlle;           ///< when the list was read that stands there
+    QString mGuastoElenco;        ///< what was said of a list that could not be read
     std::vector<RigaCaso> mLette; ///< of a reading that replaces an earlier one
     Scadenzario* mScadenzario;
     ArchivioDesk* mArchivio;

@@ -3,6 +3,7 @@
 #include "base/orologio.h"
 #include "database/valori.h"
 #include "desk/finestra/aspettodesk.h"
+#include "desk/finestra/sordoaicodici.h"
 #include "desk/finestra/tabelladesk.h"
 #include "widgets/annuncio.h"
 #include "widgets/misuraricordata.h"
@@ -12,6 +13,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSet>
+#include <QShortcut>
 #include <QStandardItemModel>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -55,7 +57,7 @@ QStandardItem* cella(const QString& testo)
 FinestraInvio::FinestraInvio(Lavoro lavoro, std::vector<Caso> casi, const Accesso& accesso, QWidget* padre)
     : QDialog(padre), mLavoro(lavoro), mCasi(std::move(casi)), mEmittente(accesso), mTesto(new QLabel(this)),
       mTabella(new TabellaDesk(u"Casi e loro esito"_s, this)), mModello(new QStandardItemModel(this)),
-      mBarra(new QProgressBar(this)), mEmetti(new QPushButton(this)),
+      mRiga(new QLabel(this)), mBarra(new QProgressBar(this)), mEmetti(new QPushButton(this)),
       mChiudi(new QPushButton(u"Annulla"_s, this))
 {
     setObjectName(u"frmInvio"_s);
@@ -63,7 +65,14 @@ FinestraInvio::FinestraInvio(Lavoro lavoro, std::vector<Caso> casi, const Access
     vesti(this);
     componi();
     anteprima();
+    new SordoAiCodici(this);
+    connect(mTabella->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &FinestraInvio::diciRiga);
+    connect(mModello, &QStandardItemModel::itemChanged, this, &FinestraInvio::diciRiga);
+    diciRiga();
     connect(mEmetti, &QPushButton::clicked, this, &FinestraInvio::avvia);
+    for (const Qt::Key tasto : {Qt::Key_Return, Qt::Key_Enter})
+        connect(new QShortcut(Qt::CTRL | tasto, this), &QShortcut::activated, mEmetti, &QPushButton::click);
     connect(mChiudi, &QPushButton::clicked, this, &FinestraInvio::reject);
 }
 
@@ -74,11 +83,17 @@ void FinestraInvio::componi()
     mTabella->setObjectName(u"tabInvio"_s);
     mTabella->setSelectionMode(QAbstractItemView::SingleSelection);
     mTabella->setModel(mModello);
+    mRiga->setObjectName(u"lblRiga"_s);
+    mRiga->setTextFormat(Qt::PlainText);
+    mRiga->setWordWrap(true);
+    mRiga->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    mRiga->setFocusPolicy(Qt::StrongFocus);
     mBarra->setObjectName(u"barInvio"_s);
     mBarra->setAccessibleName(u"Avanzamento"_s);
     mBarra->hide();
     mEmetti->setObjectName(u"cmdEmetti"_s);
-    mEmetti->setDefault(true);
+    mEmetti->setAutoDefault(false);
+    mEmetti->setFocusPolicy(Qt::NoFocus); // a scan may hold blanks too
     mChiudi->setObjectName(u"cmdChiudi"_s);
     mChiudi->setAutoDefault(false);
     auto* sotto = new QHBoxLayout;
@@ -89,6 +104,7 @@ void FinestraInvio::componi()
     auto* verticale = new QVBoxLayout(this);
     verticale->addWidget(mTesto);
     verticale->addWidget(mTabella, 1);
+    verticale->addWidget(mRiga);
     verticale->addLayout(sotto);
     const int carattere = fontMetrics().averageCharWidth();
     constexpr int colonne = 115;
@@ -131,9 +147,9 @@ void FinestraInvio::anteprima()
                             : u" %1 giacenze già avvisate oggi restano fuori."_s.arg(fuori);
     mTesto->setText(daFare == 0 ? u"Non c'è nessun avviso da emettere: oggi sono già stati emessi."_s
                                 : testo);
-    mEmetti->setText(mLavoro == Lavoro::avviso ? u"&Emetti"_s : u"Ristam&pa"_s);
+    mEmetti->setText(mLavoro == Lavoro::avviso ? u"&Emetti (Ctrl+Invio)"_s : u"Ristam&pa (Ctrl+Invio)"_s);
     mEmetti->setEnabled(daFare > 0);
-    (daFare > 0 ? mEmetti : mChiudi)->setFocus();
+    mTabella->setFocus();
 }
 
 void FinestraInvio::avvia()
@@ -143,7 +159,6 @@ void FinestraInvio::avvia()
     mInCorso = true;
     mEmetti->hide();
     mChiudi->setText(u"&Interrompi"_s);
-    mChiudi->setFocus();
     mBarra->setRange(0, static_cast<int>(mCasi.size()));
     mBarra->show();
     mModello->setHeaderData(colonnaEsito, Qt::Horizontal, u"Esito"_s);
@@ -186,9 +201,24 @@ void FinestraInvio::scriviEsito(std::size_t quale, const QString& parole, Esito 
     QStandardItem* dove = mModello->item(static_cast<int>(quale), colonnaEsito);
     dove->setText(segno() + parole);
     dove->setToolTip(dove->text());
-    if (esito == Esito::rifiutato || esito == Esito::incompleto)
+    if (esito == Esito::rifiutato || esito == Esito::incompleto) {
         dove->setForeground(coloreAllarme());
+        if (mPrimoGuasto < 0)
+            mPrimoGuasto = dove->row();
+    }
     mTabella->scrollTo(dove->index());
+}
+
+/// The current row's outcome whole: a column is too narrow for a reason.
+void FinestraInvio::diciRiga()
+{
+    const int riga = mTabella->currentIndex().row();
+    if (riga < 0)
+        return;
+    const QString nome = mModello->item(riga, 0)->text();
+    const QString esito = mModello->item(riga, colonnaEsito)->text();
+    mRiga->setText(u"%1: %2"_s.arg(nome, esito));
+    mRiga->setAccessibleName(u"Giacenza %1: %2"_s.arg(nome, esito));
 }
 
 QString FinestraInvio::riepilogo() const
@@ -218,13 +248,14 @@ void FinestraInvio::finito()
         if (!mFuori[i])
             mModello->item(static_cast<int>(i), colonnaEsito)->setText(u"non cominciata"_s);
     mInCorso = false;
+    if (mPrimoGuasto >= 0)
+        mTabella->setCurrentIndex(mModello->index(mPrimoGuasto, 0));
     mBarra->hide();
     mTesto->setText(riepilogo());
     annuncia(mTesto);
     mChiudi->setText(u"&Chiudi"_s);
     mChiudi->setEnabled(true);
-    mChiudi->setDefault(true);
-    mChiudi->setFocus();
+    mTabella->setFocus();
 }
 
 void FinestraInvio::reject()

@@ -38,6 +38,7 @@ private:
     void prossimo();
     void finito();
     void scriviEsito(std::size_t quale, const QString& parole, Esito esito);
+    void diciRiga();
     QString riepilogo() const;
 
     Lavoro mLavoro;
@@ -49,10 +50,12 @@ private:
     bool mInCorso = false;
     bool mInterrotto = false;
     bool mSenzaArchivio = false; ///< the last case found the archive silent
+    int mPrimoGuasto = -1;       ///< the first row that was refused or not printed
     int mConti[4] = {};          ///< by Esito
     QLabel* mTesto;
     TabellaDesk* mTabella;
     QStandardItemModel* mModello;
+    QLabel* mRiga;
     QProgressBar* mBarra;
     QPushButton* mEmetti;
     QPushButton* mChiudi;

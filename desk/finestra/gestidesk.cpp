@@ -15,6 +15,7 @@
 
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QStackedWidget>
 #include <QUrl>
 
@@ -29,6 +30,28 @@ CasoDaMostrare daMostrare(const Caso& caso)
     return {caso.chiave.numero,      dataBreve(caso.dal), caso.ldv.numero,
             dataBreve(caso.dataLdv), caso.cliente,        caso.ldv.filiale};
 }
+
+/// A menu that the first character of a scan closes: its letters are the one field's, and choose nothing.
+class MenuDelCaso : public QMenu
+{
+public:
+    MenuDelCaso(CampoScansione* campo, QWidget* padre) : QMenu(padre), mCampo(campo)
+    {
+        setAttribute(Qt::WA_DeleteOnClose);
+    }
+
+protected:
+    void keyPressEvent(QKeyEvent* evento) override
+    {
+        if (evento->key() == Qt::Key_Space || !scriveUnCarattere(*evento))
+            return QMenu::keyPressEvent(evento);
+        close();
+        mCampo->prendi(*evento);
+    }
+
+private:
+    CampoScansione* mCampo;
+};
 
 } // namespace
 
@@ -64,6 +87,8 @@ std::vector<Caso> FinestraDesk::casi() const
         return mElenco->marcati();
     if (mPagine->currentWidget() == mCaso && mCaso->catena())
         return {mCaso->catena()->riga.caso};
+    if (const auto scelto = mRisultati->caso(); scelto && mPagine->currentWidget() == mRisultati)
+        return {*scelto};
     return {};
 }
 
@@ -83,9 +108,29 @@ void FinestraDesk::cerca(const QString& testo)
     mCampo->cercato();
 }
 
+void FinestraDesk::letto(const Catena& catena)
+{
+    mCercando = false;
+    mCaso->mostra(catena);
+    const bool rilettura = std::exchange(mRilettura, false);
+    if (rilettura && mPagine->currentWidget() != mRisultati)
+        return;
+    // What was found has become one case: its page takes the place, and the focus only from there.
+    const bool conFuoco = !rilettura || mRisultati->isAncestorOf(window()->focusWidget());
+    if (!rilettura) {
+        dici({});
+        mCampo->cercato();
+    }
+    mPagine->setCurrentWidget(mCaso);
+    if (conFuoco)
+        mCaso->setFocus();
+}
+
 void FinestraDesk::trovato(const EsitoRicerca& esito)
 {
-    mRilettura = mCercando = false;
+    mCercando = false;
+    if (std::exchange(mRilettura, false))
+        return mRisultati->rimostra(esito);
     mCampo->cercato();
     if (esito.trovate.empty())
         return dici(senzaEsito(esito), true);
@@ -164,8 +209,8 @@ void FinestraDesk::menuCaso(const QPoint& dove)
 {
     if (casi().empty())
         return;
-    auto* menu = new QMenu(this);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
+    auto* menu = new MenuDelCaso(mCampo, this);
+    menu->setObjectName(u"menuRiga"_s);
     mAzioni.riempiCaso(menu);
     menu->popup(mElenco->tabella()->viewport()->mapToGlobal(dove));
 }

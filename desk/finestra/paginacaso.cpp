@@ -49,6 +49,15 @@ QString scritto(const Catena& catena)
     return catena.fattura.isEmpty() ? testo : u"%1; fattura %2"_s.arg(testo, catena.fattura);
 }
 
+constexpr const char* nomeVoce = "voce";
+
+/// A value has no name before it for who does not see it: it says its own.
+void scrivi(QLabel* valore, const QString& testo)
+{
+    valore->setText(testo);
+    valore->setAccessibleName(u"%1: %2"_s.arg(valore->property(nomeVoce).toString(), testo));
+}
+
 } // namespace
 
 PaginaCaso::PaginaCaso(QWidget* padre)
@@ -76,7 +85,9 @@ QLabel* PaginaCaso::voce(QGridLayout* griglia, int riga, int colonna, const QStr
     valore->setTextFormat(Qt::PlainText);
     valore->setWordWrap(true);
     valore->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    valore->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    valore->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    valore->setFocusPolicy(Qt::StrongFocus); // text that can be marked alone is only clicked on
+    valore->setProperty(nomeVoce, nome);
     griglia->addWidget(titolo, riga, 2 * colonna);
     griglia->addWidget(valore, riga, 2 * colonna + 1);
     return valore;
@@ -145,17 +156,17 @@ void PaginaCaso::mostraTesta()
     const bool chiusa = c.buonFine.isValid();
     mStato->setText(chiusa ? u"CHIUSA"_s : parole(c.riga.valutazione.stato).toUpper());
     tingi(mStato, chiusa ? QColor() : colore(c.riga.valutazione.stato));
-    mCliente->setText(u"%1 %2"_s.arg(caso.cliente, caso.ragioneSociale).trimmed());
-    mDestinatario->setText(
-        QStringList{caso.destinatario, caso.localita, caso.provincia}.join(u' ').simplified());
-    mRiferimento->setText(u"%1 · %2 colli, %3"_s.arg(caso.riferimento.isEmpty() ? u"–"_s : caso.riferimento,
-                                                     QString::number(caso.colli),
-                                                     chili(inCentesimi(caso.peso).value_or(0))));
-    mSosta->setText(sosta(c.riga, c.buonFine) + u", filiale "_s + caso.filiale);
-    mImporto->setText(importo(c));
-    mScritto->setText(scritto(c));
+    scrivi(mCliente, u"%1 %2"_s.arg(caso.cliente, caso.ragioneSociale).trimmed());
+    scrivi(mDestinatario,
+           QStringList{caso.destinatario, caso.localita, caso.provincia}.join(u' ').simplified());
+    scrivi(mRiferimento, u"%1 · %2 colli, %3"_s.arg(caso.riferimento.isEmpty() ? u"–"_s : caso.riferimento,
+                                                    QString::number(caso.colli),
+                                                    chili(inCentesimi(caso.peso).value_or(0))));
+    scrivi(mSosta, sosta(c.riga, c.buonFine) + u", filiale "_s + caso.filiale);
+    scrivi(mImporto, importo(c));
+    scrivi(mScritto, scritto(c));
     constexpr qsizetype massimo = 400;
-    mMotivo->setText(caso.motivo.size() > massimo ? caso.motivo.left(massimo) + u"…"_s : caso.motivo);
+    scrivi(mMotivo, caso.motivo.size() > massimo ? caso.motivo.left(massimo) + u"…"_s : caso.motivo);
 }
 
 void PaginaCaso::mostraPassi()

@@ -9,6 +9,8 @@
 #include <QStandardItemModel>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace giacenza::desk {
@@ -69,14 +71,33 @@ PaginaRisultati::PaginaRisultati(QWidget* padre)
     connect(mTabella, &TabellaDesk::presa, this,
             [this](int quale) { Q_EMIT scelta(mEsito.trovate.at(static_cast<std::size_t>(quale))); });
     connect(mTabella->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this](const QModelIndex& corrente) { suggerisci(corrente.row()); });
+            [this](const QModelIndex& corrente) { indica(corrente.row()); });
     setFocusProxy(mTabella);
 }
 
 void PaginaRisultati::mostra(EsitoRicerca esito)
 {
+    riempi(std::move(esito));
+    mTabella->setCurrentIndex(mModello->index(0, 0));
+    annuncia(mTitolo);
+}
+
+void PaginaRisultati::rimostra(EsitoRicerca esito)
+{
+    const Trovata* scelta = corrente();
+    const QString prima = scelta ? nomeLdv(scelta->ldv) : QString();
+    riempi(std::move(esito));
+    const auto stessa = std::find_if(mEsito.trovate.begin(), mEsito.trovate.end(),
+                                     [&](const Trovata& t) { return nomeLdv(t.ldv) == prima; });
+    const auto posto = stessa == mEsito.trovate.end() ? 0 : stessa - mEsito.trovate.begin();
+    mTabella->setCurrentIndex(mModello->index(static_cast<int>(posto), 0));
+}
+
+void PaginaRisultati::riempi(EsitoRicerca esito)
+{
     mEsito = std::move(esito);
     mModello->clear();
+    mSuggerimento->clear();
     mModello->setHorizontalHeaderLabels({u"Che cosa"_s, u"LDV"_s, u"Data"_s, u"Cliente"_s, u"Destinatario"_s,
                                          u"Riferimento"_s, u"Trovata come"_s});
     for (const Trovata& trovata : mEsito.trovate)
@@ -90,16 +111,33 @@ void PaginaRisultati::mostra(EsitoRicerca esito)
     mTabella->setMisure({u"giacenza 99999/2026, chiusa il 00/00/0000"_s, u"99999/2026 MI (riconsegna)"_s,
                          u"00/00/0000"_s, u"Ferramenta Lombarda S.r.l."_s, u"Utensileria del Lago Como"_s,
                          u"ORD-0000000"_s});
-    mTabella->setCurrentIndex(mModello->index(0, 0));
-    suggerisci(0);
-    annuncia(mTitolo);
 }
 
-void PaginaRisultati::suggerisci(int quale)
+const Trovata* PaginaRisultati::corrente() const
 {
-    if (quale < 0 || static_cast<std::size_t>(quale) >= mEsito.trovate.size())
+    const int quale = mTabella->currentIndex().row();
+    return quale < 0 ? nullptr : &mEsito.trovate.at(static_cast<std::size_t>(quale));
+}
+
+std::optional<Caso> PaginaRisultati::caso() const
+{
+    const Trovata* t = corrente();
+    return t && t->caso && mCaso && nomeGiacenza(mCaso->chiave) == nomeGiacenza(*t->caso) ? mCaso
+                                                                                          : std::nullopt;
+}
+
+void PaginaRisultati::setCaso(const Caso& caso)
+{
+    mCaso = caso;
+}
+
+void PaginaRisultati::indica(int quale)
+{
+    if (quale < 0)
         return mSuggerimento->clear();
     const Trovata& t = mEsito.trovate.at(static_cast<std::size_t>(quale));
+    if (t.caso)
+        Q_EMIT indicata(*t.caso);
     mSuggerimento->setText(
         t.caso ? u"Invio mostra il caso. Esc torna all'elenco."_s
                : u"Invio registra la giacenza di questa lettera di vettura. Esc torna all'elenco."_s);

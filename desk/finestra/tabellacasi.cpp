@@ -58,26 +58,44 @@ void TabellaCasi::ricorda()
     mColonna = currentIndex().isValid() ? currentIndex().column() : 0;
     const int prima = rowAt(0);
     mPrima = prima > 0 ? nome(prima) : QString();
+    mScorsa = horizontalScrollBar()->value();
 }
 
 void TabellaCasi::rimetti()
 {
     if (mMarcate.isEmpty() && mCorrente.isEmpty() && mPrima.isEmpty())
-        return scrollToTop();
+        scrollToTop();
+    else
+        rimettiRighe();
+    executeDelayedItemsLayout(); // until then the bar does not know how far it goes
+    horizontalScrollBar()->setValue(mScorsa);
+}
+
+void TabellaCasi::rimettiRighe()
+{
     QItemSelection scelte;
     int corrente = -1;
     int prima = -1;
-    const int ultima = mModello->columnCount() - 1;
+    int primaMarcata = -1;
+    // A range for each stretch of rows: what the view does for each range it does for all the others.
+    const auto chiudiTratto = [&](int dopo) {
+        if (primaMarcata >= 0)
+            scelte.append(QItemSelectionRange(mModello->index(primaMarcata, 0),
+                                              mModello->index(dopo - 1, mModello->columnCount() - 1)));
+        primaMarcata = -1;
+    };
     for (int riga = 0; riga < mModello->rowCount(); ++riga) {
         const QString nome = nomeGiacenza(mModello->riga(riga).caso.chiave);
-        if (mMarcate.contains(nome))
-            scelte.merge(QItemSelection(mModello->index(riga, 0), mModello->index(riga, ultima)),
-                         QItemSelectionModel::Select);
+        if (!mMarcate.contains(nome))
+            chiudiTratto(riga);
+        else if (primaMarcata < 0)
+            primaMarcata = riga;
         if (nome == mCorrente)
             corrente = riga;
         if (nome == mPrima)
             prima = riga;
     }
+    chiudiTratto(mModello->rowCount());
     if (corrente >= 0)
         selectionModel()->setCurrentIndex(mModello->index(corrente, mColonna), QItemSelectionModel::NoUpdate);
     selectionModel()->select(scelte, QItemSelectionModel::ClearAndSelect);

@@ -10,7 +10,7 @@ class ColonneScelte;
 class ModelloCasi;
 
 /// The list of the open cases. Whatever the model does, the marked rows stay marked, the current one stays
-/// current, and the list stays where it was scrolled to, as long as their cases are there.
+/// current, and the list stays where it was scrolled to, both ways, as long as their cases are there.
 class TabellaCasi : public TabellaDesk
 {
     Q_OBJECT
@@ -28,13 +28,15 @@ public:
 private:
     void ricorda();
     void rimetti();
+    void rimettiRighe();
 
     ModelloCasi* mModello;
     ColonneScelte* mColonneScelte;
     QSet<QString> mMarcate; ///< names of cases
     QString mCorrente;
     int mColonna = 0;
-    QString mPrima; ///< the first that is in view
+    QString mPrima;  ///< the first that is in view
+    int mScorsa = 0; ///< how far it is scrolled to the right, in pixels
 };
 
 } // namespace giacenza::desk

@@ -66,7 +66,7 @@ void emetti(Regista& regista, QWidget* dialogo)
                 cella.row() == fatti && ++fatti == quanti - 1)
                 fotografaNeiDueColori(regista, dialogo, u"avvisi-avanzamento"_s);
         });
-    regista.preme(dialogo, Qt::Key_Return);
+    regista.preme(dialogo, Qt::Key_Return, Qt::ControlModifier);
     Regista::attende([&] { return Regista::testo(dialogo, u"cmdChiudi"_s) == u"&Chiudi"_s; },
                      u"gli avvisi non sono finiti"_s);
     QObject::disconnect(ascolto);

@@ -146,7 +146,7 @@ void treAvvisi(Album& album, QWidget* finestra)
     scattaElenco(album, finestra, u"banco-segnate"_s);
     regista.rispondendo([&] { regista.preme(casi, Qt::Key_N, Qt::ControlModifier); }, {[&](QWidget* dialogo) {
                             album.scatta(dialogo, u"avvisi-anteprima"_s);
-                            regista.preme(dialogo, Qt::Key_Return);
+                            regista.preme(dialogo, Qt::Key_Return, Qt::ControlModifier);
                             Regista::attende(
                                 [&] { return Regista::testo(dialogo, u"cmdChiudi"_s) == u"&Chiudi"_s; },
                                 u"gli avvisi non sono finiti"_s);

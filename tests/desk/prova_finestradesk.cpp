@@ -5,6 +5,7 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QUrl>
 
 using namespace giacenza;
@@ -185,7 +186,17 @@ TEST_P(ProvaDesk, unGuastoSiDiceELElencoResta)
     premi(Qt::Key_F5);
     attendi([this] { return detto().startsWith(u"L'elenco non si legge."_s); });
     EXPECT_EQ(elenco()->model()->rowCount(), 5);
-    EXPECT_TRUE(figlio<QLabel>(u"lblLettura")->text().startsWith(u"lettura non riuscita alle"_s));
+    const auto* lettura = figlio<QLabel>(u"lblLettura");
+    const QString ora = u"\\d\\d:\\d\\d:\\d\\d"_s;
+    EXPECT_TRUE(QRegularExpression(u"^letto alle %1; alle %1 non riuscita$"_s.arg(ora))
+                    .match(lettura->text())
+                    .hasMatch())
+        << lettura->text().toStdString();
+    mBase.esegui(u"alter table altrove rename to giace00f"_s);
+    premi(Qt::Key_F5);
+    attendi(
+        [&] { return QRegularExpression(u"^letto alle %1$"_s.arg(ora)).match(lettura->text()).hasMatch(); });
+    EXPECT_EQ(detto(), QString());
 }
 
 TEST_P(ProvaDesk, ogniControlloHaUnNomeSuo)

@@ -28,6 +28,10 @@ protected:
         elenco()->setFocus();
         elenco()->selectAll();
     }
+    static void conferma(FinestraInvio& finestra)
+    {
+        QTest::keyClick(&finestra, Qt::Key_Return, Qt::ControlModifier);
+    }
     static void finisci(const FinestraInvio& finestra)
     {
         ASSERT_TRUE(QTest::qWaitFor(
@@ -73,7 +77,7 @@ TEST_P(ProvaInvio, primaSiVedeQuantiEAChiPoiCheNeEStato)
         EXPECT_THAT(esiti(finestra), testing::Contains(u"lasciata fuori: avvisata oggi"_s).Times(1));
         const AlberoAccessibile albero = alberoAccessibile(&finestra);
         EXPECT_THAT(albero.senzaNome, IsEmpty());
-        QTest::keyClick(&finestra, Qt::Key_Return);
+        conferma(finestra);
         finisci(finestra);
         EXPECT_EQ(testo(finestra), u"4 avvisi prodotti, 1 lasciati fuori."_s);
         EXPECT_THAT(esiti(finestra),
@@ -89,9 +93,9 @@ TEST_P(ProvaInvio, ripeteteNonFannoNulla)
 {
     segnaTutte();
     invia([&](FinestraInvio& finestra) {
-        QTest::keyClick(&finestra, Qt::Key_Return);
+        conferma(finestra);
         finisci(finestra);
-        QTest::keyClick(&finestra, Qt::Key_Return);
+        QTest::keyClick(&finestra, Qt::Key_Escape);
     });
     const QString prima = avvisi();
     segnaTutte();
@@ -112,6 +116,44 @@ TEST_P(ProvaInvio, annullareNonFaNulla)
     EXPECT_THAT(mStampate, IsEmpty());
 }
 
+TEST_P(ProvaInvio, unaScansioneNonEmetteNulla)
+{
+    segnaTutte();
+    invia([&](FinestraInvio& finestra) {
+        const auto* tabella = trova<QTableView>(finestra, u"tabInvio"_s);
+        EXPECT_TRUE(tabella->hasFocus());
+        for (int volta = 0; volta < 2; ++volta) {
+            digita(volta == 0 ? u"N4 2e"_s : u"N42e"_s); // a blank presses the button that Tab has gone to
+            premi(Qt::Key_Return);
+            premi(Qt::Key_Enter);
+            premi(Qt::Key_Tab);
+        }
+        QCoreApplication::processEvents();
+        EXPECT_FALSE(finestra.cominciato());
+        EXPECT_TRUE(finestra.isVisible()) << "nor is it closed";
+        EXPECT_EQ(tabella->currentIndex().row(), 0);
+        EXPECT_EQ(trova<QLabel>(finestra, u"lblRiga"_s)->text(), u"42/2026: si conta e si stampa"_s);
+        QTest::keyClick(&finestra, Qt::Key_Escape);
+    });
+    EXPECT_EQ(avvisi(), QString());
+    EXPECT_THAT(mStampate, IsEmpty());
+}
+
+TEST_P(ProvaInvio, siConfermaConAltELaSuaLettera)
+{
+    segnaTutte();
+    invia([&](FinestraInvio& finestra) {
+        EXPECT_EQ(trova<QPushButton>(finestra, u"cmdEmetti"_s)->text(), u"&Emetti (Ctrl+Invio)"_s);
+        QTest::keyClick(&finestra, Qt::Key_E, Qt::AltModifier);
+        finisci(finestra);
+        digita(u"42"_s);
+        premi(Qt::Key_Return);
+        EXPECT_TRUE(finestra.isVisible()) << "what came of it is not scanned away";
+        QTest::keyClick(&finestra, Qt::Key_Escape);
+    });
+    EXPECT_EQ(mStampate.size(), 5);
+}
+
 TEST_P(ProvaInvio, siInterrompeTraUnaELAltra)
 {
     segnaTutte();
@@ -121,11 +163,11 @@ TEST_P(ProvaInvio, siInterrompeTraUnaELAltra)
             if (mStampate.size() == 2)
                 finestra.reject();
         });
-        QTest::keyClick(&finestra, Qt::Key_Return);
+        conferma(finestra);
         finisci(finestra);
         EXPECT_EQ(testo(finestra), u"2 avvisi prodotti, 3 non cominciati: interrotto."_s);
         EXPECT_THAT(esiti(finestra), testing::Contains(u"non cominciata"_s).Times(3));
-        QTest::keyClick(&finestra, Qt::Key_Return);
+        QTest::keyClick(&finestra, Qt::Key_Escape);
     });
     EXPECT_EQ(mStampate.size(), 2);
 }
@@ -136,14 +178,20 @@ TEST_P(ProvaInvio, chiDiceDiNoNonFermaGliAltri)
     mBase.esegui(u"update giace00f set GIDTBF='2026-11-20' where GINRGI='41'"_s);
     mRifiutata = u"44_2026"_s;
     invia([&](FinestraInvio& finestra) {
-        QTest::keyClick(&finestra, Qt::Key_Return);
+        conferma(finestra);
         finisci(finestra);
         EXPECT_EQ(testo(finestra),
                   u"3 avvisi prodotti, 1 rifiutati, 1 contati e non stampati: ristamparli con Ctrl+P."_s);
         EXPECT_THAT(esiti(finestra),
                     testing::IsSupersetOf({u"✗ rifiutata: chiusa il 20/11/2026"_s,
                                            u"⚠ avviso n. 2, non stampato: La stampante è spenta."_s}));
-        QTest::keyClick(&finestra, Qt::Key_Return);
+        const auto* riga = trova<QLabel>(finestra, u"lblRiga"_s);
+        EXPECT_EQ(riga->text(), u"41/2026: ✗ rifiutata: chiusa il 20/11/2026"_s) << "the first that failed";
+        EXPECT_EQ(riga->accessibleName(), u"Giacenza 41/2026: ✗ rifiutata: chiusa il 20/11/2026"_s);
+        EXPECT_TRUE(riga->wordWrap());
+        premi(Qt::Key_Down);
+        EXPECT_EQ(riga->text(), u"44/2026: ⚠ avviso n. 2, non stampato: La stampante è spenta."_s);
+        QTest::keyClick(&finestra, Qt::Key_Escape);
     });
 }
 
@@ -156,12 +204,12 @@ TEST_P(ProvaInvio, unArchivioCheNonRispondeFermaIlResto)
             throw ErroreDatabase(u"08S01"_s, 2013, u"Lost connection"_s);
     });
     invia([&](FinestraInvio& finestra) {
-        QTest::keyClick(&finestra, Qt::Key_Return);
+        conferma(finestra);
         finisci(finestra);
         EXPECT_EQ(testo(finestra),
                   u"1 avviso prodotto, 1 rifiutati, 3 non cominciati: l'archivio non risponde."_s);
         EXPECT_THAT(esiti(finestra), testing::Contains(u"non cominciata"_s).Times(3));
-        QTest::keyClick(&finestra, Qt::Key_Return);
+        QTest::keyClick(&finestra, Qt::Key_Escape);
     });
     impostaTraccia(vecchia);
     EXPECT_EQ(mStampate.size(), 1);
@@ -173,9 +221,9 @@ TEST_P(ProvaInvio, laRistampaNonConta)
     invia(
         [&](FinestraInvio& finestra) {
             EXPECT_EQ(testo(finestra), u"1 ristampa a 1 cliente."_s);
-            QTest::keyClick(&finestra, Qt::Key_Return);
+            conferma(finestra);
             finisci(finestra);
-            QTest::keyClick(&finestra, Qt::Key_Return);
+            QTest::keyClick(&finestra, Qt::Key_Escape);
         },
         Qt::Key_P);
     EXPECT_THAT(mStampate, ElementsAre(u"42_2026"_s));

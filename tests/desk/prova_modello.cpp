@@ -143,6 +143,43 @@ TEST_F(ProvaTabella, unaRiletturaLasciaSegniEPosto)
     EXPECT_EQ(prima(), inCima);
 }
 
+TEST_F(ProvaTabella, unaRiletturaLasciaIlPostoAncheDiTraverso)
+{
+    QScrollBar* traverso = mTabella.horizontalScrollBar();
+    ASSERT_GT(traverso->maximum(), 200);
+    for (const int riga : {300, 0}) {
+        mTabella.mostraRiga(riga);
+        traverso->setValue(150);
+        std::vector<RigaCaso> nuove;
+        for (int i = 1; i <= quante; ++i)
+            nuove.push_back(caso(i, i % 30));
+        mModello.sostituisci(std::move(nuove));
+        EXPECT_EQ(traverso->value(), 150) << riga;
+        QCoreApplication::processEvents();
+        EXPECT_EQ(traverso->value(), 150) << riga;
+    }
+}
+
+TEST_F(ProvaTabella, moltiSegniSonoPochiTratti)
+{
+    constexpr int tutte = 20'000;
+    const auto righe = [] {
+        std::vector<RigaCaso> nuove;
+        for (int i = 1; i <= tutte; ++i)
+            nuove.push_back(caso(i, i % 30));
+        return nuove;
+    };
+    mModello.sostituisci(righe());
+    mTabella.selectAll();
+    mTabella.selectionModel()->select(mModello.index(9'000, 0),
+                                      QItemSelectionModel::Deselect | QItemSelectionModel::Rows);
+    const QString tolta = mModello.riga(9'000).caso.chiave.numero;
+    mModello.sostituisci(righe());
+    EXPECT_EQ(mTabella.selectionModel()->selection().size(), 2) << "above the one that is not, and below";
+    EXPECT_EQ(mTabella.marcate().size(), tutte - 1);
+    EXPECT_FALSE(marcate().contains(tolta));
+}
+
 TEST_F(ProvaTabella, ilFiltroAvantiEIndietroLasciaISegni)
 {
     mTabella.mostraRiga(3);
