@@ -27,16 +27,15 @@ QString cartella(Chi chi)
     return chi == Chi::sistema ? giacenza::cartellaSistema() : giacenza::cartellaUtente();
 }
 
-/// The descriptor that is meant: when nobody is named, the one that a program would find.
-std::optional<Descrittore> cercato(Chi chi)
+/// Where the descriptor that is meant is sought: when nobody is named, where a program would.
+QStringList cartelle(Chi chi)
 {
-    return chi == Chi::nonDetto ? giacenza::cercaDescrittore(giacenza::cartelleDescrittori(), classe)
-                                : giacenza::leggiDescrittore(cartella(chi), classe);
+    return chi == Chi::nonDetto ? giacenza::cartelleDescrittori() : QStringList(cartella(chi));
 }
 
-Codice nonRegistrata()
+Codice nonRegistrata(const QStringList& cercata)
 {
-    lamenta(u"La classe \"%1\" non è registrata."_s.arg(classe));
+    lamenta(u"La classe \"%1\" non è registrata. Cercata in: %2."_s.arg(classe, cercata.join(u", "_s)));
     return Codice::nonRegistrata;
 }
 
@@ -86,10 +85,12 @@ Codice verifica(const Descrittore& descrittore)
     QJsonObject detto = QJsonDocument::fromJson(libreria.descrizione()).object();
     detto.insert(u"libreria"_s, descrittore.libreria);
     if (detto != descrittore.contenuto) {
-        lamenta(u"Il descrittore \"%1\" non dice ciò che dice la libreria \"%2\" (versioni %3 e %4). "
-                u"Registrare di "
-                "nuovo la classe con giacenza-registra."_s.arg(descrittore.file, descrittore.libreria,
-                                                               descrittore.versione, libreria.versione()));
+        const QString versioni =
+            descrittore.versione == libreria.versione()
+                ? u" (stessa versione, altro contenuto)"_s
+                : u" (versioni %1 e %2)"_s.arg(descrittore.versione, libreria.versione());
+        lamenta(u"Il descrittore \"%1\" non dice ciò che dice la libreria \"%2\"%3. Registrare di nuovo la "
+                "classe con giacenza-registra."_s.arg(descrittore.file, descrittore.libreria, versioni));
         return Codice::altraVersione;
     }
     dice(u"In ordine: classe \"%1\", versione %2, libreria %3."_s.arg(
@@ -103,7 +104,7 @@ Codice togli(Chi chi)
     const QString file = giacenza::fileDescrittore(cartella(chi), classe);
     const QFileInfo cosa(file);
     if (!cosa.exists() && !cosa.isSymLink())
-        return nonRegistrata();
+        return nonRegistrata({cartella(chi)});
     QFile descrittore(file);
     if (!descrittore.remove())
         throw ErroreDescrittore(
@@ -121,9 +122,10 @@ Codice esegui(const Richiesta& richiesta)
         return scrivi(richiesta);
     if (richiesta.azione == Azione::togli)
         return togli(richiesta.chi);
-    const auto descrittore = cercato(richiesta.chi);
+    const QStringList dove = cartelle(richiesta.chi);
+    const auto descrittore = giacenza::cercaDescrittore(dove, classe);
     if (!descrittore)
-        return nonRegistrata();
+        return nonRegistrata(dove);
     return richiesta.azione == Azione::mostra ? mostra(*descrittore) : verifica(*descrittore);
 }
 

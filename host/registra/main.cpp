@@ -27,7 +27,8 @@ int main(int argc, char* argv[])
 {
     const QCoreApplication applicazione(argc, argv);
     try {
-        return static_cast<int>(registra::esegui(registra::leggiRiga(applicazione)));
+        const registra::Codice esito = registra::esegui(registra::leggiRiga(applicazione));
+        return static_cast<int>(registra::uscitaScritta() ? esito : registra::Codice::senzaUscita);
     } catch (const giacenza::ErroreDescrittore& errore) {
         registra::lamenta(errore.testo());
         return static_cast<int>(codice(errore.motivo()));

@@ -39,7 +39,8 @@ trovano la libreria del componente.
 
 Codici d'uscita: 0 fatto; 1 riga di comando sbagliata; 2 classe non registrata;
 3 descrittore non in ordine; 4 libreria che manca o che non è il componente;
-5 libreria di un'altra versione; 6 descrittore non scritto o non tolto.)"_s;
+5 libreria di un'altra versione; 6 descrittore non scritto o non tolto;
+7 uscita non scritta.)"_s;
 
 [[noreturn]] void rifiuta(const QString& motivo)
 {
@@ -69,6 +70,15 @@ void lamenta(const QString& testo)
     std::fprintf(stderr, "%s\n", qUtf8Printable(testo));
 }
 
+bool uscitaScritta()
+{
+    // A full disk is told when the text leaves the buffer, not when it enters it.
+    if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0)
+        return true;
+    lamenta(u"L'uscita non si scrive."_s);
+    return false;
+}
+
 Richiesta leggiRiga(const QCoreApplication& applicazione)
 {
     QCommandLineParser riga;
@@ -87,7 +97,7 @@ Richiesta leggiRiga(const QCoreApplication& applicazione)
         rifiuta(u"Le opzioni non si capiscono: dopo --libreria ci vuole un file, dopo le altre niente."_s);
     if (riga.isSet(nomeAiuto) || riga.isSet(nomeVersione)) {
         dice(riga.isSet(nomeAiuto) ? spiegazione : QStringLiteral("giacenza-registra " REGISTRA_VERSIONE));
-        std::exit(0);
+        std::exit(static_cast<int>(uscitaScritta() ? Codice::fatto : Codice::senzaUscita));
     }
     if (!riga.positionalArguments().isEmpty())
         rifiuta(u"Di troppo: %1."_s.arg(riga.positionalArguments().constFirst()));

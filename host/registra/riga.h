@@ -16,6 +16,7 @@ enum class Codice : int
     libreria = 4,      ///< the library is gone, cannot be loaded or is not the component
     altraVersione = 5, ///< the library is of another version than its descriptor
     nonScritto = 6,    ///< the descriptor could not be written or removed
+    senzaUscita = 7,   ///< what was to be said could not be written
 };
 
 enum class Azione
@@ -48,5 +49,8 @@ Richiesta leggiRiga(const QCoreApplication& applicazione);
 /// Says a text in Italian, on standard output or standard error.
 void dice(const QString& testo);
 void lamenta(const QString& testo);
+
+/// Whether all that was said on standard output has gone out; complains when it has not.
+bool uscitaScritta();
 
 } // namespace registra

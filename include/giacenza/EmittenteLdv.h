@@ -54,6 +54,7 @@ public:
     virtual QString emetti(const RecordLdv& ldv) = 0;
 };
 
+/// The class name under which an issuer is asked for.
 inline constexpr char16_t classeEmittenteLdv[] = u"EmissioneLdv.cEmittente";
 
 } // namespace giacenza

@@ -16,6 +16,7 @@ public:
     virtual QString leggi(const QString& percorsoFile, const QString& sezione, const QString& chiave) = 0;
 };
 
+/// The class name under which a reader is asked for.
 inline constexpr char16_t classeLettoreIni[] = u"LettoreIni.cLettore";
 
 } // namespace giacenza

@@ -1,3 +1,5 @@
+/// @file
+/// Parts from outside: how they are made, registered and found.
 #pragma once
 
 #include <giacenza/esporta.h>
@@ -50,5 +52,7 @@ public:
 
 } // namespace giacenza
 
+/// The number of the interface between component and plug-in files, for Q_PLUGIN_METADATA: a file made for
+/// another is not loaded.
 #define GIACENZA_FABBRICA_PARTI_IID "giacenza.FabbricaParti/1"
 Q_DECLARE_INTERFACE(giacenza::FabbricaParti, GIACENZA_FABBRICA_PARTI_IID)

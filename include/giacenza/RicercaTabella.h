@@ -25,6 +25,7 @@ public:
     virtual void mostra(const QString& istruzione, const QString& titolo, QWidget* padre) = 0;
 };
 
+/// The class name under which a table search is asked for.
 inline constexpr char16_t classeRicercaTabella[] = u"RicercaTabella.cRicerca";
 
 } // namespace giacenza

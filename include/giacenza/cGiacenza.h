@@ -9,6 +9,8 @@
 
 #include <memory>
 
+/// What the component publishes for C++: the class that a host uses, the interfaces of the parts that it
+/// calls, the exceptions, and the functions beside them.
 namespace giacenza {
 
 /// The component's one public class: the host creates it, sets the paths that every screen needs, asks for a
@@ -36,15 +38,15 @@ public:
     /// The numbers by which a host that binds late calls the members.
     enum IdMembro : quint32
     {
-        IdTipoReso = 0x68030000,
-        IdPercorsoLogoIntestazione = 0x68030001,
-        IdPercorsoFileIni = 0x68030002,
-        IdPercorsoDatabase = 0x68030003,
-        IdNuovaGiacenza = 0x60030005,
-        IdNuovaGiacenzaEXT = 0x60030006,
-        IdMostraRiconsegna = 0x60030008,
-        IdConsultaGiacenza = 0x6003000B,
-        IdEsegui = 0x6003000C,
+        IdTipoReso = 0x68030000,                 ///< setTipoReso(): write-only property
+        IdPercorsoLogoIntestazione = 0x68030001, ///< setPercorsoLogoIntestazione(): write-only property
+        IdPercorsoFileIni = 0x68030002,          ///< PercorsoFileIni(), setPercorsoFileIni(): property
+        IdPercorsoDatabase = 0x68030003,         ///< PercorsoDatabase(), setPercorsoDatabase(): property
+        IdNuovaGiacenza = 0x60030005,            ///< NuovaGiacenza(): method
+        IdNuovaGiacenzaEXT = 0x60030006,         ///< NuovaGiacenzaEXT(): method
+        IdMostraRiconsegna = 0x60030008,         ///< MostraRiconsegna(): method
+        IdConsultaGiacenza = 0x6003000B,         ///< ConsultaGiacenza(): method
+        IdEsegui = 0x6003000C,                   ///< Esegui(): method
     };
     Q_ENUM(IdMembro)
 

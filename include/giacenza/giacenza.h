@@ -10,14 +10,21 @@
  *     giacenza_oggetto oggetto;
  *     giacenza_avvia_interfaccia("programma");              // unless the program has a QApplication already
  *     giacenza_crea(&oggetto);
- *     giacenza_valore database = {GIACENZA_TESTO, 0, "DRIVER={SQLite3};Database=/dati/depo.db"};
+ *     giacenza_valore database = {GIACENZA_TESTO, 0, argv[1]}; // an ODBC connection string, below
  *     giacenza_invoca(oggetto, GIACENZA_ID_PERCORSO_DATABASE, GIACENZA_SCRIVI, &database, 1, NULL);
  *     giacenza_ascolta(oggetto, GIACENZA_ID_FINE, quando_finisce, NULL);
  *     giacenza_invoca(oggetto, GIACENZA_ID_NUOVA_GIACENZA, GIACENZA_METODO, NULL, 0, NULL);
- *     while (!finito)
- *         giacenza_elabora_eventi(100);
+ *     while (!finito && giacenza_elabora_eventi(100) == GIACENZA_BENE)
+ *         ;                                                 // what else the program does
  *     giacenza_rilascia(oggetto);
  *     giacenza_chiudi_interfaccia();
+ *
+ * CONNECTION STRINGS are ODBC's and are kept as they are given. The integrator's guide tells what stands in
+ * one of MariaDB. One of SQLite is whole like this, with the folder that
+ * "pkg-config --variable=cartellaparti giacenza-c" names (an absolute path); without the extension the
+ * screens cannot look anything up by reference:
+ *
+ *     DRIVER={SQLite3};Database=/dati/depo.db;StepAPI=1;Timeout=5000;FKSupport=1;LoadExt=…/libgiacenza_sqlite.so
  *
  * RESULTS. A function that can fail returns GIACENZA_BENE (0) or another of the codes of giacenza_tipi.h, and
  * keeps code, text and SQLSTATE as the last error of the calling thread. A failed call has done nothing.
@@ -178,7 +185,8 @@ GIACENZA_C int32_t giacenza_numero_membri(void) GIACENZA_SENZA_ECCEZIONI;
  * indice: from 0, in the order of the slots, the event last. membro: receives it; its size must be set
  * before.
  *
- * GIACENZA_MEMBRO_IGNOTO: no such index. GIACENZA_STRUTTURA: the size is none that this library knows.
+ * GIACENZA_MEMBRO_IGNOTO: no such index. GIACENZA_STRUTTURA: the size is less than that of any structure that
+ * there was; of a larger one, of a later header, what this library knows is filled, and its size says so.
  */
 GIACENZA_C int32_t giacenza_descrivi_membro(int32_t indice, giacenza_membro* membro) GIACENZA_SENZA_ECCEZIONI;
 

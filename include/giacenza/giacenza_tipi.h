@@ -34,7 +34,7 @@ enum
     GIACENZA_OGGETTO_IGNOTO = 8,    /**< no such object: never made, or released already */
     GIACENZA_PUNTATORE_NULLO = 9,   /**< a pointer that must not be null is */
     GIACENZA_TESTO_NON_VALIDO = 10, /**< a text is not UTF-8, or a result is none that C can hold */
-    GIACENZA_STRUTTURA = 11,        /**< the size in a structure is none that this library knows */
+    GIACENZA_STRUTTURA = 11,        /**< the size in a structure is less than any that there was */
     GIACENZA_OCCUPATO = 12,         /**< not now: objects, or a call that is running, are in the way */
     /* The call failed. */
     GIACENZA_DATABASE = 20, /**< the database's failure: text of the driver, and SQLSTATE */
@@ -116,7 +116,9 @@ typedef struct giacenza_argomento
 /** What is published of a member. */
 typedef struct giacenza_membro
 {
-    uint32_t dimensione;                 /**< set by the program before the call: sizeof(giacenza_membro) */
+    /** Set by the program before each call: sizeof(giacenza_membro). Comes back as what was filled, which is
+     * less where the library is older than the program's header. */
+    uint32_t dimensione;
     uint32_t id;                         /**< dispatch id */
     int32_t posizione;                   /**< slot in its interface, from 1: members 1 to 11, the event 1 */
     int32_t modo;                        /**< GIACENZA_LEGGI, _SCRIVI, _METODO or _EVENTO */

@@ -75,7 +75,8 @@ QByteArray tutto(const QString& percorso, int descrittore, qint64 limite)
 
 } // namespace
 
-std::optional<QByteArray> leggiFileLimitato(const QString& percorso, qint64 limite)
+std::optional<QByteArray> leggiFileLimitato(const QString& percorso, qint64 limite,
+                                            const std::function<void(const struct stat&)>& controllo)
 {
     const QByteArray nome = QFile::encodeName(percorso);
     struct stat stato = {};
@@ -91,6 +92,8 @@ std::optional<QByteArray> leggiFileLimitato(const QString& percorso, qint64 limi
     if (file.numero() < 0 || ::fstat(file.numero(), &stato) != 0)
         rifiutaPerErrore(percorso, errno);
     controlla(percorso, stato, limite);
+    if (controllo)
+        controllo(stato);
     return tutto(percorso, file.numero(), limite);
 }
 

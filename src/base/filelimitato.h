@@ -3,7 +3,10 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <optional>
+
+struct stat;
 
 namespace giacenza {
 
@@ -18,6 +21,10 @@ inline constexpr qint64 limiteLogo = 20'000'000;
 /// percorso: with "/" as separator. limite: in bytes. Nothing when there is no file under that name. Throws
 /// Errore, in Italian and with the file's name, for anything else: a folder, a pipe, a device, a file that is
 /// larger than the limit or cannot be read.
-std::optional<QByteArray> leggiFileLimitato(const QString& percorso, qint64 limite);
+///
+/// controllo: looks at the file that is open, before it is read; what it throws comes out.
+std::optional<QByteArray>
+leggiFileLimitato(const QString& percorso, qint64 limite,
+                  const std::function<void(const struct stat& aperto)>& controllo = {});
 
 } // namespace giacenza

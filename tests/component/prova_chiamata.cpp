@@ -104,6 +104,27 @@ TEST_F(Chiamata, iNomiCheMancano)
     }
 }
 
+TEST_F(Chiamata, leSoleLettereDelNomeHannoDueForme)
+{
+    // The long s and the Kelvin sign fold to letters of these names, for who folds all that Unicode folds.
+    for (const QString& nome : {u"PercorſoDatabase"_s, u"E\u017Fegui"_s, u"TipoReſo"_s})
+        EXPECT_EQ(errore([&] { idMembro(nome); }), u"1: La classe non ha il membro \"%1\"."_s.arg(nome));
+    EXPECT_EQ(errore([&] { idMembro(u"fine\0"_s); }), u"1: La classe non ha il membro \"fine\0\"."_s);
+}
+
+TEST_F(Chiamata, unNomeLungoSiAccorcia)
+{
+    EXPECT_EQ(errore([&] { idMembro(QString(100'000, u'x')); }),
+              u"1: La classe non ha il membro \"%1\"."_s.arg(QString(120, u'x')));
+}
+
+TEST_F(Chiamata, unModoCheNonCE)
+{
+    for (const int modo : {0, 5, -1})
+        EXPECT_EQ(erroreSu(u"TipoReso"_s, static_cast<Modo>(modo)),
+                  u"2: Modo di chiamata sconosciuto: %1."_s.arg(modo));
+}
+
 TEST_F(Chiamata, ilModoSbagliato)
 {
     EXPECT_EQ(erroreSu(u"NuovaGiacenza"_s, Modo::leggi),

@@ -128,6 +128,22 @@ TEST_F(LegameC, laDescrizioneDiUnMembroCheManca)
     EXPECT_EQ(ultimo(), "1: La classe non ha un membro con l'indice -2147483648.");
 }
 
+TEST_F(LegameC, laStrutturaDiUnaVersioneDopo)
+{
+    struct
+    {
+        giacenza_membro membro;
+        uint64_t dopo;
+    } grande = {{}, 0xABCD};
+    grande.membro.dimensione = sizeof grande;
+    ASSERT_EQ(giacenza_descrivi_membro(11, &grande.membro), GIACENZA_BENE) << ultimo();
+    EXPECT_STREQ(grande.membro.nome, "fine");
+    EXPECT_EQ(grande.membro.dimensione, sizeof(giacenza_membro)) << "how much was filled";
+    EXPECT_EQ(grande.dopo, 0xABCDU) << "nothing beyond what the library knows";
+    grande.membro.dimensione = sizeof(giacenza_membro) - 1;
+    EXPECT_EQ(giacenza_descrivi_membro(11, &grande.membro), GIACENZA_STRUTTURA);
+}
+
 TEST_F(LegameC, iMembriSiTrovanoPerNome)
 {
     uint32_t id = 7;

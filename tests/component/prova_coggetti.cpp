@@ -204,6 +204,23 @@ TEST_F(OggettiC, daUnAltroThread)
     EXPECT_EQ(mAscolto.sentite.size(), 1U);
 }
 
+TEST_F(OggettiC, unThreadNuovoConIlNumeroDiUnoFinito)
+{
+    giacenza_oggetto suo = 0;
+    std::thread::id finito;
+    std::thread([&] {
+        finito = std::this_thread::get_id();
+        EXPECT_EQ(giacenza_crea(&suo), GIACENZA_BENE);
+    }).join();
+    bool stesso = false;
+    for (int volta = 0; volta < 100 && !stesso; ++volta)
+        std::thread([&] {
+            stesso = std::this_thread::get_id() == finito;
+            EXPECT_EQ(giacenza_rilascia(suo), GIACENZA_ALTRO_THREAD);
+        }).join();
+    EXPECT_TRUE(stesso) << "the system gave the number again, as it does";
+}
+
 TEST_F(OggettiC, lInterfacciaDelProgrammaRestaSua)
 {
     EXPECT_EQ(giacenza_avvia_interfaccia("altro"), GIACENZA_BENE);
@@ -224,6 +241,21 @@ TEST_F(OggettiC, gliEventiSiElaborano)
     EXPECT_TRUE(aperta.isNull()) << "it has asked to go";
     EXPECT_EQ(giacenza_elabora_eventi(-5), GIACENZA_BENE);
     EXPECT_EQ(giacenza_elabora_eventi(1), GIACENZA_BENE) << "with nothing to come it returns all the same";
+}
+
+TEST_F(OggettiC, gliEventiElaboratiDentroFineLascianoLaSchermata)
+{
+    apri();
+    QPointer<QWidget> aperta = schermata();
+    bool viva = false;
+    mAscolto.poi = [&] {
+        EXPECT_EQ(giacenza_elabora_eventi(0), GIACENZA_BENE);
+        viva = !aperta.isNull();
+    };
+    aperta->close();
+    EXPECT_TRUE(viva) << "it is still closing";
+    EXPECT_EQ(giacenza_elabora_eventi(0), GIACENZA_BENE);
+    EXPECT_TRUE(aperta.isNull());
 }
 
 TEST_F(OggettiC, unProgrammaCheGiraSuGlibNonElaboraNulla)

@@ -134,10 +134,12 @@ TEST_F(CreaClasse, laSchermataDellAltraLibreria)
 
 TEST_F(CreaClasse, cioCheNonSiPuoCreare)
 {
+    const QString dove = cartelle();
     EXPECT_EQ(crea(),
-              u"30: La classe \"giacenza.cGiacenza\" non è registrata: la registra giacenza-registra."_s);
-    EXPECT_EQ(crea("altra.Classe"),
-              u"30: La classe \"altra.Classe\" non è registrata: la registra giacenza-registra."_s);
+              u"30: La classe \"giacenza.cGiacenza\" non è registrata: la registra giacenza-registra. "
+              "Cercata in: %1."_s.arg(dove));
+    EXPECT_EQ(crea("altra.Classe"), u"30: La classe \"altra.Classe\" non è registrata: la registra "
+                                    "giacenza-registra. Cercata in: %1."_s.arg(dove));
     EXPECT_EQ(crea("../x"), u"31: \"../x\" non è il nome di una classe."_s);
     EXPECT_EQ(crea(nullptr), u"9: Il puntatore \"classe\" è nullo."_s);
     EXPECT_EQ(giacenza_crea_classe(GIACENZA_CLASSE, nullptr), GIACENZA_PUNTATORE_NULLO);

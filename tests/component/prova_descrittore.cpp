@@ -154,7 +154,7 @@ TEST_F(DescrittoreProva, fileCheNonSonoFile)
     EXPECT_EQ(rifiuto(), u"Il file \"%1\" non è stato letto: supera 100000 byte."_s.arg(file()));
     ASSERT_TRUE(QFile::remove(file()));
     ASSERT_TRUE(QFile::link(mCartella.filePath(u"gone"_s), file()));
-    EXPECT_EQ(rifiuto(), u"non c'è"_s);
+    EXPECT_EQ(rifiuto(), u"è un collegamento a un file che non c'è"_s);
 }
 
 TEST_F(DescrittoreProva, chiLoPuoScrivere)
@@ -162,12 +162,26 @@ TEST_F(DescrittoreProva, chiLoPuoScrivere)
     metti(con(u"abi"_s, 1), 0666);
     EXPECT_EQ(rifiuto(), u"chiunque può scriverlo"_s);
     metti(con(u"abi"_s, 1), 0664);
-    EXPECT_EQ(rifiuto(), u"letto"_s);
-    // Only an administrator can give a file away; for anyone else there is nothing to be refused here.
-    if (::geteuid() == 0) {
-        ASSERT_EQ(::chown(QFile::encodeName(file()).constData(), 12345, 12345), 0);
-        EXPECT_EQ(rifiuto(), u"è di un altro utente"_s);
+    const QString delGruppo = u"il suo gruppo può scriverlo"_s;
+    if (::geteuid() != 0) {
+        EXPECT_EQ(rifiuto(), delGruppo);
+        return;
     }
+    // Only an administrator can give a file away, and become its owner.
+    EXPECT_EQ(rifiuto(), u"letto"_s) << "the administrator's, with a group of his own";
+    const QByteArray nome = QFile::encodeName(file());
+    ASSERT_EQ(::chown(nome.constData(), 12345, 12345), 0);
+    EXPECT_EQ(rifiuto(), u"è di un altro utente"_s);
+    ASSERT_EQ(::chmod(QFile::encodeName(mCartella.path()).constData(), 0755), 0);
+    ASSERT_EQ(::seteuid(12345), 0);
+    const QString suo = rifiuto();
+    ASSERT_EQ(::seteuid(0), 0);
+    EXPECT_EQ(suo, delGruppo);
+    ASSERT_EQ(::chmod(nome.constData(), 0644), 0);
+    ASSERT_EQ(::seteuid(12345), 0);
+    const QString soloSuo = rifiuto();
+    ASSERT_EQ(::seteuid(0), 0);
+    EXPECT_EQ(soloSuo, u"letto"_s);
 }
 
 TEST_F(DescrittoreProva, nomiDiClasseCheNonLoSono)

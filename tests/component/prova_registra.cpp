@@ -29,7 +29,11 @@ protected:
 };
 
 const QString versione = QStringLiteral(VERSIONE);
-const QString nonRegistrata = u"La classe \"giacenza.cGiacenza\" non è registrata.\n"_s;
+/// dove: the folders in which it was sought.
+QString nonRegistrata(const QString& dove)
+{
+    return u"La classe \"giacenza.cGiacenza\" non è registrata. Cercata in: %1.\n"_s.arg(dove);
+}
 const QString diNuovo = u" Registrare di nuovo la classe con giacenza-registra.\n"_s;
 
 } // namespace
@@ -64,8 +68,9 @@ Membri:
     fatto(registra({u"--togli"_s}),
           u"Tolta la registrazione della classe \"giacenza.cGiacenza\": %1\n"_s.arg(descrittore()));
     EXPECT_FALSE(QFileInfo::exists(descrittore()));
-    for (const QString& opzione : {u"--mostra"_s, u"--verifica"_s, u"--togli"_s})
-        fallito(registra({opzione}), 2, nonRegistrata);
+    for (const QString& opzione : {u"--mostra"_s, u"--verifica"_s})
+        fallito(registra({opzione}), 2, nonRegistrata(cartelle()));
+    fallito(registra({u"--togli"_s}), 2, nonRegistrata(QFileInfo(descrittore()).path()));
 }
 
 TEST_F(Registra, perTuttaLaMacchinaSottoUnaRadice)
@@ -121,6 +126,13 @@ TEST_F(Registra, ilDescrittoreInvecchiato)
             u"Il descrittore \"%1\" non dice ciò che dice la libreria \"%2\" (versioni 0.0.9 e %3)."_s.arg(
                 descrittore(), file, versione) +
                 diNuovo);
+    cambia("\"versione\": \"0.0.9\"", "\"versione\": \"" VERSIONE "\"");
+    cambia("\"NuovaGiacenza\"", "\"VecchiaGiacenza\"");
+    fallito(
+        registra({u"--verifica"_s}), 5,
+        u"Il descrittore \"%1\" non dice ciò che dice la libreria \"%2\" (stessa versione, altro contenuto)."_s
+                .arg(descrittore(), file) +
+            diNuovo);
     ASSERT_TRUE(QFile::remove(file));
     fallito(registra({u"--verifica"_s}), 4,
             u"La libreria \"%1\", indicata dal descrittore \"%2\", non c'è più."_s.arg(file, descrittore()) +
@@ -153,6 +165,20 @@ TEST_F(Registra, cioCheNonSiScrive)
         testing::StartsWith(u"Il descrittore \"%1\" non è stato tolto: "_s.arg(descrittore()).toStdString()));
 }
 
+TEST_F(Registra, lUscitaCheNonSiScrive)
+{
+    ASSERT_EQ(registra({}).codice, 0);
+    for (const QStringList& riga : {QStringList{u"--mostra"_s}, QStringList{u"--verifica"_s},
+                                    QStringList{u"--help"_s}, QStringList{u"--version"_s}, QStringList{}}) {
+        QProcess processo;
+        processo.setStandardOutputFile(u"/dev/full"_s);
+        processo.start(QStringLiteral(REGISTRA), riga);
+        ASSERT_TRUE(processo.waitForFinished(60000));
+        EXPECT_EQ(processo.exitCode(), 7) << riga.join(u' ').toStdString();
+        EXPECT_EQ(processo.readAllStandardError(), "L'uscita non si scrive.\n");
+    }
+}
+
 TEST_F(Registra, laRigaDiComando)
 {
     const QString coda = u"\nSi veda giacenza-registra --help.\n"_s;
@@ -183,6 +209,6 @@ TEST_F(Registra, laRigaDiComando)
     for (const char* opzione :
          {"utente", "sistema", "libreria", "mostra", "verifica", "togli", "help", "version"})
         EXPECT_THAT(pagina, HasSubstr(std::string("\\-\\-") + opzione));
-    for (int codice = 0; codice <= 6; ++codice)
+    for (int codice = 0; codice <= 7; ++codice)
         EXPECT_THAT(pagina, HasSubstr(".B " + std::to_string(codice) + "\n"));
 }

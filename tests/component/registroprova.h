@@ -39,6 +39,12 @@ protected:
 
     static QString libreria() { return QStringLiteral(LIBRERIA); }
     static QString sistema() { return QStringLiteral(CARTELLA_DATI); }
+    /// Where a program seeks the class, as messages name it.
+    QString cartelle() const
+    {
+        return u"%1/giacenza/classi, %1/radice%2/giacenza/classi, %2/giacenza/classi"_s.arg(mCasa.path(),
+                                                                                            sistema());
+    }
     QString descrittore() const { return mCasa.filePath(u"giacenza/classi/giacenza.cgiacenza.json"_s); }
 
     Esito registra(const QStringList& argomenti, const QString& radice = {}) const

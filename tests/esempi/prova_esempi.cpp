@@ -189,3 +189,20 @@ TEST(EsempiRegistra, LInstallataRegistraLaLibreriaInstallata)
     EXPECT_TRUE(
         QFileInfo::exists(QStringLiteral(LAVORO "/installato/share/man/man1/giacenza-registra.1.gz")));
 }
+
+TEST(EsempiRegistra, PerLaMacchinaVaNeiDatiDellInstallazione)
+{
+    const QString descrittore =
+        QStringLiteral(LAVORO "/installato/share/giacenza/classi/giacenza.cgiacenza.json");
+    for (const QString& opzione : {QString(), u"--verifica"_s, u"--togli"_s}) {
+        QStringList riga{u"--sistema"_s};
+        if (!opzione.isEmpty())
+            riga << opzione;
+        QProcess processo;
+        processo.start(QStringLiteral(LAVORO "/installato/bin/giacenza-registra"), riga);
+        ASSERT_TRUE(processo.waitForFinished(60'000));
+        EXPECT_EQ(processo.readAllStandardError().toStdString(), "");
+        EXPECT_EQ(processo.exitCode(), 0) << opzione.toStdString();
+        EXPECT_EQ(QFileInfo::exists(descrittore), opzione != u"--togli"_s);
+    }
+}

@@ -42,11 +42,14 @@ void controllaTipi(const Membro& membro, const QVariantList& argomenti)
 quint32 idMembro(const QString& nome)
 {
     const auto tutti = membri();
+    // Of its letters those of ASCII alone have a case: no other letter folds to one of theirs.
+    const QByteArray byte = nome.toUtf8();
     const auto trovato = std::find_if(tutti.begin(), tutti.end(), [&](const Membro& m) {
-        return nome.compare(QLatin1StringView(m.nome), Qt::CaseInsensitive) == 0;
+        return byte.compare(m.nome, Qt::CaseInsensitive) == 0;
     });
     if (trovato == tutti.end())
-        throw ErroreChiamata(ErroreChiamata::membroIgnoto, u"La classe non ha il membro \"%1\"."_s.arg(nome));
+        throw ErroreChiamata(ErroreChiamata::membroIgnoto,
+                             u"La classe non ha il membro \"%1\"."_s.arg(nome.left(120)));
     return trovato->id;
 }
 

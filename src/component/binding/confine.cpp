@@ -113,9 +113,9 @@ InCorso::~InCorso()
     --chiamateInCorso;
 }
 
-bool InCorso::qualcuna() noexcept
+int InCorso::quante() noexcept
 {
-    return chiamateInCorso > 0;
+    return chiamateInCorso;
 }
 
 } // namespace giacenza

@@ -67,7 +67,8 @@ public:
     InCorso& operator=(const InCorso&) = delete;
     ~InCorso();
 
-    static bool qualcuna() noexcept;
+    static bool qualcuna() noexcept { return quante() > 0; }
+    static int quante() noexcept;
 };
 
 } // namespace giacenza

@@ -84,11 +84,13 @@ int32_t codice(ErroreDescrittore::Motivo motivo)
 
 std::unique_ptr<Oggetto> creato(const QString& classe)
 {
-    const auto descrittore = cercaDescrittore(cartelleDescrittori(), classe);
+    const QStringList cartelle = cartelleDescrittori();
+    const auto descrittore = cercaDescrittore(cartelle, classe);
     if (!descrittore)
         throw ErroreConfine(
             GIACENZA_CLASSE_IGNOTA,
-            u"La classe \"%1\" non è registrata: la registra giacenza-registra."_s.arg(classe));
+            u"La classe \"%1\" non è registrata: la registra giacenza-registra. Cercata in: %2."_s.arg(
+                classe, cartelle.join(u", "_s)));
     controllaFile(*descrittore);
     const QString file = QFileInfo(descrittore->libreria).canonicalFilePath();
     // Never unloaded: what a library of Qt's kind leaves behind may be called at any time.

@@ -17,14 +17,16 @@ namespace {
 
 void descrivi(int32_t indice, giacenza_membro& membro)
 {
-    // The one shape that there is so far; a later library also fills the shorter ones of before.
-    if (membro.dimensione != sizeof(giacenza_membro))
+    // The one shape that there is so far; a later library also fills the shorter ones of before. A program
+    // made for a later one is told how much of its own was filled.
+    if (membro.dimensione < sizeof(giacenza_membro))
         throw ErroreConfine(GIACENZA_STRUTTURA,
                             u"La dimensione di giacenza_membro è sconosciuta: %1."_s.arg(membro.dimensione));
     if (indice < 0 || indice >= giacenza_numero_membri())
         throw ErroreConfine(GIACENZA_MEMBRO_IGNOTO,
                             u"La classe non ha un membro con l'indice %1."_s.arg(indice));
     const Membro& riga = membri()[static_cast<std::size_t>(indice)];
+    membro.dimensione = sizeof(giacenza_membro);
     membro.id = riga.id;
     membro.posizione = riga.posizione;
     membro.modo = static_cast<int32_t>(riga.modo);

@@ -100,8 +100,9 @@ void elaboraEventi(int millisecondi)
         sveglia.start(millisecondi);
         giro.processEvents(QEventLoop::WaitForMoreEvents);
     }
-    // Without a loop that runs, nobody else takes away what has asked to go.
-    if (QThread::currentThread()->loopLevel() == 0)
+    // Without a loop that runs, nobody else takes away what has asked to go. Inside a callback it may be the
+    // screen that is closing: the outermost call does it.
+    if (QThread::currentThread()->loopLevel() == 0 && InCorso::quante() == 1)
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 

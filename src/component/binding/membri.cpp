@@ -101,6 +101,9 @@ qsizetype minimo(const Membro& membro)
 
 [[noreturn]] void rifiutaModo(const Membro& membro, Modo modo)
 {
+    if (modo < Modo::leggi || modo > Modo::evento)
+        throw ErroreChiamata(ErroreChiamata::modoSbagliato,
+                             u"Modo di chiamata sconosciuto: %1."_s.arg(static_cast<int>(modo)));
     const QString nome = QString::fromLatin1(membro.nome);
     if (membro.modo == Modo::scrivi && modo == Modo::leggi)
         throw ErroreChiamata(ErroreChiamata::soloScrittura,

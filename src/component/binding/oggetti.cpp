@@ -4,6 +4,7 @@
 #include "component/binding/membri.h"
 #include "component/binding/valori.h"
 
+#include <atomic>
 #include <mutex>
 #include <unordered_map>
 
@@ -61,6 +62,13 @@ private:
 };
 
 } // namespace
+
+uint64_t Oggetto::questoThread()
+{
+    static std::atomic<uint64_t> ultimo = 0;
+    static thread_local const uint64_t numero = ++ultimo;
+    return numero;
+}
 
 void Oggetto::setAscoltatore(giacenza_ascoltatore funzione, void* utente)
 {

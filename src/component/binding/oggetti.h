@@ -2,8 +2,8 @@
 
 #include <giacenza/giacenza.h>
 
+#include <cstdint>
 #include <memory>
-#include <thread>
 
 namespace giacenza {
 
@@ -27,10 +27,13 @@ public:
     void racconta() const noexcept;
 
     void setNumero(giacenza_oggetto numero) { mNumero = numero; }
-    bool delThread() const { return mThread == std::this_thread::get_id(); }
+    bool delThread() const { return mThread == questoThread(); }
 
 private:
-    const std::thread::id mThread = std::this_thread::get_id();
+    /// The number of the calling thread, which no other ever has: the system's are given again.
+    static uint64_t questoThread();
+
+    const uint64_t mThread = questoThread();
     giacenza_oggetto mNumero = 0;
     giacenza_ascoltatore mAscoltatore = nullptr;
     void* mUtente = nullptr;

@@ -11,6 +11,8 @@
 #include <QStandardPaths>
 #include <QVersionNumber>
 
+#include <dlfcn.h>
+#include <link.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -30,15 +32,15 @@ const QString sottocartella = u"/giacenza/classi"_s;
 }
 
 /// Whoever writes a descriptor says which code a program loads.
-void controllaPadrone(const QString& file)
+void controllaPadrone(const QString& file, const struct stat& stato)
 {
-    struct stat stato = {};
-    if (::stat(QFile::encodeName(file).constData(), &stato) != 0)
-        return;
     if ((stato.st_mode & S_IWOTH) != 0)
         rifiuta(file, u"chiunque può scriverlo"_s);
     if (stato.st_uid != 0 && stato.st_uid != ::geteuid())
         rifiuta(file, u"è di un altro utente"_s);
+    // The administrator says who is in the groups of the files that are root's.
+    if (stato.st_uid != 0 && (stato.st_mode & S_IWGRP) != 0)
+        rifiuta(file, u"il suo gruppo può scriverlo"_s);
 }
 
 QString testo(const QJsonObject& oggetto, const QString& chiave, const QString& file)
@@ -82,10 +84,46 @@ Descrittore letto(const QByteArray& byte, const QString& file, const QString& cl
     return descrittore;
 }
 
+std::optional<QByteArray> byteDelDescrittore(const QString& file)
+{
+    try {
+        return leggiFileLimitato(file, limiteDescrittore,
+                                 [&](const struct stat& aperto) { controllaPadrone(file, aperto); });
+    } catch (const ErroreDescrittore&) {
+        throw;
+    } catch (const Errore& errore) {
+        throw ErroreDescrittore(ErroreDescrittore::malfatto, errore.testo());
+    }
+}
+
 [[noreturn]] void nonScritto(const QString& file, const QString& motivo)
 {
     throw ErroreDescrittore(ErroreDescrittore::scrittura,
                             u"Il descrittore \"%1\" non è stato scritto: %2."_s.arg(file, motivo));
+}
+
+/// The file of the library or of the program that this code is in; empty when it is not known.
+QString questoFile()
+{
+    Dl_info dove = {};
+    void* mappa = nullptr;
+    if (::dladdr1(reinterpret_cast<const void*>(&cartelleDescrittori), &dove, &mappa, RTLD_DL_LINKMAP) == 0)
+        return {};
+    // The linker knows a program by no name of its own.
+    const QString nome = QFile::decodeName(static_cast<const link_map*>(mappa)->l_name);
+    return QFileInfo(nome.isEmpty() ? u"/proc/self/exe"_s : nome).canonicalFilePath();
+}
+
+/// The data folder of the installation that this code lies in.
+QString datiInstallati()
+{
+    const QString cartella = QFileInfo(questoFile()).path();
+    for (const char* dove : {GIACENZA_DOVE_LIBRERIE, GIACENZA_DOVE_PROGRAMMI}) {
+        const QString coda = u'/' + QString::fromUtf8(dove);
+        if (cartella.endsWith(coda))
+            return cartella.chopped(coda.size()) + QStringLiteral("/" GIACENZA_DOVE_DATI);
+    }
+    return QStringLiteral(GIACENZA_CARTELLA_DATI);
 }
 
 } // namespace
@@ -97,7 +135,7 @@ QString cartellaUtente()
 
 QString cartellaSistema()
 {
-    return qEnvironmentVariable("DESTDIR") + QStringLiteral(GIACENZA_CARTELLA_DATI) + sottocartella;
+    return qEnvironmentVariable("DESTDIR") + datiInstallati() + sottocartella;
 }
 
 QStringList cartelleDescrittori()
@@ -105,7 +143,7 @@ QStringList cartelleDescrittori()
     QStringList cartelle;
     for (const QString& dati : QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation))
         cartelle << dati + sottocartella;
-    cartelle << QStringLiteral(GIACENZA_CARTELLA_DATI) + sottocartella;
+    cartelle << datiInstallati() + sottocartella;
     cartelle.removeDuplicates();
     return cartelle;
 }
@@ -124,16 +162,12 @@ QString fileDescrittore(const QString& cartella, const QString& classe)
 std::optional<Descrittore> leggiDescrittore(const QString& cartella, const QString& classe)
 {
     const QString file = fileDescrittore(cartella, classe);
-    std::optional<QByteArray> byte;
-    try {
-        byte = leggiFileLimitato(file, limiteDescrittore);
-    } catch (const Errore& errore) {
-        throw ErroreDescrittore(ErroreDescrittore::malfatto, errore.testo());
-    }
-    if (!byte)
-        return {};
-    controllaPadrone(file);
-    return letto(*byte, file, classe);
+    const std::optional<QByteArray> byte = byteDelDescrittore(file);
+    if (byte)
+        return letto(*byte, file, classe);
+    if (QFileInfo(file).isSymLink())
+        rifiuta(file, u"è un collegamento a un file che non c'è"_s);
+    return {};
 }
 
 std::optional<Descrittore> cercaDescrittore(const QStringList& cartelle, const QString& classe)

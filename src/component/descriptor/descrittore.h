@@ -41,8 +41,9 @@ struct Descrittore
 /// How large a descriptor may be, in bytes.
 inline constexpr qint64 limiteDescrittore = 100'000;
 
-/// The user's folder of descriptors ($XDG_DATA_HOME or ~/.local/share), and the installation's. Neither needs
-/// to exist. With the environment variable DESTDIR the installation's stands under that folder.
+/// The user's folder of descriptors ($XDG_DATA_HOME or ~/.local/share), and the installation's: of the prefix
+/// below which the library or the program that this code is in was installed, else the configured one.
+/// Neither needs to exist. With the environment variable DESTDIR the installation's stands under that folder.
 QString cartellaUtente();
 QString cartellaSistema();
 
@@ -54,8 +55,9 @@ QStringList cartelleDescrittori();
 QString fileDescrittore(const QString& cartella, const QString& classe);
 
 /// Reads the descriptor of a class, nothing when the folder has none. Throws ErroreDescrittore for a file
-/// that is not a descriptor of that class, or that others than its owner and the administrator may have
-/// written.
+/// that is not a descriptor of that class, for a link that leads nowhere, and for a file that somebody else
+/// than this user and the administrator may write: it belongs to another user, or everybody may write it, or,
+/// unless it is the administrator's, its group may. The folder that it stands in is not looked at.
 std::optional<Descrittore> leggiDescrittore(const QString& cartella, const QString& classe);
 /// The same in the first folder that has one.
 std::optional<Descrittore> cercaDescrittore(const QStringList& cartelle, const QString& classe);
