@@ -2,7 +2,9 @@
  * A host in C that knows nothing of Qt: it opens the registration screen in an event loop of its own, and
  * ends when the operator has left it.
  *
- *     ospite-c "DRIVER={SQLite3};Database=depo.db" giacenza.ini logo.gif
+ *     PARTI=$(pkg-config --variable=cartellaparti giacenza-c)
+ *     DATABASE="DRIVER={SQLite3};Database=depo.db;StepAPI=1;Timeout=5000;FKSupport=1;LoadExt=$PARTI/libgiacenza_sqlite.so"
+ *     ospite-c "$DATABASE" giacenza.ini logo.gif
  *
  * Prints "fine" when the screen was left. Codes: 0 the screen was left, 1 something failed, 2 wrong command
  * line.

@@ -1,6 +1,8 @@
 // A host in C++: it opens the registration screen in Qt's event loop and ends when the operator has left it.
 //
-//     ospite-cpp "DRIVER={SQLite3};Database=depo.db" giacenza.ini logo.gif
+//     PARTI=$(pkg-config --variable=cartellaparti giacenza-c)
+//     DATABASE="DRIVER={SQLite3};Database=depo.db;StepAPI=1;Timeout=5000;FKSupport=1;LoadExt=$PARTI/libgiacenza_sqlite.so"
+//     ospite-cpp "$DATABASE" giacenza.ini logo.gif
 //
 // Prints "fine" when the screen was left. Codes: 0 the screen was left, 1 something failed, 2 wrong command
 // line.

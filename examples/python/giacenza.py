@@ -67,6 +67,8 @@ def _valore(dato):
         if not -(2**31) <= dato < 2**31:
             raise OverflowError("not a 32-bit integer")
         return _Valore(INTERO, dato, None)
+    if not isinstance(dato, str):
+        raise TypeError(f"neither a text, an integer nor a truth value: {type(dato).__name__}")
     testo = dato.encode()
     if b"\0" in testo:
         raise ValueError("a text with a zero character")
@@ -78,7 +80,9 @@ class Giacenza:
 
     def __init__(self):
         self._oggetto = c_uint64(0)
-        self._ascoltatore = None
+        self._funzione = None
+        # One for the object's whole life: the library may be running it while another function takes its place.
+        self._ascoltatore = _Ascoltatore(lambda _oggetto, _utente: self._funzione())
         _controlla(_libreria.giacenza_crea(byref(self._oggetto)))
 
     def __enter__(self):
@@ -100,10 +104,9 @@ class Giacenza:
         return self._invoca(nome, METODO, *argomenti)
 
     def quando_finisce(self, funzione):
-        """funzione: called without arguments when the operator has left a screen."""
-        # Kept as long as the library may call it.
-        self._ascoltatore = _Ascoltatore(lambda _oggetto, _utente: funzione())
+        """funzione: called without arguments when the operator has left a screen, in place of the one before."""
         _controlla(_libreria.giacenza_ascolta(self._oggetto, ID_FINE, self._ascoltatore, None))
+        self._funzione = funzione
 
     def _invoca(self, nome, modo, *argomenti):
         id_membro = c_uint32(0)

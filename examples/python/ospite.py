@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
 """A host in Python: it opens the registration screen in PyQt's event loop and ends when the operator has left it.
 
-    ospite.py "DRIVER={SQLite3};Database=depo.db" giacenza.ini logo.gif
+    PARTI=$(pkg-config --variable=cartellaparti giacenza-c)
+    DATABASE="DRIVER={SQLite3};Database=depo.db;StepAPI=1;Timeout=5000;FKSupport=1;LoadExt=$PARTI/libgiacenza_sqlite.so"
+    ospite.py "$DATABASE" giacenza.ini logo.gif
 
 Prints "fine" when the screen was left. Codes: 0 the screen was left, 1 something failed, 2 wrong command line.
 """
