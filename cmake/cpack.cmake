@@ -32,6 +32,8 @@ set(CPACK_DEBIAN_LIBRERIA_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_LIBRERIA_PACKAGE_DEPENDS "fonts-liberation")
 set(CPACK_DEBIAN_LIBRERIA_PACKAGE_RECOMMENDS
     "odbc-mariadb, libsqliteodbc, qt6-translations-l10n, fonts-dejavu-core")
+# It registers the class by its name, for programs that are not linked with the library.
+set(CPACK_DEBIAN_LIBRERIA_PACKAGE_SUGGESTS giacenza-deposito)
 # Who is linked with the library needs the version that it was linked with, or a later one of the same major number.
 set(shlibs ${PROJECT_BINARY_DIR}/packaging/shlibs)
 file(CONFIGURE OUTPUT ${shlibs} @ONLY CONTENT
@@ -70,7 +72,10 @@ set(CPACK_DEBIAN_DEPOSITO_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_DEPOSITO_PACKAGE_DEPENDS
     "libgiacenza${PROJECT_VERSION_MAJOR} (= ${versione_debian}), libsqliteodbc, qt6-translations-l10n")
 set(CPACK_DEBIAN_DEPOSITO_PACKAGE_RECOMMENDS "odbc-mariadb, fonts-dejavu-core")
-set(CPACK_DEBIAN_DEPOSITO_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/deposito/conffiles)
+# Where the password of a server may be kept; without one it is asked for.
+set(CPACK_DEBIAN_DEPOSITO_PACKAGE_SUGGESTS "gnome-keyring | kwalletmanager")
+set(CPACK_DEBIAN_DEPOSITO_PACKAGE_CONTROL_EXTRA ${PROJECT_SOURCE_DIR}/packaging/deposito/conffiles
+    ${PROJECT_SOURCE_DIR}/packaging/deposito/postinst ${PROJECT_SOURCE_DIR}/packaging/deposito/prerm)
 set(CPACK_COMPONENT_DEPOSITO_DESCRIPTION "\
 held shipments of a courier depot: host program
 Giacenza registers the shipments that a depot could not deliver, prints their

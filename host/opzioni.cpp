@@ -78,6 +78,8 @@ void presentati()
     QCoreApplication::setApplicationName(u"deposito"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(DEPOSITO_VERSIONE));
     QGuiApplication::setApplicationDisplayName(u"Gestione Trasporti"_s);
+    // By the name of its menu entry a desktop finds the program's icon and title, on Wayland by nothing else.
+    QGuiApplication::setDesktopFileName(u"local.giacenza.deposito"_s);
 }
 
 bool chiedeSoloTesto(int argc, const char* const* argv)

@@ -20,9 +20,11 @@ endfunction()
 file(GLOB immagini CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/immagini/guida/*.png)
 giacenza_pagina(guida it "Guida dell'operatore" ${immagini})
 giacenza_pagina(integrators en "Integrator's guide")
+giacenza_pagina(security en "Security")
 add_custom_command(OUTPUT ${pagine}/guida.pdf DEPENDS ${pagine}/guida.html
     COMMAND ${WEASYPRINT} -q ${pagine}/guida.html ${pagine}/guida.pdf COMMENT "Making guida.pdf" VERBATIM)
-add_custom_target(documenti ALL DEPENDS ${pagine}/guida.html ${pagine}/guida.pdf ${pagine}/integrators.html)
+add_custom_target(documenti ALL DEPENDS ${pagine}/guida.html ${pagine}/guida.pdf ${pagine}/integrators.html
+    ${pagine}/security.html)
 
 install(FILES ${pagine}/guida.html ${pagine}/guida.pdf DESTINATION ${doc_deposito})
-install(FILES ${pagine}/integrators.html DESTINATION ${doc_sviluppo} COMPONENT sviluppo)
+install(FILES ${pagine}/integrators.html ${pagine}/security.html DESTINATION ${doc_sviluppo} COMPONENT sviluppo)

@@ -96,7 +96,8 @@ QString fileGuida()
 {
     const QDir programma(QCoreApplication::applicationDirPath());
     for (const char16_t* dove :
-         {u"../share/doc/giacenza-deposito/guida.html", u"../share/doc/giacenza/guida.html",
+         {u"../../share/doc/giacenza-deposito/guida.html", // installed: programs lie in libexec/giacenza
+          u"../share/doc/giacenza-deposito/guida.html", u"../share/doc/giacenza/guida.html",
           u"../docs/guida.html", u"../../../docs/guida.md"}) {
         const QFileInfo file(programma.filePath(QString::fromUtf16(dove)));
         if (file.isFile())

@@ -4,8 +4,8 @@
 #include "support/stampa.h"
 
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QFile>
+#include <QGuiApplication>
 #include <QSettings>
 #include <QTemporaryDir>
 
@@ -109,6 +109,7 @@ TEST(Programma, leSueImpostazioniPortanoIlSuoNome)
     deposito::presentati();
     EXPECT_TRUE(QSettings().fileName().endsWith(u"/deposito/deposito.conf"_s))
         << QSettings().fileName().toStdString();
+    EXPECT_EQ(QGuiApplication::desktopFileName(), u"local.giacenza.deposito"_s) << "the menu entry's";
     QCoreApplication::setOrganizationName({});
     QCoreApplication::setApplicationName(prima);
 }
