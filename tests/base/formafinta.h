@@ -13,8 +13,8 @@ inline QStringList& accaduto()
     return eventi;
 }
 
-/// A form that behaves as the screens do: it raises Uscita() when it closes and then deletes itself. Its name
-/// is what its events are told under.
+/// A form that behaves as the screens do: when it closes it asks to be deleted, and last raises Uscita(). Its
+/// name is what its events are told under.
 class FormaFinta : public QWidget
 {
     Q_OBJECT
@@ -51,8 +51,8 @@ protected:
     {
         evento->accept();
         accaduto().append(objectName() + u" chiusa"_s);
-        Q_EMIT Uscita();
         deleteLater();
+        Q_EMIT Uscita();
     }
 
 private:

@@ -133,7 +133,7 @@ TEST_F(ComponenteFine, lOspitePuoDistruggereLaClasseDentroFine)
     EXPECT_EQ(mClasse, nullptr);
     svuota();
     EXPECT_EQ(accaduto(), (QStringList{u"frmGiacenza chiusa"_s, u"frmGestGia chiusa"_s,
-                                       u"frmGestGia distrutta"_s, u"frmGiacenza distrutta"_s}));
+                                       u"frmGiacenza distrutta"_s, u"frmGestGia distrutta"_s}));
 }
 
 TEST_F(ComponenteFine, lOspitePuoRiaprireDentroFine)

@@ -99,7 +99,7 @@ TEST_F(OggettiC, rilasciarloDentroFine)
     EXPECT_EQ(mAscolto.sentite.size(), 1U) << "the screen that is closed by the release says nothing";
     svuota();
     EXPECT_EQ(accaduto(), (QStringList{u"frmGestGia chiusa"_s, u"frmGiacenza chiusa"_s,
-                                       u"frmGiacenza distrutta"_s, u"frmGestGia distrutta"_s}));
+                                       u"frmGestGia distrutta"_s, u"frmGiacenza distrutta"_s}));
     EXPECT_EQ(giacenza_rilascia(mOggetto), GIACENZA_OGGETTO_IGNOTO);
 }
 
