@@ -99,6 +99,7 @@ QWidget* FinestraConto::riquadroTotali()
     auto* griglia = new QGridLayout(riquadro);
     const QStringList righe = {u"Sosta"_s, u"Fisso"_s, u"Totale"_s};
     mCalcolati = scritta(riquadro, u"lblCalcolati"_s);
+    mCalcolati->setWordWrap(false);
     griglia->addWidget(mCalcolati, 0, 1, Qt::AlignRight);
     griglia->addWidget(new QLabel(u"Scritti sulla giacenza"_s, riquadro), 0, 2, Qt::AlignRight);
     for (int i = 0; i < 3; ++i) {
