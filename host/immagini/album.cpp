@@ -1,7 +1,10 @@
 #include "host/immagini/album.h"
 
+#include <QAbstractAnimation>
 #include <QCoreApplication>
 #include <QDir>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -22,6 +25,16 @@ void Album::scatta(QWidget* finestra, const QString& nome)
 {
     Regista::verifica(!mScattate.contains(nome), u"due immagini si chiamano %1"_s.arg(nome));
     mScattate << nome;
+    // A field's cross fades in.
+    Regista::attende(
+        [&] {
+            const auto animazioni = finestra->findChildren<QAbstractAnimation*>();
+            return std::none_of(animazioni.begin(), animazioni.end(),
+                                [](const QAbstractAnimation* animazione) {
+                                    return animazione->state() == QAbstractAnimation::Running;
+                                });
+        },
+        u"la finestra %1 continua a muoversi"_s.arg(nome));
     QCoreApplication::processEvents();
     Regista::verifica(finestra->grab().save(QDir(cartella).filePath(nome + u".png"_s)),
                       u"l'immagine %1 non è stata scritta"_s.arg(nome));
