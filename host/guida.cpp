@@ -1,11 +1,11 @@
 #include "guida.h"
 
+#include "base/messaggi.h"
 #include "host/avvio/assistenza.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QKeyEvent>
-#include <QMessageBox>
 #include <QUrl>
 #include <QWidget>
 
@@ -79,7 +79,7 @@ bool TastoGuida::eventFilter(QObject* oggetto, QEvent* evento)
         return false;
     auto* dove = qobject_cast<QWidget*>(oggetto);
     if (const QString guasto = apriGuida(ancoraGuida(dove)); !guasto.isEmpty())
-        QMessageBox::information(dove->window(), u"Guida"_s, guasto);
+        giacenza::mostraMessaggio(dove->window(), {guasto, giacenza::Stile::informazione, u"Guida"_s});
     return true;
 }
 

@@ -31,3 +31,5 @@ vieta "blanks at the end of a line." -E '[[:blank:]]+$'
 vieta "a reference to a paper that the reader of this tree does not have." \
     -E '\bParts? [1-6]\.[1-6]\b|\b[Ss]pecification\b|\bspec\.md\b'
 vieta "a test that can pass without running." --include='*.cpp' --include='*.h' -E 'GTEST_SKIP|QSKIP|DISABLED_'
+vieta "a message box beside the one door, base/messaggi." --include='*.cpp' --include='*.h' --exclude=messaggi.cpp \
+    --exclude-dir=tests --exclude-dir=benchmarks QMessageBox

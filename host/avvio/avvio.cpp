@@ -1,12 +1,12 @@
 #include "host/avvio/avvio.h"
 
+#include "base/messaggi.h"
 #include "host/avvio/dimostrazione.h"
 #include "host/avvio/frmArchivio.h"
 
 #include <QFile>
 #include <QInputDialog>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
@@ -50,8 +50,10 @@ Avvio::Domande Avvio::finestre()
                     QInputDialog::getText(padre, u"Archivio"_s, testo, QLineEdit::Password, {}, &data);
                 return data ? std::optional(parola) : std::nullopt;
             },
-            .avverti = [](const QString& testo,
-                          QWidget* padre) { QMessageBox::warning(padre, u"Archivio"_s, testo); }};
+            .avverti =
+                [](const QString& testo, QWidget* padre) {
+                    giacenza::mostraMessaggio(padre, {testo, giacenza::Stile::avviso, u"Archivio"_s});
+                }};
 }
 
 Avvio::Avvio(QSettings& impostazioni, Portachiavi& portachiavi, Domande domande)
