@@ -2,6 +2,7 @@
 
 #include "base/impostazioni.h"
 #include "benchmarks/chiave/schermata.h"
+#include "benchmarks/quadro/residente.h"
 #include "data/archivio.h"
 #include "database/valori.h"
 #include "emissione/emittente.h"
@@ -83,7 +84,11 @@ private:
         if (!dialogo)
             return;
         dialogo->findChild<QAbstractButton*>(u"optStampaLDVNo"_s)->setChecked(true);
-        QObject::connect(dialogo, &QObject::destroyed, this, [this] { mFase.emplace(); });
+        // The operator has looked at the dialog for seconds: what follows starts as cold as the press did.
+        QObject::connect(dialogo, &QObject::destroyed, this, [this] {
+            raffredda();
+            mFase.emplace();
+        });
         dialogo->findChild<QPushButton*>(u"cmdEsci"_s)->click();
     }
 

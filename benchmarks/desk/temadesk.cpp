@@ -119,7 +119,7 @@ std::vector<Confronto> confronti(const Basi& basi, const Opzioni& opzioni)
 {
     std::vector<Confronto> elenco;
     for (const QString& tipo : opzioni.basi)
-        for (const qint64 righe : opzioni.misure({1'000'000})) {
+        for (const qint64 righe : opzioni.misure({opzioni.svelto ? 100'000 : 1'000'000})) {
             const QString stringa = basi.stringa(tipo, u"desk_%1"_s.arg(righe),
                                                  [righe](Connessione& nuova) { riempi(nuova, righe); });
             for (const Voce& voce : voci(righe))

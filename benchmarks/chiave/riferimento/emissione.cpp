@@ -2,7 +2,7 @@
 
 #include "benchmarks/chiave/giorno.h"
 #include "benchmarks/chiave/riferimento/operazioni.h"
-#include "benchmarks/quadro/esito.h"
+#include "benchmarks/quadro/residente.h"
 
 #include <stdexcept>
 
@@ -142,6 +142,7 @@ double emissione(Base& schermo, const Parti& parti)
     porto.apri();
     porto.leggi("select * from porto order by idPorto", {1, 2});
     porto.chiudi();
+    banco::raffredda(); // as ours, behind its dialog
     const banco::Cronometro dopoIlPorto;
     conta(schermo, parti);
     emetti(originale.at(0), parti);
