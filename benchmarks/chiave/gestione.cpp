@@ -4,7 +4,6 @@
 #include "database/valori.h"
 #include "management/frmGestGia.h"
 
-#include <QApplication>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
@@ -24,7 +23,7 @@ public:
         scrivi(u"txtNGiace"_s, caso.giacenza);
         scrivi(u"txtDataGiace"_s, dataBreve(caso.dataGiacenza));
         controllo<QPushButton>(u"cmdRicGiac"_s)->click();
-        QApplication::processEvents();
+        dipingi();
         pretendi(u"lblNrGia"_s, caso.giacenza);
     }
     double esegui(const Caso&) override { return finoAllaStampa(u"cmdBuonFine"_s); }

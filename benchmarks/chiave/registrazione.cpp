@@ -70,6 +70,7 @@ public:
     void prepara(const Caso& caso) override
     {
         consegna(caso);
+        dipingi();
         pretendi(u"lblNrGia"_s, caso.giacenza);
     }
     double esegui(const Caso&) override { return finoAllaStampa(u"cmdAvvisoGia"_s); }

@@ -41,9 +41,9 @@ public:
         scrivi(u"txtLDV"_s, caso.numero);
         scrivi(u"txtDataLdv"_s, dataBreve(caso.data));
         premi(u"txtLDV"_s, Qt::Key_F12);
-        QApplication::processEvents();
-        pretendi(u"lblNrGia"_s, caso.giacenza);
         controllo<QPushButton>(u"cmdRiconsegna"_s)->setEnabled(true);
+        dipingi();
+        pretendi(u"lblNrGia"_s, caso.giacenza);
     }
 
     /// The issuer of the plug-in file tells nobody what it sends: here the same one is linked in.

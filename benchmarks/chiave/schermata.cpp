@@ -49,6 +49,13 @@ void OperazioneSuSchermata::attiva() const
         throw Errore(u"The screen did not become active."_s);
 }
 
+void OperazioneSuSchermata::dipingi() const
+{
+    QApplication::processEvents();
+    // Texts in several lines find their scroll bars only after the first painting.
+    mSchermata->repaint();
+}
+
 void OperazioneSuSchermata::scrivi(const QString& nome, const QString& testo) const
 {
     giacenza::scrivi(controllo<QWidget>(nome), testo);

@@ -30,6 +30,8 @@ protected:
 
     /// Without a window manager nobody gives the screen the focus back when a dialog over it has closed.
     void attiva() const;
+    /// An operator presses what he sees: nothing is left to be painted when the press begins.
+    void dipingi() const;
     void scrivi(const QString& nome, const QString& testo) const;
     void premi(const QString& nome, Qt::Key tasto) const;
     /// Fails unless the control shows this.
