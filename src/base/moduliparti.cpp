@@ -85,7 +85,8 @@ QStringList cartelleParti()
 {
     QStringList cartelle =
         qEnvironmentVariable("GIACENZA_PARTI").split(QDir::listSeparator(), Qt::SkipEmptyParts);
-    cartelle.append(cartellaPropria() + u"/giacenza"_s);
+    static const QString propria = cartellaPropria() + u"/giacenza"_s;
+    cartelle.append(propria);
     {
         const std::lock_guard guardia(aggiunte().serratura);
         cartelle.append(aggiunte().cartelle);

@@ -28,6 +28,18 @@ protected:
     {
         return trova<QTableView>(finestra, u"tblGiorni"_s)->model()->rowCount();
     }
+    /// Types another date over the one that is there.
+    static CampoData* digita(FinestraConto& finestra, const QString& cifre)
+    {
+        finestra.show();
+        finestra.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&finestra));
+        auto* data = trova<CampoData>(finestra, u"txtAlla"_s);
+        data->setFocus();
+        data->selectAll();
+        QTest::keyClicks(data, cifre);
+        return data;
+    }
 };
 
 INSTANTIATE_TEST_SUITE_P(Basi, SchedaConto, testing::Values("sqlite", "mariadb"),
@@ -51,20 +63,11 @@ TEST_P(SchedaConto, MostraIlContoDiOggi)
 TEST_P(SchedaConto, UnAltraDataSiScriveEInvioCalcola)
 {
     FinestraConto finestra(mBase.accesso(), mAperta, carta());
-    finestra.show();
-    finestra.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
-    auto* data = trova<CampoData>(finestra, u"txtAlla"_s);
-    data->setFocus();
-    data->selectAll();
-    QTest::keyClicks(data, u"05122026"_s);
-    QTest::keyClick(data, Qt::Key_Return);
+    QTest::keyClick(digita(finestra, u"05122026"_s), Qt::Key_Return);
     EXPECT_EQ(righe(finestra), 34);
     EXPECT_EQ(testo(finestra, u"lblTotaleCalcolato"_s), u"48,50 €"_s);
     EXPECT_TRUE(finestra.isVisible());
-    data->selectAll();
-    QTest::keyClicks(data, u"31022026"_s);
-    QTest::keyClick(data, Qt::Key_Return);
+    QTest::keyClick(digita(finestra, u"31022026"_s), Qt::Key_Return);
     EXPECT_EQ(testo(finestra, u"lblStato"_s), u"La data del conto non è una data."_s);
     EXPECT_EQ(testo(finestra, u"lblTotaleCalcolato"_s), u"48,50 €"_s);
     QTest::keyClick(&finestra, Qt::Key_Escape);
@@ -98,21 +101,14 @@ TEST_P(SchedaConto, SiSalvaAllaDataScrittaAncheSeNonCalcolata)
 {
     FinestraConto finestra(mBase.accesso(), mAperta, carta());
     EXPECT_EQ(testo(finestra, u"lblCalcolati"_s), u"Calcolati al 22/11/2026"_s);
-    finestra.show();
-    finestra.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&finestra));
-    auto* data = trova<CampoData>(finestra, u"txtAlla"_s);
-    data->setFocus();
-    data->selectAll();
-    QTest::keyClicks(data, u"05122026"_s);
+    digita(finestra, u"05122026"_s);
     trova<QPushButton>(finestra, u"cmdSalvaPdf"_s)->click();
     ASSERT_THAT(salvati(), ElementsAre(u"Conto della sosta 42-2026.pdf"_s));
     const QString pagina = testoPdf(mCartella.filePath(salvati().first())).simplified();
     EXPECT_TRUE(pagina.contains(u"Totale al 05/12/2026 48,50 €"_s)) << pagina.toStdString();
     EXPECT_EQ(testo(finestra, u"lblCalcolati"_s), u"Calcolati al 05/12/2026"_s);
 
-    data->selectAll();
-    QTest::keyClicks(data, u"31022026"_s);
+    digita(finestra, u"31022026"_s);
     trova<QPushButton>(finestra, u"cmdSalvaPdf"_s)->click();
     EXPECT_EQ(testo(finestra, u"lblStato"_s), u"La data del conto non è una data."_s);
     EXPECT_THAT(salvati(), ElementsAre(u"Conto della sosta 42-2026.pdf"_s)) << "and nothing is saved";

@@ -134,22 +134,23 @@ bool Banco::richiama(const CasoSeguito& caso)
     return testo(trova<QWidget>(schermata, u"lblNrGia"_s)) == caso.giacenza;
 }
 
-bool Banco::avvisa(const CasoSeguito& caso, const std::function<void()>& prima)
+bool Banco::premiSulCaso(const CasoSeguito& caso, const std::function<void()>& prima, const QString& bottone)
 {
     if (!richiama(caso))
         return false;
     prima();
-    premi(u"cmdAvvisoGia"_s);
+    premi(bottone);
     return true;
+}
+
+bool Banco::avvisa(const CasoSeguito& caso, const std::function<void()>& prima)
+{
+    return premiSulCaso(caso, prima, u"cmdAvvisoGia"_s);
 }
 
 bool Banco::chiude(const CasoSeguito& caso, const std::function<void()>& prima)
 {
-    if (!richiama(caso))
-        return false;
-    prima();
-    premi(u"cmdBuonFine"_s);
-    return true;
+    return premiSulCaso(caso, prima, u"cmdBuonFine"_s);
 }
 
 bool Banco::riconsegna(const CasoSeguito& caso, const std::function<void()>& prima)

@@ -43,6 +43,7 @@ private:
     bool riconsegna(const CasoSeguito& caso, const std::function<void()>& prima);
     bool chiude(const CasoSeguito& caso, const std::function<void()>& prima);
     bool richiama(const CasoSeguito& caso);
+    bool premiSulCaso(const CasoSeguito& caso, const std::function<void()>& prima, const QString& bottone);
     void premi(const QString& bottone);
     QString stato() const;
 
