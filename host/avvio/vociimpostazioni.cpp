@@ -64,17 +64,15 @@ void metti(QStringList& righe, const QString& sezione, const QString& chiave, co
     righe.insert(fine, chiave + u'=' + valore);
 }
 
-/// Whether the component's reader finds the values in a content: a line that stood there may hide what
-/// follows.
-bool siLeggono(const QByteArray& contenuto, const std::vector<QString>& valori)
+/// What the component's reader finds in a content.
+std::vector<QString> valoriDi(const QByteArray& contenuto)
 {
-    for (std::size_t i = 0; i < valori.size(); ++i) {
-        const VoceImpostazioni& voce = vociImpostazioni().at(i);
-        if (giacenza::LettoreIniProprio::daContenuto(contenuto, nome(voce.sezione), {nome(voce.chiave)})
-                .front() != valori[i].simplified())
-            return false;
-    }
-    return true;
+    std::vector<QString> valori;
+    for (const VoceImpostazioni& voce : vociImpostazioni())
+        valori.push_back(
+            giacenza::LettoreIniProprio::daContenuto(contenuto, nome(voce.sezione), {nome(voce.chiave)})
+                .front());
+    return valori;
 }
 
 } // namespace
@@ -120,6 +118,8 @@ QString scriviImpostazioni(const QString& file, const std::vector<QString>& valo
     try {
         const auto byte = giacenza::leggiFileLimitato(file, giacenza::limiteImpostazioni);
         const giacenza::TestoLetto letto = giacenza::decodifica(byte.value_or(QByteArray()));
+        // What was not changed stays to the letter, double blanks too.
+        std::vector<QString> voluti = valoriDi(byte.value_or(QByteArray()));
         QStringList righe = letto.testo.split(u'\n');
         for (QString& riga : righe)
             while (riga.endsWith(u'\r'))
@@ -127,12 +127,16 @@ QString scriviImpostazioni(const QString& file, const std::vector<QString>& valo
         while (!righe.isEmpty() && righe.last().isEmpty())
             righe.removeLast();
         for (std::size_t i = 0; i < valori.size(); ++i) {
+            if (valori[i] == voluti[i])
+                continue;
+            voluti[i] = valori[i].simplified();
             const VoceImpostazioni& voce = vociImpostazioni().at(i);
-            metti(righe, nome(voce.sezione), nome(voce.chiave), valori[i].simplified());
+            metti(righe, nome(voce.sezione), nome(voce.chiave), voluti[i]);
         }
         const QString testo = righe.join(u'\n') + u'\n';
         const QByteArray contenuto = giacenza::codifica(testo, letto.codifica).value_or(testo.toUtf8());
-        if (!siLeggono(contenuto, valori))
+        // A line that stood there may hide what follows.
+        if (valoriDi(contenuto) != voluti)
             return u"Le impostazioni non si possono scrivere in \"%1\": il file ha una riga che nasconde le "
                    u"altre, "
                    "o un valore ha caratteri che il file non tiene. Correggerlo a mano."_s.arg(

@@ -1,5 +1,7 @@
 #include "search/righelette.h"
 
+#include <lz4.h>
+#include <stdexcept>
 #include <utility>
 
 namespace giacenza {
@@ -10,8 +12,6 @@ namespace {
 // from one, since zero is null.
 constexpr int bitLunghezza = 7;
 constexpr quint32 ancora = 1U << bitLunghezza;
-
-constexpr int compressioneVeloce = 1;
 
 void scriviLunghezza(QByteArray& byte, quint32 lunghezza)
 {
@@ -43,11 +43,8 @@ void RigheLette::svuota()
 void RigheLette::aggiungiRiga()
 {
     if (mRighe % righePagina == 0) {
-        if (!mPagine.empty()) {
-            QByteArray& piena = mPagine.back().byte;
-            piena = qCompress(piena, compressioneVeloce);
-            piena.squeeze(); // it was given room for the worst case
-        }
+        if (!mPagine.empty())
+            comprimi(mPagine.back());
         mPagine.emplace_back().inizi.reserve(righePagina);
     }
     mPagine.back().inizi.push_back(static_cast<quint32>(mPagine.back().byte.size()));
@@ -62,15 +59,37 @@ void RigheLette::aggiungiValore(std::optional<QByteArrayView> valore)
         byte.append(*valore);
 }
 
+void RigheLette::comprimi(Pagina& pagina)
+{
+    if (pagina.byte.isEmpty() || pagina.byte.size() > LZ4_MAX_INPUT_SIZE)
+        return;
+    const auto quanti = static_cast<int>(pagina.byte.size());
+    QByteArray compressi(LZ4_compressBound(quanti), Qt::Uninitialized);
+    const int scritti = LZ4_compress_default(pagina.byte.constData(), compressi.data(), quanti,
+                                             static_cast<int>(compressi.size()));
+    // A copy of its own size: the room was for the worst case.
+    pagina.byte = QByteArray(compressi.constData(), scritti);
+    pagina.intera = quanti;
+}
+
+QByteArray RigheLette::intera(const Pagina& pagina)
+{
+    QByteArray byte(pagina.intera, Qt::Uninitialized);
+    if (LZ4_decompress_safe(pagina.byte.constData(), byte.data(), static_cast<int>(pagina.byte.size()),
+                            pagina.intera) != pagina.intera)
+        throw std::logic_error("a page of the list is not what was compressed");
+    return byte;
+}
+
 const QByteArray& RigheLette::byteDi(std::size_t pagina) const
 {
-    if (pagina + 1 == mPagine.size())
+    if (mPagine[pagina].intera == 0)
         return mPagine[pagina].byte;
     auto& [ultima, altra] = mAperte;
     if (ultima.byte.isEmpty() || ultima.pagina != pagina) {
         std::swap(ultima, altra);
         if (ultima.byte.isEmpty() || ultima.pagina != pagina)
-            ultima = {pagina, qUncompress(mPagine[pagina].byte)};
+            ultima = {pagina, intera(mPagine[pagina])};
     }
     return ultima.byte;
 }

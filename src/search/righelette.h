@@ -33,7 +33,8 @@ public:
 private:
     struct Pagina
     {
-        QByteArray byte; // compressed, but for the last page
+        QByteArray byte;
+        int intera = 0; // its size before it was compressed; 0: it is not, as the last page
         std::vector<quint32> inizi;
     };
     struct Aperta
@@ -42,6 +43,8 @@ private:
         QByteArray byte; // empty: none
     };
 
+    static void comprimi(Pagina& pagina);
+    static QByteArray intera(const Pagina& pagina);
     const QByteArray& byteDi(std::size_t pagina) const;
 
     std::vector<Pagina> mPagine;

@@ -69,6 +69,17 @@ TEST_F(VociImpostazioni, IlRestoDelFileRestaComE)
     EXPECT_FALSE(scritto().contains("Modalita"));
 }
 
+TEST_F(VociImpostazioni, CioCheNonCambiaRestaAllaLettera)
+{
+    mFile = mCartella.filePath(u"giacenza.ini"_s);
+    scrivi("[Lettere]\nPiede1 = Tel. 011 000000   Fax 011 000001\nPiede2=Vecchio\n");
+    std::vector<QString> valori = leggiImpostazioni(mFile);
+    valori[posto(u"Piede2"_s)] = u" Nuovo   piede "_s;
+    ASSERT_EQ(scriviImpostazioni(mFile, valori), QString());
+    EXPECT_EQ(scritto(),
+              QByteArray("[Lettere]\nPiede1 = Tel. 011 000000   Fax 011 000001\nPiede2=Nuovo piede\n"));
+}
+
 TEST_F(VociImpostazioni, CioCheNonSiPuoScrivereSiDice)
 {
     QFile occupata(mCartella.filePath(u"sotto"_s));
