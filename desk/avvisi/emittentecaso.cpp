@@ -26,7 +26,11 @@ EsitoCaso rifiutato()
     try {
         throw;
     } catch (const ErroreDatabase& errore) {
-        return {Esito::rifiutato, inUnaRiga(spiega(errore)), {}, eDiConnessione(errore)};
+        const QString motivo = inUnaRiga(spiega(errore));
+        if (forseScritto(errore))
+            return {
+                Esito::ignoto, u"non si sa se l'avviso è contato: "_s + motivo, {}, eDiConnessione(errore)};
+        return {Esito::rifiutato, motivo, {}, eDiConnessione(errore)};
     } catch (const Errore& errore) {
         return {Esito::rifiutato, inUnaRiga(spiega(errore))};
     } catch (...) {

@@ -19,6 +19,7 @@ enum class Esito
     lasciato,   ///< nothing was to be done: noticed today already
     rifiutato,  ///< nothing was done
     incompleto, ///< the notice counts, and was not printed
+    ignoto,     ///< nobody knows whether the notice counts; it was not printed
 };
 
 struct EsitoCaso

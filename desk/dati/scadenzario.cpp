@@ -1,6 +1,5 @@
 #include "desk/dati/scadenzario.h"
 
-#include "base/spiegazioni.h"
 #include "base/testoerrore.h"
 #include "data/istruzionidesk.h"
 #include "database/limiterighe.h"
@@ -133,12 +132,12 @@ void Scadenzario::leggiLaggiu(const RichiestaElenco& richiesta, const Annullata&
             Q_EMIT finito();
         });
     } catch (...) {
-        QString testo = testoErrore();
-        const QString dettaglio = testo;
+        const QString testo = testoErrore();
+        QString dettaglio = testo;
         try {
             throw;
         } catch (const Errore& errore) {
-            testo = spiega(errore);
+            dettaglio = errore.testo();
         } catch (...) { // the words of what is not ours stand as they are
         }
         consegna(annullata, [this, testo, dettaglio] {

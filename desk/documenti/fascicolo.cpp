@@ -48,7 +48,7 @@ void lettera(std::vector<PaginaReport>& pagine, TipoDocumento tipo, const Access
     richiesta.didascalie = carta.didascalie;
     // An instance of its own: what a closure hides on the shared one stays hidden there alone.
     Lettera report;
-    const auto documento = report.componi(richiesta, oggi, nullptr);
+    const auto documento = report.componi(richiesta, oggi, nullptr, Lettera::Guasti::lanciati);
     if (!documento)
         throw Errore(u"Una lettera del fascicolo non si è potuta comporre."_s);
     unisci(pagine, *documento);

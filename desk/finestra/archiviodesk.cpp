@@ -106,9 +106,15 @@ void ArchivioDesk::leggiFiliali(const Accesso& accesso)
             riga.apri(*mConnessione, istruzioni::elencoFiliali());
             for (; !riga.eof(); riga.successivo())
                 filiali.push_back({riga.valore(0).value_or(QString()), riga.valore(1).value_or(QString())});
-        } catch (const Errore&) {
+        } catch (const Errore& errore) {
             mConnessione.reset();
-            return; // The list is read at the same time, and tells why.
+            QMetaObject::invokeMethod(
+                this,
+                [this, testo = spiega(errore), dettaglio = errore.testo()] {
+                    Q_EMIT filialiFallite(testo, dettaglio);
+                },
+                Qt::QueuedConnection);
+            return;
         }
         QMetaObject::invokeMethod(
             this, [this, filiali] { Q_EMIT filialiLette(filiali); }, Qt::QueuedConnection);

@@ -43,8 +43,7 @@ public:
     /// A case that the operator may act on: casoLetto() comes, nothing when there is none. A later question
     /// of these takes the place of one that has not begun; cerca() and leggi() stand beside it.
     void leggiCaso(const Sguardo& sguardo, const ChiaveGiacenza& chiave);
-    /// The branches: filialiLette() comes; nothing when they cannot be read, since the list itself tells
-    /// that.
+    /// The branches: filialiLette() comes, or filialiFallite().
     void leggiFiliali(const Accesso& accesso);
 
 Q_SIGNALS:
@@ -54,6 +53,7 @@ Q_SIGNALS:
     void sparito(const QString& nomeGiacenza);
     void fallito(const QString& testo, const QString& dettaglio);
     void filialiLette(const std::vector<giacenza::desk::Filiale>& filiali);
+    void filialiFallite(const QString& testo, const QString& dettaglio);
 
 private:
     void chiedi(const Accesso& accesso, std::function<std::function<void()>(Connessione&)> domanda);

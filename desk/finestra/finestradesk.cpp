@@ -113,7 +113,8 @@ void FinestraDesk::collegaLettura()
     connect(mScadenzario, &Scadenzario::arrivate, this, &FinestraDesk::letteAltre);
     connect(mScadenzario, &Scadenzario::finito, this, &FinestraDesk::letturaFinita);
     connect(mScadenzario, &Scadenzario::fallito, this, &FinestraDesk::letturaFallita);
-    connect(mArchivio, &ArchivioDesk::filialiLette, mElenco, &PaginaElenco::setFiliali);
+    connect(mArchivio, &ArchivioDesk::filialiLette, this, &FinestraDesk::filialiLette);
+    connect(mArchivio, &ArchivioDesk::filialiFallite, this, &FinestraDesk::filialiFallite);
     connect(mArchivio, &ArchivioDesk::trovato, this, &FinestraDesk::trovato);
     connect(mArchivio, &ArchivioDesk::letto, this, &FinestraDesk::letto);
     connect(mArchivio, &ArchivioDesk::casoLetto, mRisultati, &PaginaRisultati::setCaso);
@@ -217,6 +218,22 @@ void FinestraDesk::letturaFallita(const QString& testo, const QString& dettaglio
                                       : u"letto alle %1; alle %2 non riuscita"_s.arg(mLettaAlle, adesso()));
     mGuastoElenco = u"L'elenco non si legge. %1"_s.arg(testo);
     dici(mGuastoElenco, true, dettaglio);
+}
+
+void FinestraDesk::filialiLette(const std::vector<Filiale>& filiali)
+{
+    if (mEsito->text() == std::exchange(mGuastoFiliali, {}))
+        dici({});
+    mElenco->setFiliali(filiali);
+}
+
+void FinestraDesk::filialiFallite(const QString& testo, const QString& dettaglio)
+{
+    mGuastoFiliali = u"Le filiali non si leggono. %1"_s.arg(testo);
+    mElenco->diciGuastoFiliali(mGuastoFiliali, dettaglio);
+    // The list that cannot be read, and what the operator waits for, go before.
+    if (mGuastoElenco.isEmpty() && !mCercando)
+        dici(mGuastoFiliali, true, dettaglio);
 }
 
 void FinestraDesk::dici(const QString& testo, bool allarme, const QString& dettaglio)

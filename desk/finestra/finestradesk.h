@@ -75,6 +75,8 @@ private:
     void letturaFinita();
     void diciFiltroRipreso();
     void letturaFallita(const QString& testo, const QString& dettaglio);
+    void filialiLette(const std::vector<Filiale>& filiali);
+    void filialiFallite(const QString& testo, const QString& dettaglio);
 
     void rileggi();
     void cerca(const QString& testo);
@@ -112,6 +114,7 @@ private:
     bool mRilettura = false;      ///< what is on the screen is being read anew: nothing moves
     QString mLettaAlle;           ///< when the list was read that stands there
     QString mGuastoElenco;        ///< what was said of a list that could not be read
+    QString mGuastoFiliali;       ///< and of the branches
     std::vector<RigaCaso> mLette; ///< of a reading that replaces an earlier one
     Scadenzario* mScadenzario;
     ArchivioDesk* mArchivio;

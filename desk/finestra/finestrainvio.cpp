@@ -194,6 +194,7 @@ void FinestraInvio::scriviEsito(std::size_t quale, const QString& parole, Esito 
         case Esito::rifiutato:
             return u"✗ rifiutata: "_s;
         case Esito::incompleto:
+        case Esito::ignoto:
             break;
         }
         return u"⚠ "_s;
@@ -201,7 +202,7 @@ void FinestraInvio::scriviEsito(std::size_t quale, const QString& parole, Esito 
     QStandardItem* dove = mModello->item(static_cast<int>(quale), colonnaEsito);
     dove->setText(segno() + parole);
     dove->setToolTip(dove->text());
-    if (esito == Esito::rifiutato || esito == Esito::incompleto) {
+    if (esito != Esito::fatto && esito != Esito::lasciato) {
         dove->setForeground(coloreAllarme());
         if (mPrimoGuasto < 0)
             mPrimoGuasto = dove->row();
@@ -234,6 +235,8 @@ QString FinestraInvio::riepilogo() const
         parti << u"%1 rifiutati"_s.arg(quanti(Esito::rifiutato));
     if (quanti(Esito::incompleto) > 0)
         parti << u"%1 contati e non stampati: ristamparli con Ctrl+P"_s.arg(quanti(Esito::incompleto));
+    if (quanti(Esito::ignoto) > 0)
+        parti << u"%1 non si sa se contati: ripeterli non li conta due volte"_s.arg(quanti(Esito::ignoto));
     const auto mancano = static_cast<int>(mCasi.size() - mProssimo);
     if (mSenzaArchivio && mancano > 0)
         parti << u"%1 non cominciati: l'archivio non risponde"_s.arg(mancano);

@@ -50,8 +50,8 @@ private:
     bool mInCorso = false;
     bool mInterrotto = false;
     bool mSenzaArchivio = false; ///< the last case found the archive silent
-    int mPrimoGuasto = -1;       ///< the first row that was refused or not printed
-    int mConti[4] = {};          ///< by Esito
+    int mPrimoGuasto = -1;       ///< the first row that was refused, not printed or of which nobody knows
+    int mConti[5] = {};          ///< by Esito
     QLabel* mTesto;
     TabellaDesk* mTabella;
     QStandardItemModel* mModello;

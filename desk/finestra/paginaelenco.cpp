@@ -126,8 +126,15 @@ void PaginaElenco::scegliFiliale(const QString& codice)
     mFiliale->setCurrentIndex(mFiliale->findData(codice));
 }
 
+void PaginaElenco::diciGuastoFiliali(const QString& testo, const QString& dettaglio)
+{
+    mFiliale->setToolTip(dettaglio.isEmpty() ? testo : testo + u'\n' + dettaglio);
+    mFiliale->setAccessibleDescription(testo);
+}
+
 void PaginaElenco::setFiliali(const std::vector<Filiale>& filiali)
 {
+    diciGuastoFiliali({});
     QSignalBlocker zitto(mFiliale);
     const QString scelta = filiale();
     while (mFiliale->count() > 1)

@@ -30,6 +30,8 @@ public:
     QString filiale() const;
     /// Of a branch that is no longer there, all are wanted instead, and filialeScelta() says so.
     void setFiliali(const std::vector<Filiale>& filiali);
+    /// The branches stay those that are known, and their list says why; empty: no more.
+    void diciGuastoFiliali(const QString& testo, const QString& dettaglio = {});
     /// Wants a branch's cases before the branches are known; says nothing. codice: empty: all.
     void scegliFiliale(const QString& codice);
 

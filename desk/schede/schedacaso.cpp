@@ -139,6 +139,12 @@ void SchedaCaso::mostra(const ChiaveGiacenza& caso)
 
 void SchedaCaso::rileggi()
 {
+    if (const QString guasto = leggi(); !guasto.isEmpty())
+        dici(guasto);
+}
+
+QString SchedaCaso::leggi()
+{
     registro::Cronologia letta;
     const QString guasto = provando([&] {
         Connessione connessione;
@@ -152,11 +158,10 @@ void SchedaCaso::rileggi()
     mMancanza->setAccessibleName(mancanza);
     mMancanza->setVisible(!mancanza.isEmpty());
     mModello->mostra(std::move(letta.eventi));
-    if (!guasto.isEmpty())
-        dici(guasto);
     if (mModello->rowCount() > 0)
         mTavola->selectRow(0);
     mostraTesto();
+    return guasto;
 }
 
 void SchedaCaso::mostraTesto()
@@ -170,21 +175,54 @@ void SchedaCaso::mostraTesto()
     mTesto->setPlainText(evento.testo.isEmpty() ? evento.che : evento.che + u'\n' + evento.testo);
 }
 
-void SchedaCaso::aggiungi()
+/// Those on the screen that say what is written now.
+qsizetype SchedaCaso::noteUguali() const
 {
-    const QString guasto = provando([this] {
+    qsizetype quante = 0;
+    for (int riga = 0; riga < mModello->rowCount(); ++riga) {
+        const registro::Evento& evento = mModello->evento(riga);
+        quante +=
+            evento.fonte == registro::Fonte::nota && evento.testo == mNota->toPlainText().trimmed() ? 1 : 0;
+    }
+    return quante;
+}
+
+/// Gives why it was not written, in Italian; empty when it was. Where the answer was lost the timeline, read
+/// anew, tells.
+QString SchedaCaso::scrivi()
+{
+    bool caduta = false;
+    const QString guasto = provando([&] {
         Connessione connessione;
         connessione.apri(mAccesso);
-        registro::aggiungiNota(connessione, mCaso, mAutore->text(), mNota->toPlainText());
+        try {
+            registro::aggiungiNota(connessione, mCaso, mAutore->text(), mNota->toPlainText());
+        } catch (const ErroreDatabase&) {
+            caduta = !connessione.aperta();
+            throw;
+        }
     });
-    if (!guasto.isEmpty()) {
+    if (!caduta)
+        return guasto;
+    const qsizetype prima = noteUguali();
+    if (!leggi().isEmpty())
+        return u"Non si sa se la nota è stata aggiunta: guardarlo qui quando l'archivio risponde, prima di "
+               "ripetere. "_s +
+               guasto;
+    return noteUguali() > prima ? QString() : guasto;
+}
+
+void SchedaCaso::aggiungi()
+{
+    if (const QString guasto = scrivi(); !guasto.isEmpty()) {
         dici(guasto);
         mNota->setFocus();
         return;
     }
     mNota->clear();
-    dici(u"Nota aggiunta."_s);
-    rileggi();
+    const QString nonRiletta = leggi();
+    dici(nonRiletta.isEmpty() ? u"Nota aggiunta."_s
+                              : u"Nota aggiunta. La cronologia non si rilegge: "_s + nonRiletta);
     Q_EMIT notaAggiunta();
 }
 

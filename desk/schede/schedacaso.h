@@ -47,7 +47,11 @@ private:
     void componi();
     QWidget* riquadroNota();
     void mostraTesto();
+    /// Why it could not be read, in Italian; empty when it was.
+    QString leggi();
     void aggiungi();
+    QString scrivi();
+    qsizetype noteUguali() const;
     void stampa();
     void dici(const QString& testo);
     void permettiNote(bool permesse);

@@ -24,6 +24,7 @@ struct Racconto
 {
     QString testo;             ///< plain text, as many lines as it needs
     Tono tono = Tono::rifiuto; ///< how it is meant
+    QString dettaglio{}; ///< for whoever mends it, such as a driver's words: not in the box, may be empty
 };
 
 /// What the component knows of the movement that is being issued, beyond what it hands over with it.

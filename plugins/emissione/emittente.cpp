@@ -1,5 +1,7 @@
 #include "emissione/emittente.h"
 
+#include "base/spiegazioni.h"
+#include "base/testoerrore.h"
 #include "comune/archivio.h"
 #include "comune/pdf.h"
 #include "reports/letters/letteravettura.h"
@@ -18,7 +20,14 @@ namespace {
 class Guasto : public Errore
 {
 public:
-    using Errore::Errore;
+    explicit Guasto(const QString& testo, const QString& dettaglio = {})
+        : Errore(testo), mDettaglio(dettaglio)
+    {}
+
+    const QString& dettaglio() const { return mDettaglio; }
+
+private:
+    QString mDettaglio;
 };
 
 QString nome(const LdvEmessa& ldv)
@@ -29,13 +38,12 @@ QString nome(const LdvEmessa& ldv)
 } // namespace
 
 /// The host may have none that listens; then the reason stands in its log at least.
-
-void EmittenteDeposito::racconta(const QString& testo, Tono tono) const
+void EmittenteDeposito::racconta(const Racconto& racconto) const
 {
     if (mContesto.racconta)
-        mContesto.racconta({testo, tono});
+        mContesto.racconta(racconto);
     else
-        qWarning().noquote() << testo;
+        qWarning().noquote() << QStringList{racconto.testo, racconto.dettaglio}.join(u'\n').trimmed();
 }
 
 QString EmittenteDeposito::emetti(const RecordLdv& ldv)
@@ -43,15 +51,15 @@ QString EmittenteDeposito::emetti(const RecordLdv& ldv)
     try {
         return emettiOLancia(ldv);
     } catch (const ErroreEsitoIgnoto& ignoto) {
-        racconta(ignoto.testo(), Tono::guasto);
+        racconta({ignoto.testo(), Tono::guasto});
         return ignoto.testo();
     } catch (const Guasto& guasto) {
-        racconta(guasto.testo(), Tono::guasto);
+        racconta({guasto.testo(), Tono::guasto, guasto.dettaglio()});
     } catch (const Errore& rifiuto) {
-        racconta(rifiuto.testo(), Tono::rifiuto);
+        racconta({rifiuto.testo(), Tono::rifiuto});
     } catch (const std::exception& errore) {
-        racconta(u"La lettera di vettura non è stata emessa: %1"_s.arg(QString::fromUtf8(errore.what())),
-                 Tono::guasto);
+        racconta({u"La lettera di vettura non è stata emessa: %1"_s.arg(QString::fromUtf8(errore.what())),
+                  Tono::guasto});
     }
     return {};
 }
@@ -79,9 +87,10 @@ QString EmittenteDeposito::stampaLdv(Connessione& connessione, const LdvEmessa& 
             mContesto.documento(file);
         return u"stampata in %1"_s.arg(QDir::toNativeSeparators(file));
     } catch (const std::exception& errore) {
-        racconta(u"La %1 è stata emessa, ma non è stata stampata.\n\n%2"_s.arg(
-                     nome(emessa), QString::fromUtf8(errore.what())),
-                 Tono::guasto);
+        const QString parole = QString::fromUtf8(errore.what());
+        const QString motivo = testoErrore();
+        racconta({u"La %1 è stata emessa, ma non è stata stampata.\n\n%2"_s.arg(nome(emessa), motivo),
+                  Tono::guasto, parole == motivo ? QString() : parole});
         return u"non stampata."_s;
     }
 }
@@ -99,7 +108,8 @@ QString EmittenteDeposito::emettiOLancia(const RecordLdv& ldv) const
         emessa = emettiLdv(connessione, ldv, mContesto);
     } catch (const ErroreDatabase& errore) {
         throw Guasto(u"La nuova lettera di vettura non è stata emessa: il database non ha accettato "
-                     "l'operazione.\n\n%1"_s.arg(errore.testo()));
+                     "l'operazione.\n\n%1"_s.arg(spiega(errore)),
+                     errore.testo());
     }
     if (!mStampa)
         return u"Emessa la %1."_s.arg(nome(emessa));

@@ -8,8 +8,8 @@
 namespace giacenza::emissione {
 
 /// The depot's own waybill issuer: adds the waybill of a re-delivery or of a return to the host's waybills,
-/// and prints it as a PDF into the print folder. Whatever fails is told once, as a refusal, through the
-/// context; without one it is written to the log.
+/// and prints it as a PDF into the print folder. Whatever fails is told once, through the context, a failure
+/// of the database by its class with the driver's words as detail; without one it is written to the log.
 class EmittenteDeposito : public EmittenteLdv, public ParteConContesto
 {
 public:
@@ -28,7 +28,7 @@ private:
     QString emettiOLancia(const RecordLdv& ldv) const;
     QString stampaLdv(Connessione& connessione, const LdvEmessa& emessa) const;
     void controllaCartella() const;
-    void racconta(const QString& testo, Tono tono) const;
+    void racconta(const Racconto& racconto) const;
 
     Traccia mTraccia;
     Contesto mContesto;

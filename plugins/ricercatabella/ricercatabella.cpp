@@ -19,10 +19,3 @@ void RicercaTabellaElenco::mostra(const QString& istruzione, const QString& tito
     if (presi && scelta)
         scelta(*presi);
 }
-
-std::unique_ptr<giacenza::ParteEsterna> FabbricaRicercaTabella::crea(const QString& nomeClasse)
-{
-    if (nomeClasse.compare(QString::fromUtf16(giacenza::classeRicercaTabella), Qt::CaseInsensitive) != 0)
-        return nullptr;
-    return std::make_unique<RicercaTabellaElenco>();
-}

@@ -30,4 +30,10 @@ QString legameRegistrato(const ChiaveGiacenza& nuova, const QString& numeroLdv, 
            fine(come);
 }
 
+QString giacenzaCheTiene(const ChiaveSpedizione& ldv)
+{
+    return u"select GINRGI, GIANGI, GIDTGI from giace00f where GIFILI='%1' and GINRLV='%2' and GIANLV=%3;"_s
+        .arg(sql::testo(ldv.filiale), sql::testo(ldv.numero), QString::number(ldv.anno));
+}
+
 } // namespace giacenza::istruzioni

@@ -205,13 +205,6 @@ LdvEmessa inUnaTransazione(Connessione& connessione, const RecordLdv& originale,
     return chiave;
 }
 
-/// A number that another program took: the key of the waybill is the only one that the row can meet.
-bool numeroPreso(const ErroreDatabase& errore)
-{
-    constexpr int vincoloSqlite = 19;
-    return errore.sqlstate() == u"23000"_s || errore.codiceNativo() == vincoloSqlite;
-}
-
 } // namespace
 
 LdvEmessa emettiLdv(Connessione& connessione, const RecordLdv& originale, const Contesto& contesto)
@@ -219,9 +212,10 @@ LdvEmessa emettiLdv(Connessione& connessione, const RecordLdv& originale, const 
     rifiutaSeVuoto(originale);
     rifiutaSeDiAltraGiacenza(originale, contesto);
     const bool colonnaNumero = haColonnaNumero(connessione);
+    // A number that another program took: the key of the waybill is the only one that the row can meet.
     return conTentativi(
         [&] { return inUnaTransazione(connessione, originale, contesto, colonnaNumero); },
-        [](const ErroreDatabase& errore) { return numeroPreso(errore) || perConcorrenza(errore); });
+        [](const ErroreDatabase& errore) { return perDoppione(errore) || perConcorrenza(errore); });
 }
 
 } // namespace giacenza

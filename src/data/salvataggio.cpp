@@ -1,6 +1,6 @@
 #include "data/salvataggio.h"
 
-#include "data/istruzioni.h"
+#include "data/istruzioniverifica.h"
 #include "data/numerazione.h"
 #include "data/verificasalvataggio.h"
 #include "database/nuovariga.h"
@@ -90,7 +90,34 @@ QString inUnaTransazione(Connessione& schermo, const Accesso& accesso, const Rig
     return nuova.numero;
 }
 
+/// The admission check's refusal, and which held shipment it is that holds the waybill; empty when none does,
+/// or when it cannot be read: what the insert met with is then told. Between the check and the insert another
+/// workstation may have been faster; a waybill whose mark nobody set passes the check however long it is
+/// held.
+QString giaTenuta(Connessione& schermo, const DatiGiacenza& dati)
+{
+    try {
+        Recordset giacenza;
+        giacenza.apri(schermo,
+                      istruzioni::giacenzaCheTiene({dati.filiale, dati.numeroLdv, dati.dataLdv.year()}));
+        if (giacenza.eof())
+            return {};
+        const auto testo = [&](int colonna) { return giacenza.valore(colonna).value_or(QString()); };
+        const auto dal = leggiData(testo(2).left(10));
+        return u"%1 La LDV %2 è già la giacenza %3/%4%5."_s.arg(
+            rifiutoGiaInGiacenza(), dati.numeroLdv, testo(0), testo(1),
+            dal ? u" del "_s + dataBreve(*dal) : QString());
+    } catch (const ErroreDatabase&) {
+        return {};
+    }
+}
+
 } // namespace
+
+QString rifiutoGiaInGiacenza()
+{
+    return u"Giacenza esistente impossibile inserirla in database."_s;
+}
 
 Ammissione ControlloInserimento(Connessione& connessione, const QString& numeroLdv, QDate dataLdv)
 {
@@ -109,9 +136,16 @@ Ammissione ControlloInserimento(Connessione& connessione, const QString& numeroL
 QString InserisciGiacenza(Connessione& schermo, const Accesso& accesso, const DatiGiacenza& dati)
 {
     const Riga riga = componiRiga(dati);
-    return conTentativi(
-        [&] { return inUnaTransazione(schermo, accesso, riga, dati); },
-        [](const ErroreDatabase& errore) { return numeroPreso(errore) || perConcorrenza(errore); });
+    try {
+        return conTentativi(
+            [&] { return inUnaTransazione(schermo, accesso, riga, dati); },
+            [](const ErroreDatabase& errore) { return numeroPreso(errore) || perConcorrenza(errore); });
+    } catch (const ErroreDatabase& errore) {
+        if (perDoppione(errore))
+            if (const QString tenuta = giaTenuta(schermo, dati); !tenuta.isEmpty())
+                throw ErroreGiaInGiacenza(tenuta);
+        throw;
+    }
 }
 
 } // namespace giacenza

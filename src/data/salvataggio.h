@@ -18,6 +18,9 @@ enum class Ammissione : int
     sconosciuta = 4,   ///< there is no such waybill
 };
 
+/// What the operator hears of a waybill that is held already.
+QString rifiutoGiaInGiacenza();
+
 /// Reads the waybill's marks; only the first row counts. Throws ErroreDatabase.
 Ammissione ControlloInserimento(Connessione& connessione, const QString& numeroLdv, QDate dataLdv);
 
@@ -40,14 +43,22 @@ struct DatiGiacenza
     QString motivo = {};
 };
 
+/// The waybill is held by another held shipment, which the text names.
+class ErroreGiaInGiacenza : public Errore
+{
+public:
+    using Errore::Errore;
+};
+
 /// Adds the held shipment and links it on its waybill, in one transaction on a connection of its own; either
 /// both are in the database or neither.
 ///
 /// schermo: the screen's connection, on which the number is taken, outside the transaction: a failed save
 /// leaves a gap in the series. accesso: the way to the database. Who loses the race for a number, or a
 /// deadlock, tries again with the next one (conTentativi); who loses the answer to the confirmation looks
-/// whether it was done. Returns the number given. Throws ErroreDatabase, with nothing written, and
-/// ErroreEsitoIgnoto when nobody can say.
+/// whether it was done; who loses the race for the waybill looks who holds it. Returns the number given.
+/// Throws ErroreGiaInGiacenza and ErroreDatabase, with nothing written, and ErroreEsitoIgnoto when nobody can
+/// say.
 QString InserisciGiacenza(Connessione& schermo, const Accesso& accesso, const DatiGiacenza& dati);
 
 } // namespace giacenza

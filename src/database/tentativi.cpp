@@ -13,6 +13,12 @@ bool perConcorrenza(const ErroreDatabase& errore)
     return errore.sqlstate() == u"40001"_s || errore.codiceNativo() == stalloMariadb;
 }
 
+bool perDoppione(const ErroreDatabase& errore)
+{
+    constexpr int vincoloSqlite = 19; // its driver gives no SQLSTATE for it
+    return errore.sqlstate() == u"23000"_s || errore.codiceNativo() == vincoloSqlite;
+}
+
 bool perAttesaVana(const ErroreDatabase& errore)
 {
     return errore.codiceNativo() == codiceAttesaVana && errore.sqlstate() == u"40001"_s;

@@ -13,6 +13,9 @@ inline constexpr int ripetizioni = 5;
 /// certify it. It was rolled back, whatever the failing call was.
 bool perConcorrenza(const ErroreDatabase& errore);
 
+/// Whether the database refused a row because another one has its key.
+bool perDoppione(const ErroreDatabase& errore);
+
 /// The code with which a server tells a lock that was waited for too long; a node of a group, with SQLSTATE
 /// 40001, also that it could not find out what the others have confirmed, since one was just leaving or
 /// coming back.

@@ -3,6 +3,7 @@
 #include "base/forme.h"
 #include "base/impostazioni.h"
 #include "base/orologio.h"
+#include "base/spiegazioni.h"
 #include "dialogs/frmPorto.h"
 #include "ui_frmRiconsegna.h"
 
@@ -151,15 +152,22 @@ Contesto EmissioneRiconsegna::contesto(const Scelte& scelte,
             }};
 }
 
-void EmissioneRiconsegna::emetti(const LdvLetta& ldv, bool stampa, const Contesto& contesto)
+void EmissioneRiconsegna::emetti(const LdvLetta& ldv, bool stampa, Contesto contesto)
 {
     QString esito;
+    // Behind what the box says; shared, since an issuer may still tell something when the screen has gone.
+    const auto parole = std::make_shared<QString>();
+    contesto.racconta = [parole, mostra = contesto.racconta](const Racconto& racconto) {
+        *parole = racconto.dettaglio;
+        mostra(racconto);
+    };
     // The issuer's windows let the host work meanwhile.
     mSchermata.durante([&] {
         try {
             esito = EmettiRiconsegna(ldv, stampa, contesto);
         } catch (const Errore& errore) {
-            esito = errore.testo();
+            esito = spiega(errore);
+            *parole = errore.testo();
         }
     });
     if (esito.isEmpty())
@@ -167,7 +175,7 @@ void EmissioneRiconsegna::emetti(const LdvLetta& ldv, bool stampa, const Contest
             u"Nessuna lettera di vettura è stata emessa. Per riprovare uscire e riaprire questa schermata."_s;
     if (!mParti.dataGiacenza.giorno())
         esito += u" Manca la data della giacenza: non si sa di quale giacenza sia la LDV."_s;
-    mSchermata.stato(esito);
+    mSchermata.stato(esito, parole->isEmpty() ? QString() : esito + u' ' + *parole);
 }
 
 } // namespace giacenza

@@ -34,7 +34,7 @@ private:
     std::optional<ContoRiconsegne> contaGiacenza();
     bool accettato(const std::optional<ContoRiconsegne>& conto);
     Contesto contesto(const Scelte& scelte, const std::optional<ContoRiconsegne>& conto) const;
-    void emetti(const LdvLetta& ldv, bool stampa, const Contesto& contesto);
+    void emetti(const LdvLetta& ldv, bool stampa, Contesto contesto);
 
     Schermata& mSchermata;
     const Ui::frmRiconsegna& mUi;

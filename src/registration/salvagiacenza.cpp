@@ -66,7 +66,7 @@ bool SalvaGiacenza::ammessa(Ammissione ammissione)
     case Ammissione::ammessa:
         return true;
     case Ammissione::giaInGiacenza:
-        return rifiuto(u"Giacenza esistente impossibile inserirla in database."_s);
+        return rifiuto(rifiutoGiaInGiacenza());
     case Ammissione::riconsegna:
         return rifiuto(
             u"La spedizione selezionata è una riconsegna relativa ad una giacenza già esistente."_s);

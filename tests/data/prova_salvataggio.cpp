@@ -184,13 +184,44 @@ TEST_P(Salvataggio, UnoStalloSiRitentaFinoACinqueVolte)
     EXPECT_THAT(mBase.righe(tutte.arg(u"4712"_s)), ElementsAre());
 }
 
-TEST_P(Salvataggio, LaStessaSpedizioneNonEntraDueVolte)
+TEST_P(Salvataggio, LaStessaSpedizioneNonEntraDueVolteESiDiceChiLaTiene)
 {
     inserisce(dati());
-    EXPECT_THROW(inserisce(dati()), ErroreDatabase);
+    const QString terza =
+        u"Giacenza esistente impossibile inserirla in database. La LDV 4711 è già la giacenza 42/2026 del 20/11/2026."_s;
+    try {
+        inserisce(dati());
+        FAIL() << "held twice";
+    } catch (const ErroreGiaInGiacenza& tenuta) {
+        EXPECT_EQ(tenuta.testo(), terza);
+    }
     EXPECT_EQ(mBase.leggi(contatore), u"43"_s) << "no race: it is tried once";
     EXPECT_EQ(mBase.righe(tutte.arg(u"4711"_s)).size(), 1);
     EXPECT_EQ(mBase.leggi(u"select LERFGI from letve00f where lenrlv='4711'"_s), u"42"_s);
+}
+
+TEST_P(Salvataggio, ChiTieneLaSpedizioneESenzaDataOPiuNonSiLegge)
+{
+    inserisce(dati());
+    mBase.esegui(u"update giace00f set GIDTGI=null where GINRLV='4711';"_s);
+    const auto detto = [&] {
+        try {
+            return u"entra: "_s + inserisce(dati());
+        } catch (const ErroreGiaInGiacenza& tenuta) {
+            return tenuta.testo();
+        } catch (const ErroreDatabase& errore) {
+            return u"del database: "_s + errore.istruzione().left(11);
+        }
+    };
+    EXPECT_EQ(
+        detto(),
+        u"Giacenza esistente impossibile inserirla in database. La LDV 4711 è già la giacenza 42/2026."_s);
+    const Traccia prima = impostaTraccia([](EventoDati evento, const QString& testo) {
+        if (evento == EventoDati::istruzione && testo.startsWith(u"select GINRGI"_s))
+            throw ErroreDatabase(u"08S01"_s, 2013, u"Lost connection"_s, testo);
+    });
+    EXPECT_EQ(detto(), u"del database: insert into"_s) << "what the insert met with";
+    impostaTraccia(prima);
 }
 
 TEST_P(Salvataggio, UnValoreCheNonSiScriveNonCostaUnNumero)

@@ -30,7 +30,7 @@ void DeskDiProva::apriDesk(const std::function<void(desk::FinestraDesk& desk)>& 
 {
     mFinestra = std::make_unique<QMainWindow>();
     mDesk = new desk::FinestraDesk(
-        *mComponente, {mBase.stringa(), mCartella.filePath(u"g.ini"_s), {}},
+        *mComponente, {mStringa, mCartella.filePath(u"g.ini"_s), {}},
         [](const QString&, const std::function<void()>& apri) { apri(); }, mFinestra.get());
     if (prima)
         prima(*mDesk);

@@ -84,6 +84,7 @@ protected:
     static QStringList chiamate() { return giacenzaFinta().chiamate; }
 
     BancaDati mBase{GetParam()};
+    QString mStringa = mBase.stringa(); ///< by which a desk that is opened reaches it
     QTemporaryDir mCartella;
     QStringList mStampate;
     QString mRifiutata; ///< the document that the module does not print

@@ -191,7 +191,8 @@ TEST_F(Verifica, UnRifiutoPerUnaGara)
 TEST_F(Verifica, UnaChiaveDettaPresaCheNonLoE)
 {
     Voce presa = voce(Lavoro::registra, Esito::fallito);
-    presa.stato = u"C'è già una registrazione con la stessa chiave."_s;
+    presa.stato =
+        u"Giacenza esistente impossibile inserirla in database. La LDV 101003 è già la giacenza 7/2026."_s;
     mVoci << presa;
     EXPECT_THAT(smentiteOra(), IsEmpty());
     mVoci.last().ldv = ldvPropria(1, 3);

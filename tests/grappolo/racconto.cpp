@@ -93,7 +93,8 @@ QMap<QString, Racconto> racconta(const QList<Voce>& voci)
             aggiungiForse(racconto, voce);
             break;
         case Esito::fallito:
-            racconto.detteEsistente += voce.stato.contains(u"con la stessa chiave"_s) ? 1 : 0;
+            racconto.detteEsistente +=
+                voce.stato.startsWith(u"Giacenza esistente impossibile inserirla in database."_s) ? 1 : 0;
             break;
         }
     }

@@ -16,8 +16,10 @@ Stato& stato()
     return statoGuasti();
 }
 
+/// Of the thread that works with it; others add and take away theirs.
 Letta& letta(SQLHSTMT istruzione)
 {
+    const std::lock_guard chiuso(stato().blocco);
     return stato().istruzioni[istruzione];
 }
 

@@ -94,15 +94,17 @@ SQLRETURN passa(SQLHDBC collegamento, SQLHANDLE maniglia, const QString& testo, 
     return esito;
 }
 
-GuastiOdbc::GuastiOdbc()
+GuastiOdbc::GuastiOdbc(Fili fili)
 {
     const std::lock_guard chiuso(stato().blocco);
     if (stato().filo)
         throw std::logic_error("GuastiOdbc: one at a time");
     stato().filo = std::this_thread::get_id();
+    stato().fili = fili;
     stato().chiamate.clear();
     stato().scattati = 0;
     stato().quale = -1;
+    stato().testo.reset();
 }
 
 GuastiOdbc::~GuastiOdbc()
@@ -118,6 +120,13 @@ void GuastiOdbc::pianta(qsizetype quale, const Guasto& guasto, bool sempre)
     stato().quale = quale;
     stato().guasto = guasto;
     stato().sempre = sempre;
+}
+
+void GuastiOdbc::pianta(const QString& testo, qsizetype quale, const Guasto& guasto, bool sempre)
+{
+    const std::lock_guard chiuso(stato().blocco);
+    pianta(quale, guasto, sempre);
+    stato().testo = testo;
 }
 
 void GuastiOdbc::dopoOgni(std::function<void()> azione)

@@ -26,21 +26,31 @@ struct Guasto
     bool finisceTutto = false; ///< the database ends the transaction
 };
 
-/// Stands between the library and the ODBC driver while it lives: counts the calls of this thread that reach
-/// the database, and makes one of them fail. Below the tracer, which stands before a statement and so cannot
+/// Whose calls count.
+enum class Fili
+{
+    questo,
+    tutti, ///< of every thread, for what reads beside the window: their calls have no order
+};
+
+/// Stands between the library and the ODBC driver while it lives: counts the calls that reach the database,
+/// and makes one of them fail. Below the tracer, which stands before a statement and so cannot
 /// lose an answer; the library reads the failure from the driver's diagnostics, as it would the real one.
 ///
 /// The executable must be linked with the --wrap options of tests/guasti/CMakeLists.txt. One at a time.
 class GuastiOdbc
 {
 public:
-    GuastiOdbc();
+    explicit GuastiOdbc(Fili fili = Fili::questo);
     GuastiOdbc(const GuastiOdbc&) = delete;
     GuastiOdbc& operator=(const GuastiOdbc&) = delete;
     ~GuastiOdbc();
 
     /// The call of this number, from 0, fails. sempre: and each later one of the same text.
     void pianta(qsizetype quale, const Guasto& guasto, bool sempre = false);
+    /// The call of this text fails: the one of this number, from 0, among those of the same text. sempre: as
+    /// above.
+    void pianta(const QString& testo, qsizetype quale, const Guasto& guasto, bool sempre = false);
     /// Called after each call that was let through; what it sends itself is not counted.
     void dopoOgni(std::function<void()> azione);
 

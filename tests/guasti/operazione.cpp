@@ -97,7 +97,7 @@ QStringList statiDi(const Operazione& operazione, RegistroMessaggi& messaggi, QS
 {
     operazione.prepara();
     QStringList stati = {operazione.righe()};
-    GuastiOdbc guasti;
+    GuastiOdbc guasti(operazione.fili);
     guasti.dopoOgni([&] {
         const QString ora = operazione.righe();
         if (ora != stati.last())
@@ -132,13 +132,17 @@ public:
         : mOperazione(operazione), mMessaggi(messaggi), mStati(stati)
     {}
 
-    void prova(qsizetype chiamata, const Classe& classe)
+    void prova(const QStringList& chiamate, qsizetype quale, const Classe& classe)
     {
         mOperazione.prepara();
         mMessaggi.prendi();
         {
-            GuastiOdbc guasti;
-            guasti.pianta(chiamata, classe.guasto, classe.sempre);
+            GuastiOdbc guasti(mOperazione.fili);
+            const QString& testo = chiamate.at(quale);
+            if (mOperazione.fili == Fili::tutti)
+                guasti.pianta(testo, chiamate.first(quale).count(testo), classe.guasto, classe.sempre);
+            else
+                guasti.pianta(quale, classe.guasto, classe.sempre);
             mOperazione.compi();
             EXPECT_GT(guasti.scattati(), 0) << "the failure never came";
         }
@@ -221,7 +225,7 @@ void provaOgniGuasto(const std::string& tipo, RegistroMessaggi& messaggi, const 
         for (const Classe& classe : classiDiGuasto(tipo)) {
             SCOPED_TRACE("call " + std::to_string(chiamata) + ", " + classe.nome + ": " +
                          chiamate.at(chiamata).toStdString());
-            caso.prova(chiamata, classe);
+            caso.prova(chiamate, chiamata, classe);
             ++guasti;
             if (testing::Test::HasFatalFailure())
                 return;
@@ -251,15 +255,14 @@ void provaOgniTaglio(TagliaConferma& rete, RegistroMessaggi& messaggi, const Ope
     std::cout << pacchetti << " packets, " << 2 * pacchetti << " cuts\n";
 }
 
-Cavo::Cavo(const BancaDati& base)
+Cavo::Cavo(const BancaDati& base) : mStringa(base.stringa())
 {
-    const QString stringa = base.stringa();
-    if (!stringa.contains(u"PORT="_s))
+    if (!mStringa.contains(u"PORT="_s))
         return;
-    const QString porta = stringa.section(u"PORT="_s, 1).section(u';', 0, 0);
+    const QString porta = mStringa.section(u"PORT="_s, 1).section(u';', 0, 0);
     mRete.emplace(porta.toUShort());
-    impostazioni().percorsoDatabase =
-        base.stringa().replace(u"PORT="_s + porta, u"PORT=%1"_s.arg(mRete->porta()));
+    mStringa.replace(u"PORT="_s + porta, u"PORT=%1"_s.arg(mRete->porta()));
+    impostazioni().percorsoDatabase = mStringa;
 }
 
 void Cavo::prova(const std::string& tipo, RegistroMessaggi& messaggi, const Operazione& operazione)

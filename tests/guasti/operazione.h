@@ -51,6 +51,8 @@ struct Operazione
     std::function<void(const Accaduto&)> riprova = {};
     /// Whether the screen shows it done; for what writes nothing.
     std::function<bool()> mostrata = [] { return true; };
+    /// Whose calls fail; compi must wait for those of other threads.
+    Fili fili = Fili::questo;
 };
 
 /// Runs an operation once, and notes each state that its transactions leave; then again and again, each
@@ -68,11 +70,15 @@ class Cavo
 public:
     explicit Cavo(const BancaDati& base);
 
+    /// The connection string that passes through it.
+    QString stringa() const { return mStringa; }
+
     /// Every failure of an operation, on the wire too where there is one.
     void prova(const std::string& tipo, RegistroMessaggi& messaggi, const Operazione& operazione);
 
 private:
     std::optional<TagliaConferma> mRete;
+    QString mStringa;
 };
 
 } // namespace giacenza::prove

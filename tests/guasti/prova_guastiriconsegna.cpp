@@ -74,7 +74,8 @@ bool vera(const Accaduto& a)
                "di vettura è stata emessa."_s) ||
            (a.detto(u"La nuova lettera di vettura non è stata emessa: il database non ha accettato "
                     "l'operazione.\n\n"_s) &&
-            a.detto(a.classe.guasto.testo));
+            a.dettoIlGuasto() && a.stato.contains(a.classe.guasto.testo) &&
+            !a.scatole.front().contains(a.classe.guasto.testo));
 }
 
 TEST_P(GuastiRiconsegna, OgniIstruzioneDellEmissione)
@@ -82,7 +83,7 @@ TEST_P(GuastiRiconsegna, OgniIstruzioneDellEmissione)
     prova({.prepara = [this] { rimetti(); },
            .compi = [this] { emetti({.stampa = false}); },
            .righe = [this] { return emesse(); },
-           .stato = [this] { return stato()->text(); },
+           .stato = [this] { return stato()->text() + u'\n' + stato()->toolTip(); },
            .vero = vera,
            .riprova =
                [this](const Accaduto& a) {

@@ -55,20 +55,27 @@ struct Stato
     std::map<SQLHANDLE, Guasto> risposte; ///< that the next question for diagnostics gets
 
     std::optional<std::thread::id> filo; ///< of whoever counts
+    Fili fili = Fili::questo;
     bool sospeso = false;
     QStringList chiamate;
     qsizetype quale = -1;
+    std::optional<QString> testo; ///< among whose calls quale counts; nothing: among all
     bool sempre = false;
     Guasto guasto;
     int scattati = 0;
     std::function<void()> dopoOgni;
 
-    bool conta() const { return filo == std::this_thread::get_id() && !sospeso; }
-    bool scatta(const QString& testo)
+    bool conta() const
     {
-        const qsizetype numero = chiamate.size() - 1;
-        return quale >= 0 && (numero == quale || (sempre && numero > quale &&
-                                                  senzaCifre(testo) == senzaCifre(chiamate.at(quale))));
+        return filo && !sospeso && (fili == Fili::tutti || filo == std::this_thread::get_id());
+    }
+    bool scatta(const QString& chiamata)
+    {
+        const qsizetype numero = (testo ? chiamate.count(*testo) : chiamate.size()) - 1;
+        if (quale < 0 || numero < quale || (testo && *testo != chiamata))
+            return false;
+        return numero == quale ||
+               (sempre && (testo || senzaCifre(chiamata) == senzaCifre(chiamate.at(quale))));
     }
 };
 

@@ -1,5 +1,7 @@
 // The save and its notice.
 
+#include "data/archivio.h"
+#include "data/salvataggio.h"
 #include "registration/registrazionediprova.h"
 
 #include "screens/campi.h"
@@ -129,6 +131,54 @@ TEST_P(RegistrazioneSalva, LaSpedizionePresaDaUnAltraPostazioneDopoLaRicercaERif
     clicca("cmdSalva");
     EXPECT_THAT(mMessaggi.testi(), ElementsAre(u"Giacenza esistente impossibile inserirla in database."_s));
     EXPECT_EQ(mBase.leggi(u"select count(*) from giace00f where GINRLV='4711'"_s), u"0"_s);
+}
+
+/// Two sessions: the other one saves, whole, when this one's check has passed and its transaction has begun.
+TEST_P(RegistrazioneSalva, ChiPerdeLaGaraPerLaSpedizioneSenteChiLaTiene)
+{
+    consegna(u"4711"_s);
+    Connessione altra = mBase.connessione();
+    bool salvata = false;
+    QStringList mandate;
+    const Traccia prima = impostaTraccia([&](EventoDati evento, const QString& testo) {
+        if (evento != EventoDati::istruzione)
+            return;
+        mandate << testo;
+        if (salvata || !testo.startsWith(u"select UltimoNumGiacenza"_s))
+            return;
+        salvata = true;
+        const DatiGiacenza sua = {.filiale = u"MI"_s,
+                                  .numeroLdv = u"4711"_s,
+                                  .dataLdv = QDate(2026, 11, 12),
+                                  .cliente = u"1001"_s,
+                                  .filialeGiacenza = u"BO"_s,
+                                  .giorniSosta = u"3"_s,
+                                  .dataGiacenza = QDate(2026, 11, 19),
+                                  .motivo = u"chiuso"_s};
+        EXPECT_EQ(InserisciGiacenza(altra, mBase.accesso(), sua), u"42"_s);
+    });
+    clicca("cmdSalva");
+    impostaTraccia(prima);
+    EXPECT_TRUE(salvata);
+    EXPECT_THAT(mMessaggi.prendi(), ElementsAre(dellApplicazione(
+                                        u"Impossibile aggiungere la nuova giacenza."_s, Stile::critico)));
+    EXPECT_EQ(
+        mostrato("lblStato"),
+        u"Giacenza esistente impossibile inserirla in database. La LDV 4711 è già la giacenza 42/2026 del 19/11/2026."_s);
+    EXPECT_EQ(mostrato("lblNrGia"), QString());
+    EXPECT_EQ(mandate.last(), u"select GINRGI, GIANGI, GIDTGI from giace00f where GIFILI='MI' and "
+                              "GINRLV='4711' and GIANLV=2026;"_s);
+    EXPECT_EQ(mBase.righe(u"select GINRGI, GIDTGI, LERFGI from giace00f join letve00f on ginrlv=lenrlv where "
+                          "GINRLV='4711'"_s),
+              (QList<QStringList>{{u"42"_s, u"2026-11-19"_s, u"42"_s}}));
+    EXPECT_THAT(mStampe, IsEmpty()) << "and no notice follows";
+    clicca("cmdSalva");
+    EXPECT_THAT(mMessaggi.prendi(),
+                ElementsAre(dellApplicazione(u"Giacenza esistente impossibile inserirla in database."_s,
+                                             Stile::avviso)));
+    consegna(u"4712"_s);
+    clicca("cmdSalva");
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(u"Giacenza aggiunta in database."_s)) << "the screen works";
 }
 
 TEST_P(RegistrazioneSalva, TuttiINulliSiMostranoESiSalvano)

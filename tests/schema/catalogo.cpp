@@ -154,13 +154,14 @@ std::vector<VoceCatalogo> emissione(const Campione& c, Dialetto dialetto)
     return voci;
 }
 
-/// What is asked after a confirmation that was cut off.
+/// What is asked after a save that failed.
 std::vector<VoceCatalogo> verifica(const Campione& c, Dialetto dialetto)
 {
     const Lettura come = dialetto == Dialetto::mariadb ? Lettura::conBlocco : Lettura::semplice;
     return {
         {u"giacenzaRegistrata"_s, giacenzaRegistrata(c.giacenza, c.spedizione.numero, come)},
         {u"legameRegistrato"_s, legameRegistrato(c.giacenza, c.spedizione.numero, c.spedizione.anno, come)},
+        {u"giacenzaCheTiene"_s, giacenzaCheTiene(c.spedizione)},
     };
 }
 

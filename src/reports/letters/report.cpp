@@ -78,6 +78,20 @@ void Report::notifica(int codice, const QString& descrizione)
     Error(codice, mostra);
 }
 
+/// To be called in a handler.
+void Report::notificaQuesto()
+{
+    try {
+        throw;
+    } catch (const ErroreDatabase& errore) {
+        notifica(erroreDatabase, errore.testo());
+    } catch (const ErroreConversione& errore) {
+        notifica(erroreConversione, errore.testo());
+    } catch (const Errore& errore) {
+        notifica(erroreFormato, errore.testo());
+    }
+}
+
 void Report::ricomincia()
 {
     mCronometro = mFabbricaCronometro ? mFabbricaCronometro() : cronometroVero();
@@ -91,7 +105,7 @@ bool Report::prosegue()
 }
 
 std::unique_ptr<DocumentoReport> Report::componi(const RichiestaDocumento& richiesta, QDate oggi,
-                                                 QWidget* padre)
+                                                 QWidget* padre, Guasti guasti)
 {
     mPadre = padre;
     ricomincia();
@@ -114,14 +128,10 @@ std::unique_ptr<DocumentoReport> Report::componi(const RichiestaDocumento& richi
                 return nullptr;
             composizione.aggiungi(riga, connessione);
         }
-    } catch (const ErroreDatabase& errore) {
-        notifica(erroreDatabase, errore.testo());
-        return nullptr;
-    } catch (const ErroreConversione& errore) {
-        notifica(erroreConversione, errore.testo());
-        return nullptr;
-    } catch (const Errore& errore) {
-        notifica(erroreFormato, errore.testo());
+    } catch (const Errore&) {
+        if (guasti == Guasti::lanciati)
+            throw;
+        notificaQuesto();
         return nullptr;
     }
     return std::make_unique<DocumentoReport>(

@@ -36,13 +36,21 @@ public:
     /// The description that Error() shows.
     void setDescrizioneErrore(const QString& descrizione) { mDescrizioneErrore = descrizione; }
 
+    /// What becomes of a field that cannot be formatted.
+    enum class Guasti
+    {
+        mostrati, ///< Error() shows it
+        lanciati, ///< for whoever tells it in another way
+    };
+
     /// Reads the rows and lays the report out.
     ///
     /// oggi: the day on which the report is made. padre: over which questions and errors open; may be null.
-    /// Nothing when the operator gave the print up, or when a field could not be formatted, which Error() has
-    /// then shown. Throws Errore when the key names no held shipment, ErroreDatabase when the rows cannot be
-    /// read.
-    std::unique_ptr<DocumentoReport> componi(const RichiestaDocumento& richiesta, QDate oggi, QWidget* padre);
+    /// Nothing when the operator gave the print up, or when a field could not be formatted and was shown.
+    /// Throws Errore when the key names no held shipment, ErroreDatabase when the rows cannot be read, and
+    /// what a field's formatting throws where guasti says so.
+    std::unique_ptr<DocumentoReport> componi(const RichiestaDocumento& richiesta, QDate oggi, QWidget* padre,
+                                             Guasti guasti = Guasti::mostrati);
 
     /// Who counts the seconds; an empty function is the real clock.
     void setCronometro(std::function<Cronometro()> fabbrica) { mFabbricaCronometro = std::move(fabbrica); }
@@ -59,6 +67,7 @@ private:
     void ricomincia();
     bool prosegue();
     void notifica(int codice, const QString& descrizione);
+    void notificaQuesto();
 
     Definizione mDefinizione;
     QPointer<QWidget> mPadre;

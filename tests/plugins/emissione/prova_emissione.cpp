@@ -68,7 +68,7 @@ protected:
     /// What the operator is told, once, when nothing is issued, or nothing printed; esito: what the issuer
     /// then returns.
     QString racconto(const std::function<QString()>& emissione, Tono tono = Tono::guasto,
-                     const QString& esito = {})
+                     const QString& esito = {}, QString* dettaglio = nullptr)
     {
         std::vector<Racconto> racconti;
         mContesto.racconta = [&](const Racconto& racconto) { racconti.push_back(racconto); };
@@ -78,6 +78,10 @@ protected:
         if (racconti.empty())
             return {};
         EXPECT_EQ(racconti.front().tono, tono);
+        EXPECT_EQ(racconti.front().dettaglio.isEmpty(), dettaglio == nullptr)
+            << racconti.front().dettaglio.toStdString();
+        if (dettaglio)
+            *dettaglio = racconti.front().dettaglio;
         return racconti.front().testo;
     }
     static QString pagina(const QString& file)
@@ -186,10 +190,16 @@ TEST_P(Emissione, UnDatabaseCheNonRispondeSiDice)
     Connessione connessione = mBase.connessione();
     const LdvDiProva ldv(connessione, u"4711"_s);
     mStringa = u"DRIVER={Inesistente}"_s;
-    EXPECT_TRUE(
-        racconto([&] { return emetti(ldv); })
-            .startsWith(u"La nuova lettera di vettura non è stata emessa: il database non ha accettato "
-                        "l'operazione.\n\n"_s));
+    QString parole;
+    EXPECT_EQ(racconto([&] { return emetti(ldv); }, Tono::guasto, {}, &parole),
+              u"La nuova lettera di vettura non è stata emessa: il database non ha accettato "
+              "l'operazione.\n\nManca il driver ODBC dell'archivio."_s);
+    EXPECT_THAT(parole.toStdString(), testing::HasSubstr("Inesistente")) << "the driver manager's words";
+    EXPECT_THAT(avvertimenti([&] { EXPECT_EQ(emetti(ldv), QString()); }),
+                ElementsAre(testing::Truly([&](const QString& riga) {
+                    return riga.endsWith(u"\n\nManca il driver ODBC dell'archivio.\n"_s + parole);
+                })))
+        << "the log has both";
 }
 
 TEST_P(Emissione, UnaStampaFallitaDiceIlNumeroEmesso)
@@ -199,10 +209,12 @@ TEST_P(Emissione, UnaStampaFallitaDiceIlNumeroEmesso)
     mBase.esegui(GetParam() == "sqlite" ? u"alter table filiali rename to altrove;"_s
                                         : u"drop table filiali;"_s);
     const LdvDiProva ldv(connessione, u"4711"_s);
-    EXPECT_TRUE(
-        racconto([&] { return emetti(ldv); }, Tono::guasto,
-                 u"Emessa la lettera di vettura 4716/2026, non stampata."_s)
-            .startsWith(u"La lettera di vettura 4716/2026 è stata emessa, ma non è stata stampata.\n\n"_s));
+    QString parole;
+    EXPECT_EQ(racconto([&] { return emetti(ldv); }, Tono::guasto,
+                       u"Emessa la lettera di vettura 4716/2026, non stampata."_s, &parole),
+              u"La lettera di vettura 4716/2026 è stata emessa, ma non è stata stampata.\n\n"
+              "Nell'archivio manca una tabella."_s);
+    EXPECT_THAT(parole.toStdString(), testing::HasSubstr("filiali")) << "the driver's words";
     EXPECT_EQ(emesse(), u"1"_s);
     EXPECT_TRUE(QDir(mImp).entryList(QDir::Files).isEmpty());
 }
