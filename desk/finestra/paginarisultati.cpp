@@ -77,6 +77,7 @@ PaginaRisultati::PaginaRisultati(QWidget* padre)
 
 void PaginaRisultati::mostra(EsitoRicerca esito)
 {
+    mCaso.reset(); // of an earlier search: it is read anew, or nothing is done with it
     riempi(std::move(esito));
     mTabella->setCurrentIndex(mModello->index(0, 0));
     annuncia(mTitolo);
