@@ -3,10 +3,10 @@
 #include "base/filelimitato.h"
 #include "base/lettoreini.h"
 #include "base/testofile.h"
+#include "comune/archivio.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 using namespace Qt::StringLiterals;
 
@@ -143,11 +143,10 @@ QString scriviImpostazioni(const QString& file, const std::vector<QString>& valo
                        QDir::toNativeSeparators(file));
         if (!QFileInfo(file).absoluteDir().mkpath(u"."_s))
             return u"La cartella delle impostazioni non si può creare."_s;
-        QSaveFile nuovo(file);
-        if (!nuovo.open(QIODevice::WriteOnly) || nuovo.write(contenuto) < 0 || !nuovo.commit())
-            return u"Le impostazioni non si possono scrivere in \"%1\": %2."_s.arg(
-                QDir::toNativeSeparators(file), nuovo.errorString());
-        return {};
+        const QString perche = giacenza::comune::sostituisci(file, contenuto);
+        return perche.isEmpty() ? QString()
+                                : u"Le impostazioni non si possono scrivere in \"%1\": %2."_s.arg(
+                                      QDir::toNativeSeparators(file), perche);
     } catch (const std::exception& errore) {
         return QString::fromUtf8(errore.what());
     }

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
+#include <QSaveFile>
 #include <QScopeGuard>
 
 #include <cerrno>
@@ -118,6 +119,17 @@ QString archivia(const QString& cartella, const QString& nome, const QByteArray&
     }
     togli.dismiss();
     return percorso;
+}
+
+QString sostituisci(const QString& percorso, const QByteArray& byte)
+{
+    QSaveFile file(percorso);
+    errno = 0;
+    // The toolkit's commit() overlooks what fails when its buffer is emptied: a full disk would leave an
+    // empty file.
+    const bool scritto = file.open(QIODevice::WriteOnly) && file.write(byte) == byte.size() && file.flush() &&
+                         ::fsync(file.handle()) == 0 && file.commit();
+    return scritto ? QString() : motivo(errno);
 }
 
 } // namespace giacenza::comune

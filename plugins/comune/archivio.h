@@ -18,4 +18,8 @@ QString nomeSicuro(const QString& nome);
 QString archivia(const QString& cartella, const QString& nome, const QByteArray& byte,
                  const QString& estensione = QStringLiteral(".pdf"));
 
+/// Puts a file in the place of the one that is there, if any: whole, or the one of before stays. Returns why
+/// it did not work, in Italian, to go on a sentence; empty when it did.
+QString sostituisci(const QString& percorso, const QByteArray& byte);
+
 } // namespace giacenza::comune

@@ -25,16 +25,6 @@ void racconta(EventoDati evento, const QString& testo)
     chiamata(evento, testo);
 }
 
-/// The file that a connection string of SQLite's driver names; empty for another driver, and for one in
-/// memory.
-QString fileSqlite(const QString& stringa)
-{
-    if (!voceConnessione(stringa, u"DRIVER").contains("sqlite"_L1, Qt::CaseInsensitive))
-        return {};
-    const QString file = voceConnessione(stringa, u"Database").toString();
-    return file.startsWith(u':') ? QString() : file;
-}
-
 } // namespace
 
 Accesso accessoHost()

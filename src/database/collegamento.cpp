@@ -2,17 +2,30 @@
 
 #include "database/istruzioneodbc.h"
 #include "database/sessione.h"
+#include "database/stringaconnessione.h"
+
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
 namespace giacenza::odbc {
 
+namespace {
+
+bool scrivibile(const QString& file)
+{
+    return !QFileInfo::exists(file) || QFileInfo(file).isWritable();
+}
+
+} // namespace
+
 Collegamento::Collegamento(const Accesso& accesso, const Limiti& limiti)
-    : mTraccia(accesso.traccia), mLimiti(limiti)
+    : mTraccia(accesso.traccia), mLimiti(limiti), mFile(fileSqlite(accesso.stringa))
 {
     racconta(EventoDati::apertura);
     verifica(SQLAllocHandle(SQL_HANDLE_DBC, ambiente(), &mManiglia), SQL_HANDLE_ENV, ambiente());
     try {
+        mSolaLettura = !mFile.isEmpty() && !scrivibile(mFile);
         connetti(accesso.stringa);
         mDialetto = dialettoDi(mManiglia);
         mNelGruppo = preparaSessione(mManiglia, mDialetto, mLimiti);
@@ -99,6 +112,14 @@ void Collegamento::riconosciAttesaVana(const ErroreDatabase& errore) const
         throw ErroreDatabase(u"40001"_s, codiceAttesaVana, errore.testo(), errore.istruzione());
 }
 
+void Collegamento::riconosciSolaLettura(const ErroreDatabase& errore) const
+{
+    // The journal of an archive needs files beside it also for reading.
+    if (mSolaLettura && errore.testo().contains("unable to open database"_L1))
+        throw ErroreDatabase(errore.sqlstate(), errore.codiceNativo(),
+                             u"%1 (readonly database)"_s.arg(errore.testo()), errore.istruzione());
+}
+
 void Collegamento::confermaAutomatica(bool accesa)
 {
     verifica(SQLSetConnectAttr(mManiglia, SQL_ATTR_AUTOCOMMIT,
@@ -129,6 +150,10 @@ bool Collegamento::viva() noexcept
         SQLGetConnectAttr(mManiglia, SQL_ATTR_CONNECTION_DEAD, &morta, sizeof morta, nullptr);
     // A driver that does not say is believed until a statement fails.
     if (SQL_SUCCEEDED(esito) && morta == SQL_CD_TRUE)
+        mPerduto = true;
+    // SQLite has its file as the disk was when it opened it, and goes on so when the disk can be written
+    // again.
+    if (mSolaLettura && scrivibile(mFile))
         mPerduto = true;
     return aperto();
 }

@@ -62,6 +62,7 @@ public:
         } catch (const ErroreDatabase& errore) {
             riconosciPerdita(errore);
             riconosciAttesaVana(errore);
+            riconosciSolaLettura(errore);
             throw;
         }
     }
@@ -78,6 +79,8 @@ private:
     void terminaTransazione(SQLSMALLINT come);
     void completaLetture() noexcept;
     void riconosciPerdita(const ErroreDatabase& errore) noexcept;
+    /// Throws what a file that does not open is for want of the right to write it.
+    void riconosciSolaLettura(const ErroreDatabase& errore) const;
     /// Throws what a wait for the group that was broken off is: something that is tried again. The server
     /// tells it as it tells a lock that was waited for too long.
     void riconosciAttesaVana(const ErroreDatabase& errore) const;
@@ -86,6 +89,8 @@ private:
     SQLHDBC mManiglia = SQL_NULL_HDBC;
     Traccia mTraccia;
     Limiti mLimiti;
+    QString mFile;             ///< of SQLite's
+    bool mSolaLettura = false; ///< its file could not be written when it was opened
     Dialetto mDialetto = Dialetto::altro;
     bool mNelGruppo = false;
     bool mPerduto = false;

@@ -1,5 +1,7 @@
 #include "database/stringaconnessione.h"
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza {
 
 // By hand: it is asked at each opening, and making a pattern takes longer than a statement.
@@ -21,6 +23,14 @@ QStringView voceConnessione(QStringView stringa, QStringView chiave)
         stringa = resto;
     }
     return {};
+}
+
+QString fileSqlite(const QString& stringa)
+{
+    if (!voceConnessione(stringa, u"DRIVER").contains("sqlite"_L1, Qt::CaseInsensitive))
+        return {};
+    const QString file = voceConnessione(stringa, u"Database").toString();
+    return file.startsWith(u':') ? QString() : file;
 }
 
 } // namespace giacenza

@@ -193,7 +193,7 @@ Descrittore scriviDescrittore(const QString& cartella, const QByteArray& descriz
     if (!file.open(QIODevice::WriteOnly) || file.write(byte) != byte.size() ||
         !file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup |
                              QFileDevice::ReadOther) ||
-        !file.commit())
+        !file.flush() || !file.commit()) // commit() overlooks what fails when the buffer is emptied
         nonScritto(percorso, file.errorString());
     return descrittore;
 }
