@@ -7,25 +7,21 @@ using namespace Qt::StringLiterals;
 
 namespace giacenza::desk {
 
-namespace {
-
-/// An open connection: the one of before when it still answers.
-void prepara(std::unique_ptr<Connessione>& connessione, const Accesso& accesso)
+void ArchivioDesk::prepara(const Accesso& accesso)
 {
-    if (connessione && connessione->aperta() && connessione->viva())
+    if (mConnessione && accesso.stringa == mStringa && mConnessione->aperta() && mConnessione->viva())
         return;
-    connessione = std::make_unique<Connessione>();
-    connessione->apri(accesso);
+    mConnessione = std::make_unique<Connessione>();
+    mConnessione->apri(accesso);
+    mStringa = accesso.stringa;
 }
-
-} // namespace
 
 void ArchivioDesk::chiedi(const Accesso& accesso, std::function<std::function<void()>(Connessione&)> domanda)
 {
     mSfondo.esegui([this, accesso, domanda = std::move(domanda), questa = ++mDomanda] {
         std::function<void()> risposta;
         try {
-            prepara(mConnessione, accesso);
+            prepara(accesso);
             risposta = domanda(*mConnessione);
         } catch (const Errore& errore) {
             mConnessione.reset();
@@ -78,7 +74,7 @@ void ArchivioDesk::leggiCaso(const Sguardo& sguardo, const ChiaveGiacenza& chiav
         if (questo != mCasoChiesto)
             return;
         try {
-            prepara(mConnessione, sguardo.accesso);
+            prepara(sguardo.accesso);
             const auto catena =
                 leggiCatena(*mConnessione, chiave, sguardo.cartelle, sguardo.oggi, sguardo.giorniFerma);
             if (catena)
@@ -101,7 +97,7 @@ void ArchivioDesk::leggiFiliali(const Accesso& accesso)
     mSfondo.esegui([this, accesso] {
         std::vector<Filiale> filiali;
         try {
-            prepara(mConnessione, accesso);
+            prepara(accesso);
             Recordset riga;
             riga.apri(*mConnessione, istruzioni::elencoFiliali());
             for (; !riga.eof(); riga.successivo())

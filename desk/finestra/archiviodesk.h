@@ -56,6 +56,8 @@ Q_SIGNALS:
     void filialiFallite(const QString& testo, const QString& dettaglio);
 
 private:
+    /// In the thread: an open connection to that archive, the one of before when it still answers.
+    void prepara(const Accesso& accesso);
     void chiedi(const Accesso& accesso, std::function<std::function<void()>(Connessione&)> domanda);
     std::function<void()> risposta(const Sguardo& sguardo, const ChiaveGiacenza& chiave,
                                    Connessione& connessione);
@@ -63,6 +65,7 @@ private:
     quint64 mDomanda = 0;
     std::atomic<quint64> mCasoChiesto = 0;
     std::unique_ptr<Connessione> mConnessione; ///< of the thread's
+    QString mStringa;                          ///< that it was opened with
     Sfondo mSfondo;                            ///< last: it ends before what its work uses
 };
 

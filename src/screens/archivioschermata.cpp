@@ -1,5 +1,6 @@
 #include "screens/archivioschermata.h"
 
+#include "base/impostazioni.h"
 #include "data/archivio.h"
 #include "database/recordset.h"
 
@@ -14,7 +15,9 @@ ArchivioSchermata::ArchivioSchermata(QWidget* schermata) : QObject(schermata), m
 Connessione& ArchivioSchermata::connessione()
 {
     attendi();
-    mConnessione.apri(accessoHost());
+    const Accesso accesso = accessoHost();
+    mConnessione.apri(accesso);
+    mStringa = accesso.stringa;
     return mConnessione;
 }
 
@@ -31,7 +34,9 @@ void ArchivioSchermata::attendi()
         mAttesa.emplace(mRiga);
     // Whatever runs the loop next ends the operation: the way back from the handler, a message, a dialog.
     QMetaObject::invokeMethod(this, &ArchivioSchermata::finisci, Qt::QueuedConnection);
-    if (mConnessione.aperta() && !mConnessione.viva())
+    // What an operation opens besides goes to the archive that the host names now: all of it must be of one.
+    const bool altrove = mStringa != impostazioni().percorsoDatabase;
+    if (mConnessione.aperta() && (altrove || !mConnessione.viva()))
         mConnessione.chiudi();
 }
 

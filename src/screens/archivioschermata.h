@@ -12,8 +12,9 @@ class QWidget;
 namespace giacenza {
 
 /// A screen's connection, for one operation after another. An operation is what the screen does from one turn
-/// of the event loop to the next. At its start a connection that died meanwhile is replaced, without a word,
-/// and the screen shows that it waits: by the pointer, and by its line (Attesa).
+/// of the event loop to the next. At its start a connection that died meanwhile, or that is not the one the
+/// host names any more, is replaced, without a word, and the screen shows that it waits: by the pointer, and
+/// by its line (Attesa).
 class ArchivioSchermata : public QObject
 {
     Q_OBJECT
@@ -39,6 +40,7 @@ private:
     QWidget* mSchermata;
     QLabel* mRiga = nullptr;
     Connessione mConnessione;
+    QString mStringa; ///< that it was opened with
     std::optional<Attesa> mAttesa;
     bool mInOperazione = false;
 };
