@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <clocale>
 #include <xlsxwriter.h>
 
 using namespace Qt::StringLiterals;
@@ -22,6 +23,28 @@ void pretendi(lxw_error esito)
         throw Errore(
             u"Impossibile comporre il foglio di calcolo: %1."_s.arg(QString::fromUtf8(lxw_strerror(esito))));
 }
+
+/// While it lives the C library writes numbers with a point in this thread: the workbook's writer leaves them
+/// to it, and a decimal comma is no number in a workbook.
+class ConIlPunto
+{
+public:
+    ConIlPunto()
+        : mPunto(::newlocale(LC_NUMERIC_MASK, "C", ::duplocale(::uselocale(nullptr)))),
+          mPrima(::uselocale(mPunto))
+    {}
+    ConIlPunto(const ConIlPunto&) = delete;
+    ConIlPunto& operator=(const ConIlPunto&) = delete;
+    ~ConIlPunto()
+    {
+        ::uselocale(mPrima);
+        ::freelocale(mPunto);
+    }
+
+private:
+    locale_t mPunto;
+    locale_t mPrima;
+};
 
 /// A workbook in a file of its own while it is written.
 class Cartella
@@ -164,6 +187,7 @@ double larghezzaDi(const QString& titolo)
 
 QByteArray estrattoXlsx(const Estratto& estratto)
 {
+    const ConIlPunto punto;
     Cartella cartella;
     const QStringList titoli = titoliEstratto();
     cartella.intesta(titoli);
