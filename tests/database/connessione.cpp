@@ -45,7 +45,8 @@ TEST_P(Connessioni, eseguonoAncheCioCheDaRighe)
 {
     creaTabella();
     Connessione connessione = mBase.amministratore();
-    const QString istruzione = u"insert into prova (id) values (%1) returning id"_s;
+    // In capitals: the MariaDB driver looks for its words by the locale, and in the Turkish one an i is no I.
+    const QString istruzione = u"INSERT INTO prova (id) VALUES (%1) RETURNING id"_s;
     connessione.esegui(istruzione.arg(1));
     connessione.esegui(istruzione.arg(2));
     Comando comando(connessione, istruzione.arg(u"?"_s));
