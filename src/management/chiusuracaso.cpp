@@ -39,7 +39,6 @@ void ChiusuraCaso::ChiudiGiacenza()
 
 void ChiusuraCaso::scrivi(const ChiaveGiacenza& caso)
 {
-    mParti.dataGiacenza.riconta();
     const QString giorni = testo(mUi.barGiorniSosta);
     // Before the date is read, on a connection of its own: the wait is shown from here on.
     mSchermata.attendi();

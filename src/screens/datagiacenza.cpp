@@ -35,16 +35,9 @@ std::optional<QDate> DataGiacenza::giorno() const
 
 void DataGiacenza::CalcolaGiorniSosta()
 {
-    mContatiIl = oggi();
     if (const auto inizio = giorno())
         scrivi(mControlli.giorniSosta,
                QString::number(giorniSosta(*inizio, leggiData(testo(mControlli.dataBuonFine)), oggi())));
-}
-
-void DataGiacenza::riconta()
-{
-    if (mContatiIl.isValid() && mContatiIl != oggi())
-        CalcolaGiorniSosta();
 }
 
 void DataGiacenza::avverti()

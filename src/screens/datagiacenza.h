@@ -31,10 +31,6 @@ public:
     /// Writes the storage days into their bar: nothing when the field holds no date.
     void CalcolaGiorniSosta();
 
-    /// The same, if the day is another one than when they were last worked out: the screen stood open over
-    /// midnight.
-    void riconta();
-
     /// Whether the field holds no date though something stands in it; the message was then shown.
     bool rifiutata();
 
@@ -48,7 +44,6 @@ private:
     Schermata& mSchermata;
     Controlli mControlli;
     Avvertenza mAvvertenza;
-    QDate mContatiIl;
 };
 
 } // namespace giacenza

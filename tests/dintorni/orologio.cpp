@@ -137,21 +137,21 @@ TEST_P(OrologioRegistrazione, IlVentinoveFebbraio)
     EXPECT_EQ(mostrato("barGiorniSosta"), u"1"_s);
 }
 
-TEST_P(OrologioGestione, LaChiusuraDopoLaMezzanotteHaIGiorniDelGiornoCheScrive)
+TEST_P(OrologioGestione, LaChiusuraDopoLaMezzanotteHaIGiorniCheSiVedono)
 {
     mBase.esegui(u"update giace00f set GIDTGI='2026-12-20', GIDTAV='2026-12-22' where GINRGI='39';"_s);
     richiama(u"39"_s, u"20122026"_s);
     EXPECT_EQ(mostrato("barGiorniSosta"), u"11"_s);
     segna(u"2027-01-01 00:10:00"_s);
     clicca("cmdBuonFine");
-    // 12 days, 7 of them charged at 1.50: less than the least.
-    EXPECT_EQ(caso(u"GIDTBF,GIGGSO,FissoGiacenza"_s, u"39"_s).section(u'|', 0, 1), u"2027-01-01|12"_s);
-    EXPECT_EQ(mostrato("barGiorniSosta"), u"12"_s);
+    // What stood on the screen when the operator pressed, 11 days, is what is written and charged.
+    EXPECT_EQ(caso(u"GIDTBF,GIGGSO,FissoGiacenza"_s, u"39"_s).section(u'|', 0, 1), u"2027-01-01|11"_s);
+    EXPECT_EQ(mostrato("barGiorniSosta"), u"11"_s);
     EXPECT_EQ(mostrato("lblDataBuonFine"), u"01/01/2027"_s);
     // The first closure's day and days stay.
     segna(u"2027-02-01 10:00:00"_s);
     clicca("cmdBuonFine");
-    EXPECT_EQ(caso(u"GIDTBF,GIGGSO"_s, u"39"_s), u"2027-01-01|12"_s);
+    EXPECT_EQ(caso(u"GIDTBF,GIGGSO"_s, u"39"_s), u"2027-01-01|11"_s);
 }
 
 TEST_P(OrologioGestione, LAvvisoDopoLaMezzanotteEDelGiornoNuovo)
