@@ -47,9 +47,16 @@ function(giacenza_stanza nome stanza)
     giacenza_porta(${nome} ${stanza} PUBLIC)
 endfunction()
 
-# giacenza_libreria(NAME sources...): a static, position-independent library of ours.
+# giacenza_libreria(NAME sources...): a static, position-independent library of ours. With GIACENZA_STANZE_CONDIVISE it is a
+# shared one that shows everything, so that tools/mutazioni can put a changed one in its place without linking any test.
 function(giacenza_libreria nome)
-    add_library(${nome} STATIC ${ARGN})
+    if(GIACENZA_STANZE_CONDIVISE)
+        add_library(${nome} SHARED ${ARGN})
+        set_target_properties(${nome} PROPERTIES CXX_VISIBILITY_PRESET default C_VISIBILITY_PRESET default
+            VISIBILITY_INLINES_HIDDEN OFF)
+    else()
+        add_library(${nome} STATIC ${ARGN})
+    endif()
     target_link_libraries(${nome} PRIVATE giacenza_opzioni PUBLIC giacenza_interfacce)
     set_target_properties(${nome} PROPERTIES LINKER_LANGUAGE CXX)
 endfunction()

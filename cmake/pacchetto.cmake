@@ -9,8 +9,11 @@ configure_package_config_file(cmake/giacenzaConfig.cmake.in ${PROJECT_BINARY_DIR
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/cmake/giacenzaConfigVersion.cmake
     COMPATIBILITY SameMajorVersion)
 
-install(EXPORT giacenza NAMESPACE giacenza:: FILE giacenzaTargets.cmake DESTINATION ${cartella_pacchetto}
-    COMPONENT sviluppo)
+# What is built for tools/mutazioni is never installed, and its library needs rooms that no package holds.
+if(NOT GIACENZA_STANZE_CONDIVISE)
+    install(EXPORT giacenza NAMESPACE giacenza:: FILE giacenzaTargets.cmake DESTINATION ${cartella_pacchetto}
+        COMPONENT sviluppo)
+endif()
 install(FILES ${PROJECT_BINARY_DIR}/cmake/giacenzaConfig.cmake ${PROJECT_BINARY_DIR}/cmake/giacenzaConfigVersion.cmake
     DESTINATION ${cartella_pacchetto} COMPONENT sviluppo)
 

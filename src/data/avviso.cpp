@@ -24,7 +24,7 @@ StatoAvviso LeggiDatiAvviso(const Accesso& accesso, const ChiaveCaso& chiave)
     connessione.apri(accesso);
     Recordset stato;
     stato.apri(connessione, istruzione);
-    if (stato.bof() || stato.eof())
+    if (stato.eof())
         return {};
     return {stato.valore(0).value_or(QString()), stato.valore(1).value_or(QString())};
 }

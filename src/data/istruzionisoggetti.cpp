@@ -44,7 +44,6 @@ QString modelloSoggetti(const QString& testo, bool interna)
     // Not the backslash: one of the databases reads it in literals, according to the session's mode.
     constexpr QChar protezione(u'!');
     QString modello = interna ? u"%"_s : QString();
-    modello.reserve(testo.size() + 2);
     for (const QChar carattere : testo) {
         if (carattere == u'%' || carattere == u'_' || carattere == protezione) {
             modello += protezione;

@@ -21,7 +21,7 @@ ContoRiconsegne ContaRiconsegne(Connessione& connessione, const ChiaveGiacenza& 
 {
     Recordset legate;
     legate.apri(connessione, istruzioni::riconsegne(chiave));
-    if (legate.bof() || legate.eof())
+    if (legate.eof())
         return {EsitoRiconsegne::inesistente};
     const auto precedenti = static_cast<qint16>(ContaRecord(legate) - 1);
     if (eData(legate.valore(u"GIDTBF"_s).value_or(QString()).left(10)))

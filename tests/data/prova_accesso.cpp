@@ -60,6 +60,7 @@ TEST_P(AccessoAllArchivio, IlFileCheMancaSiTrovaComunqueSiaScrittaLaStringa)
         } catch (const ErroreDatabase& errore) {
             EXPECT_EQ(errore.testo(), u"Il file dell'archivio non c'è: /manca/a b.db"_s);
             EXPECT_EQ(errore.sqlstate(), u"08001"_s);
+            EXPECT_EQ(errore.codiceNativo(), 0);
         }
     }
     for (const QString& stringa :
@@ -72,6 +73,24 @@ TEST_P(AccessoAllArchivio, IlFileCheMancaSiTrovaComunqueSiaScrittaLaStringa)
         else
             EXPECT_EQ(accessoHost().stringa, stringa);
     }
+}
+
+TEST_P(AccessoAllArchivio, LeTabelleCheMancanoSiDiconoTutteSenzaCodiceDelServer)
+{
+    for (const char16_t* tabella : {u"LETVE00F", u"giace00f", u"clien", u"filiali", u"forni", u"codicizona",
+                                    u"tabfatturazione", u"ekelvorqzt_tabge00f"})
+        mBase.esegui(u"create table %1 (una int);"_s.arg(QString::fromUtf16(tabella)));
+    Connessione connessione = mBase.connessione();
+    try {
+        verificaTabelle(connessione);
+        ADD_FAILURE() << "one is missing";
+    } catch (const ErroreDatabase& errore) {
+        EXPECT_EQ(errore.testo(), u"Nell'archivio mancano, o questo utente non le vede, le tabelle: porto"_s);
+        EXPECT_EQ(errore.sqlstate(), u"42S02"_s);
+        EXPECT_EQ(errore.codiceNativo(), 0);
+    }
+    mBase.esegui(u"create table porto (una int);"_s);
+    verificaTabelle(connessione);
 }
 
 TEST_P(AccessoAllArchivio, LaTracciaValeAncheSeArrivaAConnessioneAperta)

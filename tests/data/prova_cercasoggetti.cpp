@@ -1,6 +1,7 @@
 #include "data/cercasoggetti.h"
 #include "database/comando.h"
 #include "support/bancadati.h"
+#include "support/cadute.h"
 #include "support/stampa.h"
 
 #include <gmock/gmock.h>
@@ -130,6 +131,27 @@ TEST_P(Soggetti, unaTabellaCheNonCESiDichiaraELaRicercaRestaUsabile)
     mRicerca.chiudi();
     EXPECT_TRUE(mRicerca.finita());
     EXPECT_THAT(codici(CampoSoggetto::codice, u"1"_s), ElementsAre(u"1"_s));
+}
+
+TEST_P(Soggetti, laConnessioneServeFincheEViva)
+{
+    inserisci(1, u"Uno"_s);
+    int aperture = 0;
+    const Accesso accesso{mBase.stringa(), [&aperture](EventoDati evento, const QString&) {
+                              aperture += evento == EventoDati::apertura ? 1 : 0;
+                          }};
+    const auto trovati = [&] {
+        mRicerca.cerca(accesso, {u"Clien"_s, CampoSoggetto::codice, false, u"1"_s});
+        return mRicerca.leggi(2).size();
+    };
+    EXPECT_EQ(trovati(), 1U);
+    EXPECT_EQ(trovati(), 1U);
+    EXPECT_EQ(aperture, 1);
+    if (GetParam() == "sqlite")
+        return;
+    EXPECT_EQ(interrompi(mBase), 1);
+    EXPECT_EQ(trovati(), 1U);
+    EXPECT_EQ(aperture, 2);
 }
 
 INSTANTIATE_TEST_SUITE_P(Basi, Soggetti, testing::Values("sqlite", "mariadb"),

@@ -98,6 +98,7 @@ TEST(CostiGiacenza, EsempiAMano)
     EXPECT_EQ(calcolaImporti(condizioni, u"12"_s).sosta.testo(), u"15"_s) << "10.50 is below the minimum";
     EXPECT_EQ(calcolaImporti(condizioni, u"5"_s).sosta.testo(), u"0"_s) << "no day is charged: no minimum";
     EXPECT_EQ(calcolaImporti(condizioni, u"6"_s).sosta.testo(), u"15"_s);
+    EXPECT_EQ(calcolaImporti(condizioni, u"15"_s).sosta.testo(), u"15.00"_s) << "the minimum itself";
     EXPECT_EQ(calcolaImporti(condizioni, u"16"_s).sosta.testo(), u"16.50"_s);
     EXPECT_EQ(calcolaImporti(condizioni, u"-2"_s).sosta.testo(), u"0"_s);
     EXPECT_EQ(calcolaImporti({u"0"_s, u"0"_s, u"0.333"_s, u"0"_s}, u"3"_s).sosta.testo(), u"1.00"_s);

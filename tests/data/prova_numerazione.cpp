@@ -21,6 +21,7 @@ QString fallimento(Connessione& connessione)
         const QString numero = ProssimoNumGiacenza(connessione);
         ADD_FAILURE() << "a number was given: " << numero.toStdString();
     } catch (const ErroreDatabase& errore) {
+        EXPECT_EQ(errore.codiceNativo(), 0) << "no database gave it";
         return errore.sqlstate();
     }
     return {};

@@ -119,7 +119,10 @@ TEST_P(NuovaLdv, ConIlControlloSiRicontaDentro)
               "nessun'altra è stata emessa. Riaprire la schermata e ripetere, se serve."_s);
     contesto.riconsegne = 1;
     EXPECT_EQ(emettiLdv(mConnessione, ldv, contesto).numero, u"4717"_s) << "the operator knew of it";
-    mBase.esegui(u"update giace00f set GIDTBF='2026-11-20';"_s);
+    // A host's column may hold the time of day too.
+    if (GetParam() != "sqlite")
+        mBase.esegui(u"alter table giace00f modify GIDTBF datetime;"_s);
+    mBase.esegui(u"update giace00f set GIDTBF='2026-11-20 00:00:00';"_s);
     contesto.riconsegne = 2;
     EXPECT_EQ(
         motivo(ldv, contesto),
@@ -227,6 +230,21 @@ TEST_P(NuovaLdv, LeNoteDellOriginaleCedonoIlPostoAQuelleNuove)
     const QString nuove100 = u"Riconsegna a Destinatario, giacenza 40/2026, LDV originale 4711\r\n"_s;
     EXPECT_EQ(nuove().front()[23],
               stretta ? nuove100 + QString(34, u'è') + u'…' : nuove100 + QString(90, u'è'));
+}
+
+TEST_P(NuovaLdv, LeNoteCheEntranoAppenaRestanoIntere)
+{
+    if (GetParam() != "sqlite")
+        mBase.esegui(u"alter table letve00f modify lenote varchar(100);"_s);
+    const QString note = QString(35, u'è');
+    mBase.esegui(u"update letve00f set lenote='%1' where lenrlv='4711';"_s.arg(note));
+    mConnessione.chiudi();
+    mConnessione.apri(mBase.accesso());
+    emettiLdv(mConnessione, LdvDiProva(mConnessione, u"4711"_s), contestoDiProva());
+    ASSERT_THAT(nuove(), SizeIs(1));
+    const QString tutte = u"Riconsegna a Destinatario, giacenza 40/2026, LDV originale 4711\r\n"_s + note;
+    EXPECT_EQ(tutte.size(), 100);
+    EXPECT_EQ(nuove().front()[23], tutte);
 }
 
 } // namespace

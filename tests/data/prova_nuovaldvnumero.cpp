@@ -140,7 +140,9 @@ TEST_P(NuovaLdvNumero, UnNumeroPresoDaUnAltroProgrammaSiSalta)
     impostaTraccia([&](EventoDati evento, const QString& testo) {
         if (evento == EventoDati::istruzione &&
             testo.startsWith(u"insert into letve00f"_s, Qt::CaseInsensitive) && ++volte == 1)
-            throw ErroreDatabase(u"23000"_s, 1062, u"Duplicate entry"_s, testo);
+            throw GetParam() == "sqlite"
+                ? ErroreDatabase(u"HY000"_s, 19, u"UNIQUE constraint failed"_s, testo)
+                : ErroreDatabase(u"23000"_s, 1062, u"Duplicate entry"_s, testo);
     });
     EXPECT_EQ(emettiLdv(mConnessione, LdvDiProva(mConnessione, u"4711"_s), contestoDiProva()).numero,
               u"4716"_s);

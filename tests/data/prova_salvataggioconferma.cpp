@@ -1,5 +1,6 @@
 // A save whose confirmation is cut off on the wire: what is in the archive decides, not what was heard.
 
+#include "data/archivio.h"
 #include "data/salvataggio.h"
 #include "data/verificasalvataggio.h"
 #include "support/bancadati.h"
@@ -77,6 +78,30 @@ TEST_F(Conferma, SenzaPoterGuardareSiDiceCheNonSiSa)
                   "richiamarla in gestione con il numero e la data; se non c'è, ripetere il salvataggio."_s);
     }
     EXPECT_EQ(archivio(), (QList<QStringList>{{u"1"_s, u"42"_s, u"42"_s}})) << "it was there";
+}
+
+class Verifica : public testing::TestWithParam<std::string>
+{
+protected:
+    Verifica() { riempiDeposito(mBase); }
+    ~Verifica() override { impostaTraccia({}); }
+
+    BancaDati mBase{GetParam()};
+};
+
+INSTANTIATE_TEST_SUITE_P(Basi, Verifica, testing::Values("sqlite", "mariadb"),
+                         nomeBase<testing::TestParamInfo<std::string>>);
+
+TEST_P(Verifica, AspettaChiTieneAncoraLaRigaDoveSiPuo)
+{
+    QString ultima;
+    impostaTraccia([&ultima](EventoDati evento, const QString& testo) {
+        if (evento == EventoDati::istruzione)
+            ultima = testo;
+    });
+    EXPECT_FALSE(salvataggioRegistrato(mBase.accesso(), {u"99"_s, 2026}, {u"MI"_s, u"4711"_s, 2026}));
+    EXPECT_EQ(ultima, u"select GINRGI from giace00f where GINRGI='99' and GIANGI=2026 and GINRLV='4711'"_s +
+                          (GetParam() == "mariadb" ? u" lock in share mode;"_s : u";"_s));
 }
 
 } // namespace

@@ -48,6 +48,15 @@ TEST_P(Avviso, IlSuccessivoSiContaESostituisceLaDescrizione)
     EXPECT_EQ(mStampe, stampata(5, u"39_2026"_s));
 }
 
+TEST_P(Avviso, GiaIlSecondoSostituisceLaDescrizione)
+{
+    avvisi(u"'1'"_s, u"'2026-11-20'"_s);
+    richiamaAvvisato();
+    avvisa(u"Non paga"_s);
+    EXPECT_EQ(caso(u"GINRAV,GIDTAV,GIDES1"_s, u"39"_s), u"2|2026-11-21|Trasloco\r\n21/11/2026 - Non paga"_s);
+    EXPECT_EQ(mostrato("lblStato"), u"Avviso di giacenza 39_2026 prodotto."_s);
+}
+
 TEST_P(Avviso, LoStatoDelCasoSiAnnuncia)
 {
     QStringList annunci;

@@ -50,6 +50,9 @@ TEST_P(RichiamoConsegnato, prendeIlPostoDelCasoDiPrima)
     EXPECT_EQ(mostrato("txtNGiace"), u"40"_s);
     EXPECT_EQ(mostrato("txtDataGiace"), u"13/11/2026"_s);
     EXPECT_FALSE(qobject_cast<QCheckBox*>(c("chkRicerca"))->isChecked());
+    EXPECT_EQ(qobject_cast<QCheckBox*>(c("chkRicerca"))->text(), u"Ric. per n. giacenza"_s);
+    EXPECT_TRUE(c("txtNGiace")->isEnabled());
+    EXPECT_FALSE(c("txtCodiceCli")->isEnabled());
 }
 
 TEST_P(RichiamoConsegnato, senzaNumeroODataNonCerca)

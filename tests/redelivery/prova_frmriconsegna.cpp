@@ -45,6 +45,25 @@ TEST_P(SchermataRiconsegna, SiApreConLaDataDiOggiEIlTitoloDelLavoro)
     EXPECT_EQ(mSchermata->windowTitle(), u"Riconsegna a Destinatario"_s) << "shown again for the other job";
 }
 
+TEST_P(SchermataRiconsegna, SenzaClienteOConUnNumeroSbagliatoIlClicCheLasciaLaDataNonFaAltro)
+{
+    apri();
+    const auto lasciaConUnClic = [this](const QString& numero) {
+        scrivi("txtLDV", numero);
+        scrivi("txtDataLdv", u"12112026"_s);
+        clicca("cmdRicSped");
+        EXPECT_EQ(mostrato("lblStato"), QString()) << "the button did nothing";
+        return mMessaggi.testi();
+    };
+    EXPECT_THAT(lasciaConUnClic(u"4711"_s), ElementsAre(u"Selezionare il codice cliente."_s));
+    mMessaggi.prendi();
+    scrivi("txtCodiceCli", u"1001"_s);
+    lascia("txtCodiceCli");
+    EXPECT_THAT(lasciaConUnClic(u"47A"_s),
+                ElementsAre(u"Controllare l'immissione del num. Ldv e/o data Ldv"_s));
+    mMessaggi.prendi();
+}
+
 TEST_P(SchermataRiconsegna, MostraLaLdvEVuotaCioCheNonHaGiacenza)
 {
     apri();

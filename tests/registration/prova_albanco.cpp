@@ -190,6 +190,7 @@ TEST_P(AlBanco, FilialeDataEMotivoSiAvvertonoAccantoAlCampo)
         scrivi("txtDescGia", u"chiuso"_s);
         EXPECT_FALSE(visibile("lblAvvMotivo"));
         scrivi("txtFilialeGia", u"QQ"_s);
+        EXPECT_FALSE(visibile("lblAvvFilialeGia")) << "a code half typed is no wrong one yet";
         lascia("txtFilialeGia");
         EXPECT_TRUE(visibile("lblAvvFilialeGia"));
         EXPECT_EQ(mostrato("lblAvvFilialeGia"), u"⚠ filiale sconosciuta"_s);
@@ -197,6 +198,9 @@ TEST_P(AlBanco, FilialeDataEMotivoSiAvvertonoAccantoAlCampo)
         scrivi("txtFilialeGia", u"bo"_s);
         lascia("txtFilialeGia");
         EXPECT_FALSE(visibile("lblAvvFilialeGia"));
+        giacenza::scrivi(c("txtFilialeGia"), u"QQ"_s);
+        EXPECT_TRUE(visibile("lblAvvFilialeGia")) << "what nobody types is told at once";
+        giacenza::scrivi(c("txtFilialeGia"), u"BO"_s);
         scrivi("txtDataGia", u"22112026"_s);
         EXPECT_EQ(mostrato("lblAvvDataGia"), u"⚠ data futura"_s);
         EXPECT_TRUE(visibile("lblAvvDataGia"));

@@ -115,6 +115,16 @@ TEST_P(AttesaRegistrazione, AlSalvataggioSiVedePrimaDiOgniIstruzione)
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
+TEST_P(AttesaRegistrazione, DiUnaSchermataNascostaNonSiVedeNiente)
+{
+    cercata();
+    mSchermata->stato(u"ciò che diceva"_s);
+    mSchermata->hide();
+    mSchermata->connessione();
+    EXPECT_EQ(mostrato("lblStato"), u"ciò che diceva"_s);
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
 TEST_P(AttesaRegistrazione, AncheMentreSiApreLElencoDelleSpedizioni)
 {
     cercata();

@@ -1,5 +1,6 @@
 #include "screens/campi.h"
 
+#include "screens/avvertenza.h"
 #include "support/stampa.h"
 #include "widgets/campodata.h"
 
@@ -9,6 +10,8 @@
 #include <QTest>
 
 #include <gmock/gmock.h>
+
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 using namespace giacenza;
@@ -213,6 +216,25 @@ TEST_F(Campi, LaMarcaDiGiacenzaPassaAllaSchermata)
     mCampi->giaInGiacenza(true);
     mCampi->giaInGiacenza(false);
     EXPECT_EQ(lette, (QList<bool>{true, false}));
+}
+
+TEST_F(Campi, LAvvertenzaStaNelleParoleENellaCorniceDelCampo)
+{
+    mSchermata.show();
+    QLabel parole(&mSchermata);
+    parole.show();
+    const auto vista = [&] {
+        return std::tuple(parole.isVisible(), parole.text(), mRiga->accessibleDescription(),
+                          mRiga->property("avvertenza").toBool());
+    };
+    Avvertenza avvertenza(mRiga, &parole);
+    EXPECT_EQ(vista(), std::tuple(false, QString(), QString(), false));
+    avvertenza.mostra(u"manca"_s);
+    EXPECT_EQ(vista(), std::tuple(true, u"⚠ manca"_s, u"manca"_s, true));
+    avvertenza.mostra(u"sconosciuta"_s);
+    EXPECT_EQ(vista(), std::tuple(true, u"⚠ sconosciuta"_s, u"sconosciuta"_s, true));
+    avvertenza.mostra({});
+    EXPECT_EQ(vista(), std::tuple(false, QString(), QString(), false));
 }
 
 TEST_F(Campi, UnControlloCheMancaSiTrovaSubito)

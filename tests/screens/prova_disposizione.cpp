@@ -14,6 +14,7 @@
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QScrollBar>
+#include <QSet>
 #include <QTest>
 
 #include <cmath>
@@ -103,6 +104,21 @@ TEST_P(Disposizione, OgniValorePiuLungoSiLeggeIntero)
         EXPECT_GE(controllo->height(), controllo->fontMetrics().height()) << misura.controllo;
     }
     EXPECT_GT(misurati, 28);
+}
+
+TEST_P(Disposizione, SiAllarganoSoloRiferimentiEMerce)
+{
+    const QSet<QString> larghi = {u"barLdv"_s,      u"txtRiferimento"_s,  u"txtRifMitt"_s,
+                                  u"txtColli"_s,    u"txtPesoKg"_s,       u"txtVolume"_s,
+                                  u"txtAnticipo"_s, u"txtContrassegno"_s, u"txtValMerce"_s};
+    for (const MisuraCampo& misura : misureCampi()) {
+        const auto* controllo = mSchermata->findChild<QWidget*>(QLatin1String(misura.controllo));
+        if (!controllo)
+            continue;
+        const bool largo = larghi.contains(QLatin1String(misura.controllo));
+        EXPECT_EQ(controllo->maximumWidth(), largo ? QWIDGETSIZE_MAX : controllo->minimumWidth())
+            << misura.controllo;
+    }
 }
 
 TEST_P(Disposizione, SoloNomiELuoghiPossonoScorrere)

@@ -271,10 +271,14 @@ TEST_P(Spedizione, IPostiSiCercanoUnaVoltaEDiNuovoPerAltreColonne)
                                    {u"", "txtAltro", Conversione::svuota},
                                    {u"lefili", "txtFiliale", Conversione::testo}};
     PostiSpedizione posti(mappa);
+    const MappaSpedizione senzaVuoti = {mappa.front(), mappa.back()};
+    PostiSpedizione altri(senzaVuoti);
     const auto dove = [&](const QString& colonne) {
         Recordset riga;
         riga.apri(connessione, u"select %1;"_s.arg(colonne));
-        return posti.in(riga);
+        const std::vector<int> trovati = posti.in(riga);
+        EXPECT_THAT(altri.in(riga), ElementsAre(trovati[0], trovati[2]));
+        return trovati;
     };
     EXPECT_THAT(dove(u"1 as lenrlv, 2 as lefili"_s), ElementsAre(0, -1, 1));
     EXPECT_THAT(dove(u"1 as LENRLV, 2 as LEFILI"_s), ElementsAre(0, -1, 1));
