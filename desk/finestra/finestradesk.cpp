@@ -207,6 +207,8 @@ void FinestraDesk::letturaFinita()
         dici({});
     if (std::exchange(mFiltroRipreso, false))
         diciFiltroRipreso();
+    if (mEsito->text().isEmpty() && !mGuastoFiliali.isEmpty())
+        dici(mGuastoFiliali, true);
 }
 
 void FinestraDesk::letturaFallita(const QString& testo, const QString& dettaglio)

@@ -236,7 +236,9 @@ QString FinestraInvio::riepilogo() const
     if (quanti(Esito::incompleto) > 0)
         parti << u"%1 contati e non stampati: ristamparli con Ctrl+P"_s.arg(quanti(Esito::incompleto));
     if (quanti(Esito::ignoto) > 0)
-        parti << u"%1 non si sa se contati: ripeterli non li conta due volte"_s.arg(quanti(Esito::ignoto));
+        parti
+            << u"%1 non si sa se contati: ripeterli non li conta due volte; quelli lasciati fuori perché avvisati oggi ristamparli con Ctrl+P"_s
+                   .arg(quanti(Esito::ignoto));
     const auto mancano = static_cast<int>(mCasi.size() - mProssimo);
     if (mSenzaArchivio && mancano > 0)
         parti << u"%1 non cominciati: l'archivio non risponde"_s.arg(mancano);

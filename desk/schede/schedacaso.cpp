@@ -131,6 +131,8 @@ void SchedaCaso::mostra(const ChiaveGiacenza& caso)
     if (caso.numero != mCaso.numero || caso.anno != mCaso.anno) {
         mCaso = caso;
         mNota->clear(); // it was meant for another case
+        mLetta = false;
+        mInDubbio.reset();
         mApri->offri({});
         dici({});
     }
@@ -151,6 +153,10 @@ QString SchedaCaso::leggi()
         connessione.apri(mAccesso);
         letta = registro::leggiCronologia(connessione, mCaso);
     });
+    // What was read before stays, and so does what is being written.
+    if (!guasto.isEmpty() && mLetta)
+        return guasto;
+    mLetta = guasto.isEmpty();
     mFascicolo->setEnabled(guasto.isEmpty());
     permettiNote(guasto.isEmpty() && letta.presenza.note);
     const QString mancanza = guasto.isEmpty() ? letta.presenza.mancanza() : QString();
@@ -191,6 +197,11 @@ qsizetype SchedaCaso::noteUguali() const
 /// anew, tells.
 QString SchedaCaso::scrivi()
 {
+    const QString nota = mNota->toPlainText().trimmed();
+    if (mInDubbio && mInDubbio->testo == nota)
+        if (const std::optional<QString> esito = scioglie())
+            return *esito;
+    mInDubbio.reset();
     bool caduta = false;
     const QString guasto = provando([&] {
         Connessione connessione;
@@ -204,12 +215,21 @@ QString SchedaCaso::scrivi()
     });
     if (!caduta)
         return guasto;
-    const qsizetype prima = noteUguali();
-    if (!leggi().isEmpty())
-        return u"Non si sa se la nota è stata aggiunta: guardarlo qui quando l'archivio risponde, prima di "
-               "ripetere. "_s +
+    mInDubbio = Dubbio{nota, noteUguali()};
+    return scioglie().value_or(guasto);
+}
+
+/// Looks whether the note whose answer was lost is there: empty when it is; why nobody can say, in Italian;
+/// nothing when it is not there.
+std::optional<QString> SchedaCaso::scioglie()
+{
+    if (const QString guasto = leggi(); !guasto.isEmpty())
+        return u"Non si sa se la nota è stata aggiunta: premere ancora Aggiungi nota quando l'archivio "
+               u"risponde, non "
+               "la aggiunge due volte. "_s +
                guasto;
-    return noteUguali() > prima ? QString() : guasto;
+    const Dubbio dubbio = *std::exchange(mInDubbio, {});
+    return noteUguali() > dubbio.uguali ? std::optional(QString()) : std::nullopt;
 }
 
 void SchedaCaso::aggiungi()

@@ -6,6 +6,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
@@ -51,14 +53,24 @@ private:
     QString leggi();
     void aggiungi();
     QString scrivi();
+    std::optional<QString> scioglie();
     qsizetype noteUguali() const;
     void stampa();
     void dici(const QString& testo);
     void permettiNote(bool permesse);
 
+    /// A note of which nobody knows whether it is in the archive.
+    struct Dubbio
+    {
+        QString testo;
+        qsizetype uguali; ///< how many said the same before
+    };
+
     Accesso mAccesso;
     documenti::Carta mCarta;
     ChiaveGiacenza mCaso;
+    bool mLetta = false; ///< the case that is shown was read
+    std::optional<Dubbio> mInDubbio;
     ModelloCronologia* mModello = nullptr;
     QLabel* mMancanza = nullptr;
     QTableView* mTavola = nullptr;

@@ -123,8 +123,11 @@ void frmImpostazioni::leggi()
     try {
         const std::vector<QString> valori = leggiImpostazioni(mFile);
         for (std::size_t i = 0; i < mCampi.size(); ++i) {
-            if (auto* riga = qobject_cast<QLineEdit*>(mCampi[i]))
+            if (auto* riga = qobject_cast<QLineEdit*>(mCampi[i])) {
+                // What stands in the file may be longer, and is not cut by being shown.
+                riga->setMaxLength(std::max(caratteriMassimi, static_cast<int>(valori[i].size())));
                 riga->setText(valori[i]);
+            }
             auto* elenco = qobject_cast<QComboBox*>(mCampi[i]);
             if (!elenco)
                 continue;

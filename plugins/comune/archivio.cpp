@@ -129,7 +129,9 @@ QString sostituisci(const QString& percorso, const QByteArray& byte)
     // empty file.
     const bool scritto = file.open(QIODevice::WriteOnly) && file.write(byte) == byte.size() && file.flush() &&
                          ::fsync(file.handle()) == 0 && file.commit();
-    return scritto ? QString() : motivo(errno);
+    if (scritto)
+        return {};
+    return errno == 0 ? file.errorString() : motivo(errno);
 }
 
 } // namespace giacenza::comune

@@ -141,7 +141,7 @@ QString InserisciGiacenza(Connessione& schermo, const Accesso& accesso, const Da
             [&] { return inUnaTransazione(schermo, accesso, riga, dati); },
             [](const ErroreDatabase& errore) { return numeroPreso(errore) || perConcorrenza(errore); });
     } catch (const ErroreDatabase& errore) {
-        if (perDoppione(errore))
+        if (perDoppione(errore) && !numeroPreso(errore))
             if (const QString tenuta = giaTenuta(schermo, dati); !tenuta.isEmpty())
                 throw ErroreGiaInGiacenza(tenuta);
         throw;

@@ -153,7 +153,7 @@ bool Collegamento::viva() noexcept
         mPerduto = true;
     // SQLite has its file as the disk was when it opened it, and goes on so when the disk can be written
     // again.
-    if (mSolaLettura && scrivibile(mFile))
+    if (mSolaLettura && QFileInfo(mFile).isWritable())
         mPerduto = true;
     return aperto();
 }

@@ -158,7 +158,8 @@ void EmissioneRiconsegna::emetti(const LdvLetta& ldv, bool stampa, Contesto cont
     // Behind what the box says; shared, since an issuer may still tell something when the screen has gone.
     const auto parole = std::make_shared<QString>();
     contesto.racconta = [parole, mostra = contesto.racconta](const Racconto& racconto) {
-        *parole = racconto.dettaglio;
+        if (!racconto.dettaglio.isEmpty())
+            *parole = racconto.dettaglio;
         mostra(racconto);
     };
     // The issuer's windows let the host work meanwhile.

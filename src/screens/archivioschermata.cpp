@@ -15,9 +15,11 @@ ArchivioSchermata::ArchivioSchermata(QWidget* schermata) : QObject(schermata), m
 Connessione& ArchivioSchermata::connessione()
 {
     attendi();
-    const Accesso accesso = accessoHost();
-    mConnessione.apri(accesso);
-    mStringa = accesso.stringa;
+    if (!mConnessione.aperta()) {
+        const Accesso accesso = accessoHost();
+        mConnessione.apri(accesso);
+        mStringa = accesso.stringa;
+    }
     return mConnessione;
 }
 

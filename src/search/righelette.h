@@ -34,7 +34,7 @@ private:
     struct Pagina
     {
         QByteArray byte;
-        int intera = 0; // its size before it was compressed; 0: it is not, as the last page
+        int intera = 0; // its size before it was compressed; 0: it is not: the last page, one too large
         std::vector<quint32> inizi;
     };
     struct Aperta
