@@ -102,7 +102,9 @@ TEST_P(EstrattoCliente, LeNoteSonoDelDeposito)
 {
     conRegistro();
     mBase.esegui(u"insert into registro_note (GINRGI,GIANGI,autore,testo) values ('42',2026,'Neri','x')"_s);
-    for (const registro::Evento& evento : leggi(u"1001"_s).casi[0].fatti)
+    const Estratto estratto = leggi(u"1001"_s);
+    ASSERT_FALSE(estratto.casi.empty());
+    for (const registro::Evento& evento : estratto.casi[0].fatti)
         EXPECT_NE(evento.che, u"Nota"_s);
 }
 
