@@ -4,7 +4,10 @@
 #include "database/sessione.h"
 #include "database/stringaconnessione.h"
 
-#include <QFileInfo>
+#include <QFile>
+
+#include <cerrno>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -12,22 +15,25 @@ namespace giacenza::odbc {
 
 namespace {
 
+/// One call of the system: a press opens connections while the operator waits.
 bool scrivibile(const QString& file)
 {
-    return !QFileInfo::exists(file) || QFileInfo(file).isWritable();
+    return ::access(QFile::encodeName(file).constData(), W_OK) == 0;
 }
 
 } // namespace
 
 Collegamento::Collegamento(const Accesso& accesso, const Limiti& limiti)
-    : mTraccia(accesso.traccia), mLimiti(limiti), mFile(fileSqlite(accesso.stringa))
+    : mTraccia(accesso.traccia), mLimiti(limiti)
 {
     racconta(EventoDati::apertura);
     verifica(SQLAllocHandle(SQL_HANDLE_DBC, ambiente(), &mManiglia), SQL_HANDLE_ENV, ambiente());
     try {
-        mSolaLettura = !mFile.isEmpty() && !scrivibile(mFile);
         connetti(accesso.stringa);
         mDialetto = dialettoDi(mManiglia);
+        if (mDialetto == Dialetto::sqlite)
+            mFile = voceConnessione(accesso.stringa, u"Database").toString();
+        mSolaLettura = !mFile.isEmpty() && !scrivibile(mFile) && errno != ENOENT;
         mNelGruppo = preparaSessione(mManiglia, mDialetto, mLimiti);
     } catch (...) {
         libera();
@@ -153,7 +159,7 @@ bool Collegamento::viva() noexcept
         mPerduto = true;
     // SQLite has its file as the disk was when it opened it, and goes on so when the disk can be written
     // again.
-    if (mSolaLettura && QFileInfo(mFile).isWritable())
+    if (mSolaLettura && scrivibile(mFile))
         mPerduto = true;
     return aperto();
 }
