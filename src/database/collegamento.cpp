@@ -31,8 +31,7 @@ Collegamento::Collegamento(const Accesso& accesso, const Limiti& limiti)
     try {
         connetti(accesso.stringa);
         mDialetto = dialettoDi(mManiglia);
-        if (mDialetto == Dialetto::sqlite)
-            mFile = voceConnessione(accesso.stringa, u"Database").toString();
+        mFile = fileSqlite(accesso.stringa);
         mSolaLettura = !mFile.isEmpty() && !scrivibile(mFile) && errno != ENOENT;
         mNelGruppo = preparaSessione(mManiglia, mDialetto, mLimiti);
     } catch (...) {

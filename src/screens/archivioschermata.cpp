@@ -15,8 +15,9 @@ ArchivioSchermata::ArchivioSchermata(QWidget* schermata) : QObject(schermata), m
 Connessione& ArchivioSchermata::connessione()
 {
     attendi();
+    // Asked each time: a file that has been taken away is told, and not written to unseen.
+    const Accesso accesso = accessoHost();
     if (!mConnessione.aperta()) {
-        const Accesso accesso = accessoHost();
         mConnessione.apri(accesso);
         mStringa = accesso.stringa;
     }
