@@ -2,10 +2,12 @@
 
 #include "base/impostazioni.h"
 #include "data/archivio.h"
+#include "database/stringaconnessione.h"
 #include "support/stampa.h"
 
 #include <giacenza/RicercaTabella.h>
 
+#include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
@@ -192,6 +194,31 @@ TEST_P(RegistrazioneGuasti, UnaRicercaFallitaSiDiceEIlClicCheLHaAvviataNonSalva)
                                       Stile::critico, u"Gestione Trasporti"_s}));
     EXPECT_EQ(c("lblStato")->toolTip(), u"guasto di prova"_s) << "the driver's words";
     EXPECT_EQ(salvataggi, 0);
+}
+
+class RegistrazioneSenzaFile : public RegistrazioneDiProva
+{};
+
+INSTANTIATE_TEST_SUITE_P(Basi, RegistrazioneSenzaFile, testing::Values("sqlite"),
+                         nomeBase<testing::TestParamInfo<std::string>>);
+
+TEST_P(RegistrazioneSenzaFile, UnFilePortatoViaSottoLaSchermataApertaSiDice)
+{
+    consegna(u"4711"_s);
+    EXPECT_FALSE(mostrato("barLdv").isEmpty()) << "the screen has its connection";
+    const QString file = fileSqlite(mBase.stringa());
+    ASSERT_TRUE(QFile::rename(file, file + u".via"_s));
+    clicca("cmdSalva");
+    ASSERT_TRUE(QFile::rename(file + u".via"_s, file));
+    EXPECT_TRUE(mostrato("lblStato").startsWith(u"Niente è stato salvato; riprovare con Salva. "_s))
+        << mostrato("lblStato").toStdString();
+    EXPECT_TRUE(c("lblStato")->toolTip().contains(u"Il file dell'archivio non c'è: "_s + file))
+        << c("lblStato")->toolTip().toStdString();
+    EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
+    EXPECT_EQ(mostrato("lblNrGia"), QString());
+    clicca("cmdSalva");
+    EXPECT_EQ(mostrato("lblNrGia"), u"42"_s);
+    EXPECT_EQ(mMessaggi.prendi().size(), 1U);
 }
 
 TEST_P(RegistrazioneGuasti, LaSchermataPuoSparireSottoOgniSuoMessaggio)
