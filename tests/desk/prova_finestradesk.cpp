@@ -199,6 +199,27 @@ TEST_P(ProvaDesk, unGuastoSiDiceELElencoResta)
     EXPECT_EQ(detto(), QString());
 }
 
+TEST_P(ProvaDesk, leFilialiCheNonSiLeggonoSiDiconoFinoAllaLetturaCheRiesce)
+{
+    const auto* filiali = figlio<QComboBox>(u"cmbFiliale");
+    mBase.esegui(u"alter table filiali rename to filiali_via"_s);
+    premi(Qt::Key_F5);
+    attendi([&] { return !filiali->accessibleDescription().isEmpty(); });
+    attendiElenco();
+    EXPECT_EQ(filiali->accessibleDescription(),
+              u"Le filiali non si leggono. Nell'archivio manca una tabella."_s);
+    EXPECT_EQ(detto(), filiali->accessibleDescription());
+    EXPECT_TRUE(filiali->toolTip().startsWith(detto() + u'\n'))
+        << "with the driver's words: " << filiali->toolTip().toStdString();
+    EXPECT_EQ(elenco()->model()->rowCount(), 5) << "the list does not need them";
+    EXPECT_GT(filiali->findData(u"MI"_s), 0) << "those read before stay";
+    mBase.esegui(u"alter table filiali_via rename to filiali"_s);
+    premi(Qt::Key_F5);
+    attendi([&] { return filiali->accessibleDescription().isEmpty(); });
+    EXPECT_EQ(detto(), QString());
+    EXPECT_EQ(filiali->toolTip(), QString());
+}
+
 TEST_P(ProvaDesk, ogniControlloHaUnNomeSuo)
 {
     const AlberoAccessibile albero = alberoAccessibile(mFinestra.get());

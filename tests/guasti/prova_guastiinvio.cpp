@@ -91,6 +91,10 @@ protected:
             if (!(fatte.at(i) ? fatta || ignota : rifiutata || ignota))
                 return false;
         }
+        EXPECT_EQ(mRiepilogo.contains(u"1 non si sa se contati: ripeterli non li conta due volte; quelli "
+                                      "lasciati fuori perché avvisati oggi ristamparli con Ctrl+P"_s),
+                  ignote == 1)
+            << mRiepilogo.toStdString();
         const bool tutteDette = mEsiti.filter(u"✓ "_s).size() == fatte.size();
         return ignote <= 1 && (tutteDette || a.dettoIlGuasto()) &&
                mStampate.size() == mEsiti.filter(u"✓ "_s).size();

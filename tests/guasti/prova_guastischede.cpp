@@ -159,6 +159,46 @@ TEST_P(GuastiSchede, OgniIstruzioneDiUnaNota)
            .mostrata = [&] { return eventi() == 4 + prima && nota()->toPlainText().isEmpty(); }});
 }
 
+/// The archive is silent from the lost answer on: nobody can say, until it is read again.
+TEST_P(GuastiSchede, UnaNotaInDubbioSiScioglieQuandoLArchivioRisponde)
+{
+    const QString inserimento =
+        u"insert into registro_note (GINRGI, GIANGI, autore, testo) values (?,?,?,?)"_s;
+    for (const Momento momento : {Momento::dopo, Momento::prima}) {
+        SCOPED_TRACE(momento == Momento::dopo ? "it was added" : "it was not added");
+        const int prima = note();
+        bool muto = false;
+        bool cade = true;
+        mAccesso.traccia = [&](EventoDati evento, const QString& istruzione) {
+            if (muto && evento == EventoDati::istruzione)
+                throw ErroreDatabase(u"08S01"_s, 2006, u"Server has gone away"_s);
+            muto = muto || (cade && istruzione == inserimento);
+        };
+        apri<FinestraCaso>(mAperta);
+        const auto* nota = trova<QPlainTextEdit>(*mFinestra, u"txtNota"_s);
+        trova<QPlainTextEdit>(*mFinestra, u"txtNota"_s)->setPlainText(u"Richiamare lunedì"_s);
+        GuastiOdbc guasti;
+        guasti.pianta(
+            inserimento, 0,
+            {.sqlstate = u"08S01"_s, .codice = 2013, .testo = u"Lost"_s, .momento = momento, .cade = true});
+        for (int volta = 0; volta < 2; ++volta) {
+            tasto(u"cmdAggiungiNota")->click();
+            EXPECT_EQ(stato(), u"Non si sa se la nota è stata aggiunta: premere ancora Aggiungi nota quando "
+                               "l'archivio risponde, non la aggiunge due volte. La connessione con "
+                               "l'archivio è caduta."_s);
+            EXPECT_EQ(nota->toPlainText(), u"Richiamare lunedì"_s);
+            EXPECT_EQ(note(), prima + (momento == Momento::dopo ? 1 : 0));
+        }
+        muto = cade = false;
+        tasto(u"cmdAggiungiNota")->click();
+        EXPECT_EQ(stato(), u"Nota aggiunta."_s);
+        EXPECT_EQ(nota->toPlainText(), QString());
+        EXPECT_EQ(note(), prima + 1);
+        EXPECT_EQ(eventi(), 4 + prima);
+        mFinestra.reset();
+    }
+}
+
 TEST_P(GuastiSchede, OgniIstruzioneDelFascicolo)
 {
     prova({.prepara =
