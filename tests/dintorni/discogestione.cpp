@@ -32,8 +32,6 @@ protected:
                                      "GIGGSO=null, FissoGiacenza=null, GIIMGI=null where GINRGI='39';"_s);
                         if (mSchermata)
                             attiva();
-                        if (mSchermata)
-                            attiva();
                         richiamaAvvisato();
                     },
                 .compi = [this] { clicca("cmdBuonFine"); },

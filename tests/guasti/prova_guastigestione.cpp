@@ -37,6 +37,23 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(mSchermata));
     }
 
+    /// Of the case 39. prima: puts it where the closure begins.
+    Operazione chiusura(std::function<void()> prima)
+    {
+        return {.prepara = std::move(prima),
+                .compi = [this] { clicca("cmdBuonFine"); },
+                .righe = [this] { return tutto(u"39"_s); },
+                .stato = [this] { return stato(); },
+                .vero =
+                    [](const Accaduto& a) {
+                        return a.completo
+                                   ? a.stato.startsWith(
+                                         u"Giacenza 39_2026 chiusa, documento di buon fine prodotto."_s) &&
+                                         a.scatole.isEmpty()
+                                   : a.dettoIlGuasto() && a.scatole.size() == 1;
+                    }};
+    }
+
     /// The last connection to a file of SQLite that closes has everything written to the disk: not ours.
     Connessione mTenuta = mBase.connessione();
     Cavo mCavo{mBase};
@@ -82,38 +99,15 @@ TEST_P(GuastiGestione, OgniIstruzioneDellAvvisoConDescrizione)
 
 TEST_P(GuastiGestione, OgniIstruzioneDellaChiusura)
 {
-    prova({.prepara = [this] { rimetti(); },
-           .compi = [this] { clicca("cmdBuonFine"); },
-           .righe = [this] { return tutto(u"39"_s); },
-           .stato = [this] { return stato(); },
-           .vero =
-               [](const Accaduto& a) {
-                   if (a.completo)
-                       return a.stato.startsWith(
-                                  u"Giacenza 39_2026 chiusa, documento di buon fine prodotto."_s) &&
-                              a.scatole.isEmpty();
-                   return a.dettoIlGuasto() && a.scatole.size() == 1;
-               }});
+    prova(chiusura([this] { rimetti(); }));
 }
 
 TEST_P(GuastiGestione, OgniIstruzioneDellaChiusuraRipetuta)
 {
-    prova({.prepara =
-               [this] {
-                   rimetti();
-                   mBase.esegui(u"update giace00f set GIDTBF='2026-11-19' where GINRGI='39';"_s);
-               },
-           .compi = [this] { clicca("cmdBuonFine"); },
-           .righe = [this] { return tutto(u"39"_s); },
-           .stato = [this] { return stato(); },
-           .vero =
-               [](const Accaduto& a) {
-                   if (a.completo)
-                       return a.stato.startsWith(
-                                  u"Giacenza 39_2026 chiusa, documento di buon fine prodotto."_s) &&
-                              a.scatole.isEmpty();
-                   return a.dettoIlGuasto() && a.scatole.size() == 1;
-               }});
+    prova(chiusura([this] {
+        rimetti();
+        mBase.esegui(u"update giace00f set GIDTBF='2026-11-19' where GINRGI='39';"_s);
+    }));
 }
 
 } // namespace

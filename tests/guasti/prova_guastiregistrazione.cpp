@@ -80,6 +80,21 @@ protected:
         scrivi(campo, chiave);
     }
 
+    /// Of the waybill 4711, by either of its keys.
+    Operazione ricerca(const char* campo, const QString& chiave, const char* data, const QString& giorno)
+    {
+        return {.prepara = [=, this] { scriviChiave(campo, chiave, data, giorno); },
+                .compi =
+                    [=, this] {
+                        scrivi(campo, chiave);
+                        tasto(campo, Qt::Key_F12);
+                    },
+                .righe = [] { return u"nessuna"_s; },
+                .stato = [this] { return stato(); },
+                .vero = [](const Accaduto& a) { return a.completo || a.dettoIlGuasto(); },
+                .mostrata = [this] { return destinatario() == u"Utensileria del Lago"_s; }};
+    }
+
     /// The last connection to a file of SQLite that closes has everything written to the disk: not ours.
     Connessione mTenuta = mBase.connessione();
     Cavo mCavo{mBase};
@@ -142,30 +157,12 @@ TEST_P(GuastiRegistrazione, OgniIstruzioneDellAvviso)
 
 TEST_P(GuastiRegistrazione, OgniIstruzioneDellaRicercaPerNumero)
 {
-    prova({.prepara = [this] { scriviChiave("txtLDV", u"4711"_s, "txtDataLdv", u"12112026"_s); },
-           .compi =
-               [this] {
-                   scrivi("txtLDV", u"4711"_s);
-                   tasto("txtLDV", Qt::Key_F12);
-               },
-           .righe = [] { return u"nessuna"_s; },
-           .stato = [this] { return stato(); },
-           .vero = [](const Accaduto& a) { return a.completo || a.dettoIlGuasto(); },
-           .mostrata = [this] { return destinatario() == u"Utensileria del Lago"_s; }});
+    prova(ricerca("txtLDV", u"4711"_s, "txtDataLdv", u"12112026"_s));
 }
 
 TEST_P(GuastiRegistrazione, OgniIstruzioneDellaRicercaPerRiferimento)
 {
-    prova({.prepara = [this] { scriviChiave("txtRiferimento", u"ORD-881"_s, "txtDataRif", u"10112026"_s); },
-           .compi =
-               [this] {
-                   scrivi("txtRiferimento", u"ORD-881"_s);
-                   tasto("txtRiferimento", Qt::Key_F12);
-               },
-           .righe = [] { return u"nessuna"_s; },
-           .stato = [this] { return stato(); },
-           .vero = [](const Accaduto& a) { return a.completo || a.dettoIlGuasto(); },
-           .mostrata = [this] { return destinatario() == u"Utensileria del Lago"_s; }});
+    prova(ricerca("txtRiferimento", u"ORD-881"_s, "txtDataRif", u"10112026"_s));
 }
 
 TEST_P(GuastiRegistrazione, OgniIstruzioneDelCliente)
