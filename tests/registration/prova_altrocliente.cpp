@@ -92,6 +92,18 @@ TEST_P(AltroCliente, CorrettoIlClienteNonLoDicePiuNessuno)
     EXPECT_EQ(mostrato("lblStato"), u"Avviso di giacenza 42_2026 prodotto."_s);
 }
 
+TEST_P(AltroCliente, DellaRigaRestaQuelloCheNonEDelCliente)
+{
+    consegna(u"4711"_s);
+    scrivi("txtDescGia", u"chiuso"_s);
+    consegna(u"4712"_s, u"12/11/2026"_s, u"MI"_s, u"1002"_s);
+    const QString offerta =
+        u"La ricerca ha svuotato il motivo della giacenza: Ctrl+Z nel campo lo riporta."_s;
+    EXPECT_EQ(mostrato("lblStato"), u"LDV del cliente 1001. "_s + offerta);
+    cambia(u"Ferramenta"_s);
+    EXPECT_EQ(mostrato("lblStato"), offerta);
+}
+
 TEST_P(AltroCliente, UnaConsegnaNonAnnunciaQuellaDiPrima)
 {
     mBase.esegui(u"update letve00f set lecodi=1002 where lenrlv='4712'"_s);

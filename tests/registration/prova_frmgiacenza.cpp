@@ -167,6 +167,28 @@ TEST_P(Registrazione, MostraLaSpedizioneGiaInGiacenza)
                                              Stile::avviso)));
 }
 
+TEST_P(Registrazione, LaMarcaDiGiacenzaSegueLaSpedizione)
+{
+    const auto marca = [this] { return c("lblGiaInGiacenza")->isVisible(); };
+    const auto mancaIlMotivo = [this] { return c("lblAvvMotivo")->isVisible(); };
+    mBase.esegui(u"update giace00f set GIDES1=null where GINRLV='4714'"_s);
+    apri();
+    EXPECT_FALSE(mancaIlMotivo()) << "there is nothing to register";
+    consegna(u"4714"_s);
+    EXPECT_TRUE(marca());
+    EXPECT_EQ(mostrato("txtDescGia"), QString());
+    EXPECT_FALSE(mancaIlMotivo()) << "it is registered";
+    consegna(u"9999"_s);
+    EXPECT_FALSE(marca()) << "not found";
+    consegna(u"4711"_s);
+    EXPECT_FALSE(marca());
+    EXPECT_TRUE(mancaIlMotivo());
+    clicca("cmdSalva");
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(u"Giacenza aggiunta in database."_s));
+    EXPECT_TRUE(marca());
+    EXPECT_FALSE(mancaIlMotivo());
+}
+
 TEST_P(Registrazione, TrovaAncheConVettoreLineaEFilialeSconosciuti)
 {
     consegna(u"4715"_s, u"12/11/2026"_s, u"XX"_s, u"1001"_s);

@@ -133,6 +133,52 @@ TEST_P(Ricerche, SenzaFilialeLaSceltaSiCercaPerNumeroEData)
     EXPECT_EQ(mostrato("txtDestinatario"), u"Utensileria del Lago"_s);
 }
 
+/// Where the clerk types next is told by a shipment that was found alone.
+TEST_P(Ricerche, SenzaSpedizioneIlFuocoResta)
+{
+    cliente();
+    scrivi("txtFiliale", u"MI"_s);
+    scrivi("txtLDV", u"9999"_s);
+    scrivi("txtDataLdv", u"12112026"_s);
+    tasto("txtLDV", Qt::Key_F12);
+    EXPECT_EQ(mostrato("lblStato"), u"LDV 9999 del 12/11/2026, filiale MI: non trovata."_s);
+    EXPECT_TRUE(c("txtLDV")->hasFocus()) << "there is none";
+    for (const QString& filiale : {u"MI"_s, QString()}) {
+        scrivi("txtFiliale", filiale);
+        const QuandoAperta<frmRicercaGia> intanto(
+            [](frmRicercaGia& dialogo) { QTest::keyClick(&dialogo, Qt::Key_Escape); });
+        tasto("txtLDV", Qt::Key_F9);
+        mSchermata->activateWindow(); // as a window manager does when the dialog has gone
+        ASSERT_TRUE(QTest::qWaitForWindowActive(mSchermata));
+        EXPECT_TRUE(c("txtLDV")->hasFocus()) << "nothing was chosen; branch " << filiale.toStdString();
+        mMessaggi.prendi(); // an empty list says so
+    }
+    scrivi("txtDataLdv", u"1211"_s);
+    tasto("txtLDV", Qt::Key_F12);
+    EXPECT_EQ(mostrato("lblStato"), u"La data non è completa o non è valida: nessuna ricerca."_s);
+    EXPECT_TRUE(c("txtLDV")->hasFocus()) << "there was no search";
+    scrivi("txtFiliale", u"MI"_s);
+    scrivi("txtLDV", u"4711"_s);
+    scrivi("txtDataLdv", u"12112026"_s);
+    tasto("txtLDV", Qt::Key_F12);
+    EXPECT_TRUE(c("txtFilialeGia")->hasFocus()) << "it was found";
+}
+
+TEST_P(Ricerche, IlTastoDiSalvaCheAvviaUnElencoNonSalva)
+{
+    cliente();
+    scrivi("txtLDV", u"4711"_s);
+    c("txtDataLdv")->setFocus();
+    scrivi("txtDataLdv", u"12112026"_s);
+    const QuandoAperta<frmRicercaGia> intanto(prende());
+    mBase.esegui(u"update letve00f set lefili='' where lenrlv='4711' and leanlv=2026;"_s);
+    scorciatoia(Qt::Key_S);
+    EXPECT_EQ(trovata(), u"4711"_s);
+    EXPECT_THAT(mMessaggi.testi(), IsEmpty());
+    EXPECT_EQ(mostrato("lblNrGia"), QString());
+    EXPECT_EQ(mBase.leggi(u"select count(*) from giace00f where GINRLV='4711'"_s), u"0"_s);
+}
+
 TEST_P(Ricerche, LImmissioneSiControllaPrimaDellElenco)
 {
     cliente();

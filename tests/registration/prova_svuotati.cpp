@@ -41,6 +41,24 @@ TEST_P(Svuotati, UnNumeroSbagliatoNonNascondeLOffertaENonLaConsuma)
     EXPECT_EQ(mostrato("txtDescGia"), u"chiuso"_s);
 }
 
+TEST_P(Svuotati, UnaRicercaFallitaNonConsumaLOfferta)
+{
+    consegna(u"4711"_s);
+    scrivi("txtDescGia", u"chiuso"_s);
+    fallisce(u"select letve00f.*"_s);
+    consegna(u"4712"_s);
+    guarisce();
+    EXPECT_THAT(
+        mMessaggi.testi(),
+        ElementsAre(u"Operazione non riuscita: il database o un suo dato non risponde come dovrebbe.\n\n"
+                    "L'archivio ha rifiutato l'operazione."_s));
+    EXPECT_EQ(mostrato("txtDescGia"), QString());
+    consegna(u"4711"_s);
+    EXPECT_EQ(mostrato("lblStato"), soloMotivo);
+    annulla("txtDescGia");
+    EXPECT_EQ(mostrato("txtDescGia"), u"chiuso"_s);
+}
+
 TEST_P(Svuotati, SiNominaSoloIlCampoSvuotato)
 {
     consegna(u"4711"_s);
