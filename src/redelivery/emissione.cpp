@@ -14,7 +14,7 @@ void LdvLetta::leggi(Recordset& righe)
 {
     std::vector<std::pair<QString, Valore>> valori;
     valori.reserve(static_cast<std::size_t>(righe.colonne()));
-    const bool vuoto = righe.bof() || righe.eof();
+    const bool vuoto = righe.eof();
     for (int i = 0; i < righe.colonne(); ++i)
         valori.emplace_back(righe.nomeColonna(i), vuoto ? Valore() : righe.valore(i));
     mValori = std::move(valori);

@@ -2,6 +2,7 @@
 
 #include "screens/campi.h"
 #include "support/stampa.h"
+#include "support/trova.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -30,6 +31,14 @@ TEST_P(Richiamo, SiApreVuotaPerNumero)
     EXPECT_FALSE(c("lblStatoCaso")->isVisible());
     EXPECT_LE(mSchermata->minimumSizeHint().width(), 1366);
     EXPECT_LE(mSchermata->minimumSizeHint().height(), 700);
+}
+
+TEST_P(Richiamo, NasceNelModoDelNumero)
+{
+    const std::unique_ptr<Schermata> schermata = crea();
+    EXPECT_TRUE(trova<QLineEdit>(*schermata, u"txtNGiace"_s)->isEnabled());
+    EXPECT_TRUE(trova<QLineEdit>(*schermata, u"txtDataGiace"_s)->isEnabled());
+    EXPECT_FALSE(trova<QLineEdit>(*schermata, u"txtCodiceCli"_s)->isEnabled());
 }
 
 TEST_P(Richiamo, PerNumeroMostraIlCasoEPortaIlFuoco)

@@ -107,6 +107,33 @@ TEST_P(RichiamoCliente, PerClienteSiPrendeLaRigaConITasti)
     EXPECT_TRUE(QTest::qWaitFor([&] { return c("txtFilSped")->hasFocus(); }));
 }
 
+TEST_P(RichiamoCliente, IlClienteRestaDopoUnaRigaCheNonSiRichiamaESiPulisceLasciandoIlNumero)
+{
+    mBase.esegui(u"update letve00f set lecdve=null"_s);
+    apri();
+    clicca("chkRicerca");
+    scrivi("txtCodiceCli", u"1001"_s);
+    lascia("txtCodiceCli");
+    nelDialogo([](QDialog& dialogo) {
+        auto* griglia = trova<QTableView>(dialogo, u"Griglia"_s);
+        griglia->setFocus();
+        QTest::keyClick(griglia, Qt::Key_Return);
+    });
+    clicca("cmdRicGiac");
+    EXPECT_TRUE(
+        mostrato("lblStato").endsWith(u": non si può richiamare, manca il vettore, la linea o la filiale."_s))
+        << mostrato("lblStato").toStdString();
+    EXPECT_EQ(mostrato("txtCodiceCli"), u"1001"_s) << "another row of his may follow";
+    EXPECT_EQ(mostrato("barCliente"), u"Ferramenta Lombarda S.r.l."_s);
+    mSchermata->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(mSchermata));
+    clicca("chkRicerca");
+    c("txtNGiace")->setFocus();
+    lascia("txtNGiace");
+    EXPECT_EQ(mostrato("txtCodiceCli"), QString());
+    EXPECT_EQ(mostrato("barCliente"), QString());
+}
+
 TEST_P(RichiamoCliente, IlCodiceClienteSiControllaComeAllaRegistrazione)
 {
     apri();

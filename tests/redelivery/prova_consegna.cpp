@@ -119,6 +119,20 @@ TEST_P(Consegna, CioCheLEmittenteRaccontaPassaDallaPortaSopraLaSchermata)
     EXPECT_EQ(padri, (QList<QWidget*>{schermata, schermata, nullptr}));
 }
 
+TEST_P(Consegna, LeParoleDelGuastoStannoDietroLaRigaDiStato)
+{
+    mEmissioni.durante = [this] {
+        const Contesto contesto = mEmissioni.contesti.back();
+        contesto.racconta({u"carta finita"_s, Tono::guasto, u"HY000: out of paper"_s});
+        contesto.racconta({u"si ferma qui"_s});
+    };
+    cerca(u"950"_s);
+    emetti();
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(u"carta finita"_s, u"si ferma qui"_s));
+    EXPECT_EQ(stato()->text(), u"Emessa da 950"_s);
+    EXPECT_EQ(stato()->toolTip(), u"Emessa da 950 HY000: out of paper"_s);
+}
+
 TEST_P(Consegna, LaScatolaDellEmittenteStaSopraLaSchermataInPrimoPiano)
 {
     const PortaMessaggi registro = impostaPortaMessaggi({});

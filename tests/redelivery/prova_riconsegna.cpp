@@ -132,6 +132,7 @@ TEST_P(Riconsegna, SenzaControlloSiEmetteInOgniCaso)
         EXPECT_FALSE(bottoneAcceso());
     }
     EXPECT_FALSE(mEmissioni.contesti.back().controlloGiacenza);
+    EXPECT_EQ(mEmissioni.contesti.back().riconsegne, 0);
 }
 
 TEST_P(Riconsegna, AnnullareIlPortoFermaLaCasellaDiChiusuraConferma)
