@@ -206,8 +206,12 @@ TEST_P(AlBanco, FilialeDataEMotivoSiAvvertonoAccantoAlCampo)
         EXPECT_TRUE(visibile("lblAvvDataGia"));
         scrivi("txtDataGia", u"21112025"_s);
         EXPECT_EQ(mostrato("lblAvvDataGia"), u"⚠ 365 giorni fa"_s);
-        scrivi("txtDataGia", u"20112026"_s);
-        EXPECT_FALSE(visibile("lblAvvDataGia"));
+        scrivi("txtDataGia", u"22082026"_s);
+        EXPECT_EQ(mostrato("lblAvvDataGia"), u"⚠ 91 giorni fa"_s);
+        for (const QString& giorno : {u"23082026"_s, u"20112026"_s, u"21112026"_s, QString()}) {
+            scrivi("txtDataGia", giorno);
+            EXPECT_FALSE(visibile("lblAvvDataGia")) << giorno.toStdString();
+        }
     });
     EXPECT_THAT(inviate, IsEmpty()) << "hints cost no statement";
     EXPECT_THAT(mMessaggi.testi(), IsEmpty());

@@ -84,6 +84,23 @@ TEST_F(Convalide, UnCampoLasciatoSiVerificaEIlSeguitoVieneQuandoIlFuocoEPassato)
     EXPECT_TRUE(mUno->hasFocus()) << "given back";
 }
 
+TEST_F(Convalide, UnCampoCheSiVerificaRestaUnCampo)
+{
+    const auto segnaColTopo = [this] {
+        mUno->setText(QStringLiteral("scritto"));
+        mUno->deselect();
+        QTest::mouseDClick(mUno, Qt::LeftButton);
+        return mUno->selectedText() == mUno->text();
+    };
+    int finiti = 0;
+    QObject::connect(mUno, &QLineEdit::editingFinished, mUno, [&finiti] { ++finiti; });
+    EXPECT_TRUE(segnaColTopo());
+    preme(mFa);
+    EXPECT_EQ(mSeguiti, 1) << "refused, and the click swallowed";
+    EXPECT_EQ(finiti, 1) << "the field is told itself that the focus went";
+    EXPECT_TRUE(segnaColTopo()) << "the next click is not swallowed";
+}
+
 TEST_F(Convalide, UnAltraFinestraEUnMenuNonFannoVerificare)
 {
     perde(Qt::ActiveWindowFocusReason);
