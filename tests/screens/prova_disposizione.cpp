@@ -79,6 +79,7 @@ INSTANTIATE_TEST_SUITE_P(Schermate, Disposizione,
 int mostrato(QLineEdit* riga)
 {
     const auto cursore = [riga] {
+        riga->grab(); // it slides where it is painted
         return riga->inputMethodQuery(Qt::ImCursorRectangle).toRectF().center().x();
     };
     riga->end(false);
