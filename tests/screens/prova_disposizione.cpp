@@ -218,6 +218,15 @@ TEST_P(Normale, IlCarattereSiPuoCambiareASchermataAperta)
     }));
 }
 
+TEST_P(Normale, IlNumeroDellaGiacenzaRisalta)
+{
+    const auto schermata = creaSchermata(GetParam());
+    schermata->show();
+    const QFont numero = trova<QLabel>(schermata.get(), u"lblNrGia"_s)->font();
+    EXPECT_TRUE(numero.bold());
+    EXPECT_DOUBLE_EQ(numero.pointSizeF(), schermata->font().pointSizeF() * 1.15);
+}
+
 /// Counts the changes of a style.
 class ContaStili : public QObject
 {
