@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -219,6 +220,21 @@ TEST_P(RegistrazioneSenzaFile, UnFilePortatoViaSottoLaSchermataApertaSiDice)
     clicca("cmdSalva");
     EXPECT_EQ(mostrato("lblNrGia"), u"42"_s);
     EXPECT_EQ(mMessaggi.prendi().size(), 1U);
+}
+
+TEST_P(RegistrazioneGuasti, ChiusaSottoUnMessaggioLaSchermataNonFaAltro)
+{
+    consegna(u"4711"_s);
+    const QSignalSpy uscite(mSchermata, &Schermata::Uscita);
+    mMessaggi.mentreAperto([this](QWidget*, const Messaggio&) {
+        mSchermata->close();
+        mSchermata->close();
+    });
+    QTest::keyClick(c("cmdSalva"), Qt::Key_Space);
+    EXPECT_EQ(uscite.size(), 1);
+    EXPECT_THAT(mMessaggi.testi(), ElementsAre(u"Giacenza aggiunta in database."_s));
+    EXPECT_THAT(mStampe, IsEmpty());
+    EXPECT_EQ(mBase.leggi(u"select GINRAV from giace00f where GINRLV='4711'"_s), std::nullopt);
 }
 
 TEST_P(RegistrazioneGuasti, LaSchermataPuoSparireSottoOgniSuoMessaggio)

@@ -41,6 +41,19 @@ TEST_P(Svuotati, UnNumeroSbagliatoNonNascondeLOffertaENonLaConsuma)
     EXPECT_EQ(mostrato("txtDescGia"), u"chiuso"_s);
 }
 
+TEST_P(Svuotati, SoloCtrlZRiportaESubito)
+{
+    consegna(u"4711"_s);
+    scrivi("txtDescGia", u"chiuso"_s);
+    consegna(u"4712"_s);
+    c("txtDescGia")->setFocus();
+    QTest::keyPress(c("txtDescGia"), Qt::Key_Control);
+    QTest::keyClick(c("txtDescGia"), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(mostrato("txtDescGia"), QString());
+    QTest::keyPress(c("txtDescGia"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(mostrato("txtDescGia"), u"chiuso"_s) << "the key is still down";
+}
+
 TEST_P(Svuotati, UnaRicercaFallitaNonConsumaLOfferta)
 {
     consegna(u"4711"_s);
