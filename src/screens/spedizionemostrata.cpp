@@ -13,7 +13,7 @@ bool SpedizioneMostrata::mostra(const QString& istruzione)
 {
     Recordset riga;
     riga.apri(mSchermata.connessione(), istruzione);
-    if (riga.bof() || riga.eof())
+    if (riga.eof())
         return false;
     CaricaDatiSpedizione(riga, mPosti, *mCampi);
     if (mRigaMostrata)

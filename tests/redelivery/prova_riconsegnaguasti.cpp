@@ -112,14 +112,24 @@ TEST_P(RiconsegnaGuasti, SenzaLaDataNessunaGiacenzaENominataELoSiDice)
 
 TEST_P(RiconsegnaGuasti, IlDocumentoDellEmittenteSiApreConCtrlO)
 {
-    AperturaDiProva apertura;
-    mEmissioni.durante = [this] { mEmissioni.contesti.back().documento(u"/tmp/LDV_MI_4716_2026.pdf"_s); };
+    const QString file = u"/tmp/LDV_MI_4716_2026.pdf"_s;
+    const auto apre = [this] {
+        attiva();
+        c("txtLDV")->setFocus();
+        QTest::keyClick(c("txtLDV"), Qt::Key_O, Qt::ControlModifier);
+        return stato()->text();
+    };
+    mEmissioni.durante = [&] { mEmissioni.contesti.back().documento(file); };
     cerca(u"950"_s);
+    EXPECT_EQ(apre(), u"Nessun documento da aprire: stamparne uno prima."_s);
     emetti();
-    attiva();
-    c("txtLDV")->setFocus();
-    QTest::keyClick(c("txtLDV"), Qt::Key_O, Qt::ControlModifier);
-    EXPECT_THAT(apertura.aperti, testing::ElementsAre(QUrl::fromLocalFile(u"/tmp/LDV_MI_4716_2026.pdf"_s)));
+    {
+        AperturaDiProva apertura;
+        EXPECT_EQ(apre(), u"Emessa da 950"_s);
+        EXPECT_THAT(apertura.aperti, testing::ElementsAre(QUrl::fromLocalFile(file)));
+    }
+    // This platform opens nothing by itself.
+    EXPECT_EQ(apre(), u"Il documento non si apre: manca un programma per i PDF. È in "_s + file);
 }
 
 TEST_P(RiconsegnaGuasti, UnEmittenteCheLanciaNonFermaLaSchermata)

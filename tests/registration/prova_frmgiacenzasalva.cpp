@@ -7,6 +7,8 @@
 #include "screens/campi.h"
 #include "support/stampa.h"
 
+#include <QWindow>
+
 using namespace Qt::StringLiterals;
 
 using namespace giacenza;
@@ -25,6 +27,21 @@ INSTANTIATE_TEST_SUITE_P(Basi, RegistrazioneSalva, testing::Values("sqlite", "ma
 Messaggio dellApplicazione(const QString& testo, Stile stile)
 {
     return {testo, stile, titoloApplicazione()};
+}
+
+TEST_P(RegistrazioneSalva, MentreSiStampaLaSchermataNonStaSopraLeAltre)
+{
+    const auto inPrimoPiano = [this] {
+        return mSchermata->windowHandle()->flags().testFlag(Qt::WindowStaysOnTopHint);
+    };
+    consegna(u"4711"_s);
+    EXPECT_TRUE(inPrimoPiano());
+    std::optional<bool> durante;
+    mDuranteStampa = [&] { durante = inPrimoPiano(); };
+    clicca("cmdSalva");
+    mMessaggi.prendi();
+    EXPECT_EQ(durante, false);
+    EXPECT_TRUE(inPrimoPiano());
 }
 
 TEST_P(RegistrazioneSalva, IlCasoGuardatoPrimaNonPrestaLeSueDate)
