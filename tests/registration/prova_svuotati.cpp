@@ -4,6 +4,7 @@
 
 #include "support/stampa.h"
 
+#include <QKeyEvent>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -50,8 +51,10 @@ TEST_P(Svuotati, SoloCtrlZRiportaESubito)
     QTest::keyPress(c("txtDescGia"), Qt::Key_Control);
     QTest::keyClick(c("txtDescGia"), Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(mostrato("txtDescGia"), QString());
-    QTest::keyPress(c("txtDescGia"), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(mostrato("txtDescGia"), u"chiuso"_s) << "the key is still down";
+    // By itself: a test's key brings what Qt asks of shortcuts, and its release.
+    QKeyEvent premuto(QEvent::KeyPress, Qt::Key_Z, Qt::ControlModifier);
+    QCoreApplication::sendEvent(c("txtDescGia"), &premuto);
+    EXPECT_EQ(mostrato("txtDescGia"), u"chiuso"_s);
 }
 
 TEST_P(Svuotati, UnaRicercaFallitaNonConsumaLOfferta)
