@@ -1,4 +1,3 @@
-#include "dialogs/frmCalendario.h"
 #include "registration/registrazionediprova.h"
 #include "screens/campi.h"
 #include "search/frmRicerca.h"
@@ -7,10 +6,6 @@
 #include "support/stampa.h"
 #include "support/trova.h"
 
-#include <giacenza/RicercaTabella.h>
-
-#include <QComboBox>
-#include <QFile>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QTableView>
@@ -247,68 +242,6 @@ TEST_P(Ricerche, LaRicercaDelClienteAnnullataNonTocca)
     EXPECT_EQ(mostrato("txtCodiceCli"), u"1001"_s);
     EXPECT_EQ(mostrato("barCliente"), u"Ferramenta Lombarda S.r.l."_s);
     EXPECT_TRUE(c("cmdData")->isEnabled());
-}
-
-TEST_P(Ricerche, IlGiornoSiSceglieDalCalendario)
-{
-    consegna(u"4711"_s);
-    const QuandoAperta<frmCalendario> intanto([](frmCalendario& dialogo) {
-        EXPECT_EQ(dialogo.DataAttuale(), QDate(2026, 11, 12)) << "from the working date";
-        QTest::mouseClick(trova<QWidget>(dialogo, u"cmdReset"_s), Qt::LeftButton);
-    });
-    scrivi("txtDataGia", u"01112026"_s);
-    clicca("cmdData");
-    EXPECT_EQ(mostrato("txtDataGia"), u"21/11/2026"_s);
-    EXPECT_EQ(mostrato("lblDataLav"), u"21/11/2026"_s);
-    EXPECT_EQ(mostrato("barGiorniSosta"), u"0"_s);
-}
-
-TEST_P(Ricerche, LaFilialeSiSceglieDallaTabella)
-{
-    /// A table search that gives one row back at once.
-    class Tabella : public RicercaTabella
-    {
-    public:
-        void setPercorsoDatabase(const QString& percorso) override { mPercorso = percorso; }
-        void setScelta(Scelta scelta) override { mScelta = std::move(scelta); }
-        void mostra(const QString& istruzione, const QString& titolo, QWidget*) override
-        {
-            EXPECT_EQ(istruzione, u"select codice, descrizione from filiali;"_s);
-            EXPECT_EQ(titolo, u"Ricerca Filiale"_s);
-            EXPECT_FALSE(mPercorso.isEmpty());
-            mScelta({u"BO"_s, u"Bologna"_s});
-        }
-
-    private:
-        QString mPercorso;
-        Scelta mScelta;
-    };
-    registraParte(QString::fromUtf16(classeRicercaTabella), [] { return std::make_unique<Tabella>(); });
-    apri();
-    tasto("txtFilialeGia", Qt::Key_F12);
-    registraParte(QString::fromUtf16(classeRicercaTabella), {});
-    EXPECT_EQ(mostrato("txtFilialeGia"), u"BO"_s);
-    EXPECT_EQ(mostrato("barFilialeGia"), u"Bologna"_s);
-}
-
-TEST_P(Ricerche, F11TieneLaNaturaDellaMerce)
-{
-    apri();
-    auto* natura = qobject_cast<QComboBox*>(c("cmbNaturaMerce"));
-    natura->setEditText(u"vino sfuso"_s);
-    tasto("cmbNaturaMerce", Qt::Key_F11);
-    EXPECT_EQ(natura->count(), 2);
-    EXPECT_EQ(natura->itemText(0), u"VEDI DDT"_s);
-    EXPECT_EQ(natura->itemText(1), u"VINO SFUSO"_s);
-    EXPECT_EQ(natura->currentText(), u"vino sfuso"_s);
-    QFile file(mCartella.filePath(u"listbox.dat"_s));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll().simplified(), QByteArray("VEDI DDT VINO SFUSO"));
-    tasto("cmbNaturaMerce", Qt::Key_F11);
-    EXPECT_THAT(
-        mMessaggi.prendi(),
-        ElementsAre(Messaggio{u"Impossibile aggiungere il valore nella lista del controllo Natura merce"_s,
-                              Stile::informazione, u"Gestione Trasporti"_s}));
 }
 
 } // namespace

@@ -1,4 +1,3 @@
-#include "screens/aspetto.h"
 #include "screens/campi.h"
 #include "screens/misure.h"
 #include "screens/tutteleschermate.h"
@@ -216,56 +215,6 @@ TEST_P(Normale, IlCarattereSiPuoCambiareASchermataAperta)
     EXPECT_TRUE(QTest::qWaitFor([&] {
         return trova<QLineEdit>(schermata.get(), u"txtContrassegno"_s)->minimumWidth() > prima * 1.3;
     }));
-}
-
-TEST_P(Normale, IlNumeroDellaGiacenzaRisalta)
-{
-    const auto schermata = creaSchermata(GetParam());
-    schermata->show();
-    const QFont numero = trova<QLabel>(schermata.get(), u"lblNrGia"_s)->font();
-    EXPECT_TRUE(numero.bold());
-    EXPECT_DOUBLE_EQ(numero.pointSizeF(), schermata->font().pointSizeF() * 1.15);
-}
-
-/// Counts the changes of a style.
-class ContaStili : public QObject
-{
-public:
-    using QObject::QObject;
-    bool eventFilter(QObject*, QEvent* evento) override
-    {
-        mQuanti += evento->type() == QEvent::StyleChange ? 1 : 0;
-        return false;
-    }
-    int mQuanti = 0;
-};
-
-TEST_P(Normale, OgniCambioDiStileSiSegueEFinisce)
-{
-    const auto schermata = creaSchermata(GetParam());
-    schermata->show();
-    ContaStili conta;
-    schermata->installEventFilter(&conta);
-    for (int volta = 0; volta < 3; ++volta) {
-        schermata->setStyleSheet({});
-        EXPECT_TRUE(QTest::qWaitFor([&] { return schermata->styleSheet() == aspettoSchermata(); }));
-        QCoreApplication::processEvents(); // following it is a change, too
-        conta.mQuanti = 0;
-        QTest::qWait(1);
-        EXPECT_EQ(conta.mQuanti, 0);
-    }
-}
-
-TEST_P(Normale, LaGrandezzaSceltaRestaQuandoSiRimostra)
-{
-    const auto schermata = creaSchermata(GetParam());
-    schermata->show();
-    const QSize scelta = schermata->minimumSizeHint();
-    ASSERT_LT(scelta.height(), schermata->height());
-    schermata->resize(scelta);
-    schermata->hide();
-    schermata->show();
-    EXPECT_EQ(schermata->size(), scelta);
 }
 
 /// How well two colours can be told apart, from 1 to 21.
