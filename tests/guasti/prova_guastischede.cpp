@@ -175,8 +175,8 @@ TEST_P(GuastiSchede, UnaNotaInDubbioSiScioglieQuandoLArchivioRisponde)
             muto = muto || (cade && istruzione == inserimento);
         };
         apri<FinestraCaso>(mAperta);
-        const auto* nota = trova<QPlainTextEdit>(*mFinestra, u"txtNota"_s);
-        trova<QPlainTextEdit>(*mFinestra, u"txtNota"_s)->setPlainText(u"Richiamare lunedì"_s);
+        auto* nota = trova<QPlainTextEdit>(*mFinestra, u"txtNota"_s);
+        nota->setPlainText(u"Richiamare lunedì"_s);
         GuastiOdbc guasti;
         guasti.pianta(
             inserimento, 0,
@@ -196,6 +196,7 @@ TEST_P(GuastiSchede, UnaNotaInDubbioSiScioglieQuandoLArchivioRisponde)
         EXPECT_EQ(note(), prima + 1);
         EXPECT_EQ(eventi(), 4 + prima);
         mFinestra.reset();
+        mAccesso.traccia = {};
     }
 }
 

@@ -48,7 +48,7 @@ TEST_P(Svuotati, SoloCtrlZRiporta)
     consegna(u"4712"_s);
     QWidget* campo = c("txtFilialeGia");
     campo->setFocus();
-    QTest::keyPress(campo, Qt::Key_Control);
+    QTest::keyClick(campo, Qt::Key_Control);
     QTest::keyClick(campo, Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(mostrato("txtFilialeGia"), QString());
     annulla("txtFilialeGia");

@@ -76,6 +76,18 @@ TEST_P(Finestra, OgniCambioDiStileSiSegueEFinisce)
     }
 }
 
+TEST_P(Finestra, UnEtichettaPienaNonSiAllargaConLoStile)
+{
+    mSchermata->show();
+    auto* numero = trova<QLabel>(mSchermata.get(), u"lblNrGia"_s);
+    const int larghezza = numero->minimumWidth();
+    EXPECT_GT(larghezza, 0);
+    numero->setText(u"00000000000000000000"_s);
+    mSchermata->setStyleSheet({});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return mSchermata->styleSheet() == aspettoSchermata(); }));
+    EXPECT_EQ(numero->minimumWidth(), larghezza);
+}
+
 TEST_P(Finestra, LaGrandezzaSceltaRestaQuandoSiRimostra)
 {
     mSchermata->show();
