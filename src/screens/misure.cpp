@@ -38,8 +38,9 @@ int larghezzaRiga(const QLineEdit* riga, const QString& testo)
 }
 
 /// The same of a label, whose padding only the style sheet knows: what its hint has over its text.
-int larghezzaEtichetta(const QLabel* etichetta, const QString& testo)
+int larghezzaEtichetta(QLabel* etichetta, const QString& testo)
 {
+    etichetta->setMinimumWidth(0); // its hint is never less, and it may have been measured before
     const QFontMetrics metrica = etichetta->fontMetrics();
     const int intorno = etichetta->sizeHint().width() - metrica.horizontalAdvance(etichetta->text());
     return metrica.horizontalAdvance(testo) + qMax(intorno, 0) + metrica.averageCharWidth();
@@ -114,7 +115,7 @@ void misuraCampi(QWidget* schermata)
         const QString testo = QString::fromUtf16(misura.piuLungo);
         if (const auto* riga = qobject_cast<QLineEdit*>(controllo))
             larghezza(controllo, larghezzaRiga(riga, testo), misura.largo);
-        else if (const auto* etichetta = qobject_cast<QLabel*>(controllo))
+        else if (auto* etichetta = qobject_cast<QLabel*>(controllo))
             larghezza(controllo, larghezzaEtichetta(etichetta, testo), misura.largo);
     }
 }

@@ -76,16 +76,19 @@ TEST_P(Finestra, OgniCambioDiStileSiSegueEFinisce)
     }
 }
 
-TEST_P(Finestra, UnEtichettaPienaNonSiAllargaConLoStile)
+TEST_P(Finestra, UnEtichettaNonSiAllargaPerQuelloCheMostra)
 {
     mSchermata->show();
     auto* numero = trova<QLabel>(mSchermata.get(), u"lblNrGia"_s);
-    const int larghezza = numero->minimumWidth();
-    EXPECT_GT(larghezza, 0);
-    numero->setText(u"00000000000000000000"_s);
-    mSchermata->setStyleSheet({});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return mSchermata->styleSheet() == aspettoSchermata(); }));
-    EXPECT_EQ(numero->minimumWidth(), larghezza);
+    const auto larghezza = [&](const QString& testo) {
+        numero->setText(testo);
+        mSchermata->setStyleSheet({}); // which has the fields measured anew
+        EXPECT_TRUE(QTest::qWaitFor([&] { return mSchermata->styleSheet() == aspettoSchermata(); }));
+        return numero->minimumWidth();
+    };
+    const int corto = larghezza(u"1"_s);
+    EXPECT_GT(corto, 0);
+    EXPECT_EQ(larghezza(u"00000000000000000000"_s), corto);
 }
 
 TEST_P(Finestra, LaGrandezzaSceltaRestaQuandoSiRimostra)
