@@ -229,21 +229,22 @@ QString FinestraInvio::riepilogo() const
                                                 : avvisi(quanti(Esito::fatto), mLavoro)};
     if (quanti(Esito::fatto) == 1 && mLavoro == Lavoro::avviso)
         parti[0] = u"1 avviso prodotto"_s;
-    if (quanti(Esito::lasciato) > 0)
-        parti << u"%1 lasciati fuori"_s.arg(quanti(Esito::lasciato));
-    if (quanti(Esito::rifiutato) > 0)
-        parti << u"%1 rifiutati"_s.arg(quanti(Esito::rifiutato));
-    if (quanti(Esito::incompleto) > 0)
-        parti << u"%1 contati e non stampati: ristamparli con Ctrl+P"_s.arg(quanti(Esito::incompleto));
-    if (quanti(Esito::ignoto) > 0)
-        parti
-            << u"%1 non si sa se contati: ripeterli non li conta due volte; quelli lasciati fuori perché avvisati oggi ristamparli con Ctrl+P"_s
-                   .arg(quanti(Esito::ignoto));
-    const auto mancano = static_cast<int>(mCasi.size() - mProssimo);
-    if (mSenzaArchivio && mancano > 0)
-        parti << u"%1 non cominciati: l'archivio non risponde"_s.arg(mancano);
-    else if (mInterrotto && mancano > 0)
-        parti << u"%1 non cominciati: interrotto"_s.arg(mancano);
+    const auto aggiungi = [&parti](int numero, const QString& uno, const QString& piu) {
+        if (numero > 0)
+            parti << (numero == 1 ? uno : piu.arg(numero));
+    };
+    aggiungi(quanti(Esito::lasciato), u"1 lasciato fuori"_s, u"%1 lasciati fuori"_s);
+    aggiungi(quanti(Esito::rifiutato), u"1 rifiutato"_s, u"%1 rifiutati"_s);
+    aggiungi(quanti(Esito::incompleto), u"1 contato e non stampato: ristamparlo con Ctrl+P"_s,
+             u"%1 contati e non stampati: ristamparli con Ctrl+P"_s);
+    aggiungi(quanti(Esito::ignoto),
+             u"1 non si sa se contato: ripeterlo non lo conta due volte; se resta fuori perché avvisato oggi "
+             "ristamparlo con Ctrl+P"_s,
+             u"%1 non si sa se contati: ripeterli non li conta due volte; quelli lasciati fuori perché "
+             "avvisati oggi ristamparli con Ctrl+P"_s);
+    const int mancano = mSenzaArchivio || mInterrotto ? static_cast<int>(mCasi.size() - mProssimo) : 0;
+    const QString perche = mSenzaArchivio ? u": l'archivio non risponde"_s : u": interrotto"_s;
+    aggiungi(mancano, u"1 non cominciato"_s + perche, u"%1 non cominciati"_s + perche);
     return parti.join(u", "_s) + u'.';
 }
 

@@ -79,7 +79,7 @@ TEST_P(ProvaInvio, primaSiVedeQuantiEAChiPoiCheNeEStato)
         EXPECT_THAT(albero.senzaNome, IsEmpty());
         conferma(finestra);
         finisci(finestra);
-        EXPECT_EQ(testo(finestra), u"4 avvisi prodotti, 1 lasciati fuori."_s);
+        EXPECT_EQ(testo(finestra), u"4 avvisi prodotti, 1 lasciato fuori."_s);
         EXPECT_THAT(esiti(finestra),
                     testing::IsSupersetOf({u"✓ avviso n. 1"_s, u"✓ avviso n. 3"_s, u"✓ avviso n. 2"_s}));
         QTest::keyClick(&finestra, Qt::Key_Escape);
@@ -181,7 +181,7 @@ TEST_P(ProvaInvio, chiDiceDiNoNonFermaGliAltri)
         conferma(finestra);
         finisci(finestra);
         EXPECT_EQ(testo(finestra),
-                  u"3 avvisi prodotti, 1 rifiutati, 1 contati e non stampati: ristamparli con Ctrl+P."_s);
+                  u"3 avvisi prodotti, 1 rifiutato, 1 contato e non stampato: ristamparlo con Ctrl+P."_s);
         EXPECT_THAT(esiti(finestra),
                     testing::IsSupersetOf({u"✗ rifiutata: chiusa il 20/11/2026"_s,
                                            u"⚠ avviso n. 2, non stampato: La stampante è spenta."_s}));
@@ -207,7 +207,7 @@ TEST_P(ProvaInvio, unArchivioCheNonRispondeFermaIlResto)
         conferma(finestra);
         finisci(finestra);
         EXPECT_EQ(testo(finestra),
-                  u"1 avviso prodotto, 1 rifiutati, 3 non cominciati: l'archivio non risponde."_s);
+                  u"1 avviso prodotto, 1 rifiutato, 3 non cominciati: l'archivio non risponde."_s);
         EXPECT_THAT(esiti(finestra), testing::Contains(u"non cominciata"_s).Times(3));
         QTest::keyClick(&finestra, Qt::Key_Escape);
     });

@@ -91,8 +91,8 @@ protected:
             if (!(fatte.at(i) ? fatta || ignota : rifiutata || ignota))
                 return false;
         }
-        EXPECT_EQ(mRiepilogo.contains(u"1 non si sa se contati: ripeterli non li conta due volte; quelli "
-                                      "lasciati fuori perché avvisati oggi ristamparli con Ctrl+P"_s),
+        EXPECT_EQ(mRiepilogo.contains(u"1 non si sa se contato: ripeterlo non lo conta due volte; se resta "
+                                      "fuori perché avvisato oggi ristamparlo con Ctrl+P"_s),
                   ignote == 1)
             << mRiepilogo.toStdString();
         const bool tutteDette = mEsiti.filter(u"✓ "_s).size() == fatte.size();
