@@ -225,8 +225,7 @@ std::optional<QString> SchedaCaso::scioglie()
 {
     if (const QString guasto = leggi(); !guasto.isEmpty())
         return u"Non si sa se la nota è stata aggiunta: premere ancora Aggiungi nota quando l'archivio "
-               u"risponde, non "
-               "la aggiunge due volte. "_s +
+               "risponde, non la aggiunge due volte. "_s +
                guasto;
     const Dubbio dubbio = *std::exchange(mInDubbio, {});
     return noteUguali() > dubbio.uguali ? std::optional(QString()) : std::nullopt;
