@@ -208,7 +208,7 @@ void FinestraDesk::letturaFinita()
     if (std::exchange(mFiltroRipreso, false))
         diciFiltroRipreso();
     if (mEsito->text().isEmpty() && !mGuastoFiliali.isEmpty())
-        dici(mGuastoFiliali, true);
+        dici(mGuastoFiliali, true, mDettaglioFiliali);
 }
 
 void FinestraDesk::letturaFallita(const QString& testo, const QString& dettaglio)
@@ -232,6 +232,7 @@ void FinestraDesk::filialiLette(const std::vector<Filiale>& filiali)
 void FinestraDesk::filialiFallite(const QString& testo, const QString& dettaglio)
 {
     mGuastoFiliali = u"Le filiali non si leggono. %1"_s.arg(testo);
+    mDettaglioFiliali = dettaglio;
     mElenco->diciGuastoFiliali(mGuastoFiliali, dettaglio);
     // The list that cannot be read, and what the operator waits for, go before.
     if (mGuastoElenco.isEmpty() && !mCercando)

@@ -115,6 +115,7 @@ private:
     QString mLettaAlle;           ///< when the list was read that stands there
     QString mGuastoElenco;        ///< what was said of a list that could not be read
     QString mGuastoFiliali;       ///< and of the branches
+    QString mDettaglioFiliali;    ///< with the driver's words
     std::vector<RigaCaso> mLette; ///< of a reading that replaces an earlier one
     Scadenzario* mScadenzario;
     ArchivioDesk* mArchivio;

@@ -220,6 +220,20 @@ TEST_P(ProvaDesk, leFilialiCheNonSiLeggonoSiDiconoFinoAllaLetturaCheRiesce)
     EXPECT_EQ(filiali->toolTip(), QString());
 }
 
+TEST_P(ProvaDesk, leFilialiCheTaccionoDietroLElencoSiDiconoConLeParoleDelDriver)
+{
+    const auto* filiali = figlio<QComboBox>(u"cmbFiliale");
+    mBase.esegui(u"alter table filiali rename to filiali_via;\nalter table giace00f rename to altrove"_s);
+    premi(Qt::Key_F5);
+    attendi([&] {
+        return detto().startsWith(u"L'elenco non si legge."_s) && !filiali->accessibleDescription().isEmpty();
+    });
+    mBase.esegui(u"alter table altrove rename to giace00f"_s);
+    premi(Qt::Key_F5);
+    attendi([&] { return detto() == filiali->accessibleDescription(); });
+    EXPECT_EQ(u"%1\n%2"_s.arg(detto(), figlio<QLabel>(u"lblEsito")->toolTip()), filiali->toolTip());
+}
+
 TEST_P(ProvaDesk, ogniControlloHaUnNomeSuo)
 {
     const AlberoAccessibile albero = alberoAccessibile(mFinestra.get());
