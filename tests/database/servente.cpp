@@ -123,7 +123,8 @@ TEST_F(Servente, cheTaceNonTieneFermoNessuno)
 {
     avvia();
     Connessione connessione;
-    connessione.apri(stringa(), Limiti{.comando = 1, .connessione = 1});
+    // Of a server that has just started.
+    connessione.apri(stringa(), Limiti{.comando = 1, .connessione = 4});
     ASSERT_NO_FATAL_FAILURE(sospendi());
     const ErroreDatabase errore = erroreDi([&] { connessione.esegui(u"create database x"_s); });
     EXPECT_EQ(errore.sqlstate(), u"08S01"_s);

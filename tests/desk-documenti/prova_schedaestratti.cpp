@@ -16,6 +16,8 @@
 #include <QThread>
 #include <QTimer>
 
+#include <functional>
+
 using namespace giacenza;
 using namespace giacenza::prove;
 using giacenza::schede::FinestraEstratti;
@@ -27,12 +29,15 @@ namespace {
 class Cancello
 {
 public:
+    /// chiuso: asked in that thread whether it is to wait already.
+    explicit Cancello(std::function<bool()> chiuso = [] { return true; }) : mChiuso(std::move(chiuso)) {}
+
     Accesso accesso(const BancaDati& base)
     {
         Accesso con = base.accesso();
         con.traccia = [this, prima = con.traccia](EventoDati evento, const QString& testo) {
             prima(evento, testo);
-            if (QThread::currentThread() == qApp->thread())
+            if (QThread::currentThread() == qApp->thread() || !mChiuso())
                 return;
             constexpr int pazienza = 60'000; // a test that fails ends all the same
             if (mAperto.tryAcquire(1, pazienza))
@@ -43,6 +48,7 @@ public:
     void apri() { mAperto.release(); }
 
 private:
+    std::function<bool()> mChiuso;
     QSemaphore mAperto;
 };
 
@@ -145,7 +151,8 @@ TEST_P(SchedaEstratti, ChiudendoUnaSecondaVoltaNonRestaNienteAMeta)
         clienti << u"('MI','%1',2026,%1,'%1',2026,'2026-11-10')"_s.arg(codice);
     mBase.esegui(u"insert into giace00f (GIFILI,GINRLV,GIANLV,GICODI,GINRGI,GIANGI,GIDTGI) values "_s +
                  clienti.join(u','));
-    auto finestra = apri();
+    Cancello cancello([this] { return !salvati().isEmpty(); });
+    auto finestra = apri(cancello.accesso(mBase));
     trova<QPushButton>(*finestra, u"cmdEsegui"_s)->click();
     auto* avanzamento = trova<QProgressBar>(*finestra, u"barAvanzamento"_s);
     ASSERT_EQ(avanzamento->maximum(), 42);
@@ -153,6 +160,7 @@ TEST_P(SchedaEstratti, ChiudendoUnaSecondaVoltaNonRestaNienteAMeta)
     QTest::keyClick(finestra.get(), Qt::Key_Escape);
     QTest::keyClick(finestra.get(), Qt::Key_Escape);
     EXPECT_FALSE(finestra->isVisible());
+    cancello.apri();
     finestra.reset();
     const QStringList tutti = salvati();
     EXPECT_GE(tutti.size(), 1);

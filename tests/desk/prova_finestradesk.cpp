@@ -202,6 +202,7 @@ TEST_P(ProvaDesk, unGuastoSiDiceELElencoResta)
 TEST_P(ProvaDesk, leFilialiCheNonSiLeggonoSiDiconoFinoAllaLetturaCheRiesce)
 {
     const auto* filiali = figlio<QComboBox>(u"cmbFiliale");
+    attendi([&] { return filiali->count() == 3; });
     mBase.esegui(u"alter table filiali rename to filiali_via"_s);
     premi(Qt::Key_F5);
     attendi([&] { return !filiali->accessibleDescription().isEmpty(); });

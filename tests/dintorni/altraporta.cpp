@@ -45,7 +45,9 @@ template<class Prova>
 class Altrove : public Prova
 {
 protected:
-    Altrove() { impostazioni().percorsoDatabase = ServerProprio::stringa(this->mBase.stringa(), mPorta); }
+    /// The screen that was opened with it waits so long for a server that does not answer, and for one that
+    /// is busy.
+    Altrove() { impostazioni().percorsoDatabase = ServerProprio::stringa(this->mBase.stringa(), mPorta, 3); }
     /// The test's databases are found, and dropped, where they were made.
     void TearDown() override
     {
@@ -70,7 +72,7 @@ protected:
             << "nobody listens where it was";
         // What the host does: cGiacenza::setPercorsoDatabase().
         impostazioni().percorsoDatabase =
-            ServerProprio::stringa(this->mBase.stringa(), Server::suo().porta());
+            ServerProprio::stringa(this->mBase.stringa(), Server::suo().porta(), 20);
         const QString detto = premi();
         EXPECT_TRUE(fatto()) << detto.toStdString();
     }

@@ -56,11 +56,11 @@ void ServerProprio::riavviaAltrove() const
     riavviaSu(QString::number(prima + (porta().toInt() - prima + quante / 2) % quante));
 }
 
-QString ServerProprio::stringa(const QString& base, const QString& porta)
+QString ServerProprio::stringa(const QString& base, const QString& porta, int secondi)
 {
     static const QRegularExpression voce(u"PORT=\\d+"_s);
     return QString(base).replace(voce, u"PORT="_s + porta) +
-           u";CONN_TIMEOUT=1;READ_TIMEOUT=1;WRITE_TIMEOUT=1"_s;
+           u";CONN_TIMEOUT=%1;READ_TIMEOUT=%1;WRITE_TIMEOUT=%1"_s.arg(secondi);
 }
 
 bool ServerProprio::prova(const QString& comando) const

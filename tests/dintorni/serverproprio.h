@@ -31,8 +31,9 @@ public:
     void riavviaSu(const QString& porta) const;
     void riavviaAltrove() const;
 
-    /// A connection string as it is for another port, of a workstation that waits a second for an answer.
-    static QString stringa(const QString& base, const QString& porta);
+    /// A connection string as it is for another port, of a workstation that waits so many seconds for an
+    /// answer.
+    static QString stringa(const QString& base, const QString& porta, int secondi);
 
 private:
     bool prova(const QString& comando) const;
