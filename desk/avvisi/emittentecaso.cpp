@@ -68,7 +68,7 @@ EsitoCaso EmittenteCaso::contaOra(const Caso& caso)
         return {Esito::rifiutato, u"la giacenza non c'è più"_s};
     Caso adesso = caso;
     adesso.avvisi = ora.valore(0).value_or(QString());
-    adesso.ultimoAvviso = leggiData(ora.valore(1).value_or(QString()).left(10)).value_or(QDate());
+    adesso.ultimoAvviso = leggiGiorno(ora.valore(1).value_or(QString())).value_or(QDate());
     ora.chiudi();
     if (const auto perche = lasciatoFuori(adesso, Lavoro::avviso, giorno))
         return {Esito::lasciato, *perche};

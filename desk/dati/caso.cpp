@@ -21,7 +21,7 @@ public:
     Valore valore(ColonnaCaso colonna) const { return mRiga.valore(static_cast<int>(colonna)); }
     QString testo(ColonnaCaso colonna) const { return valore(colonna).value_or(QString()); }
     int intero(ColonnaCaso colonna) const { return testo(colonna).toInt(); }
-    QDate data(ColonnaCaso colonna) const { return leggiData(testo(colonna).left(10)).value_or(QDate()); }
+    QDate data(ColonnaCaso colonna) const { return leggiGiorno(testo(colonna)).value_or(QDate()); }
 
 private:
     const Recordset& mRiga;

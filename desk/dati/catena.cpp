@@ -23,7 +23,7 @@ QString testo(const Recordset& riga, Colonna colonna)
 template<class Colonna>
 QDate data(const Recordset& riga, Colonna colonna)
 {
-    return leggiData(testo(riga, colonna).left(10)).value_or(QDate());
+    return leggiGiorno(testo(riga, colonna)).value_or(QDate());
 }
 
 Catena leggiTesta(const Recordset& riga, Connessione& connessione, QDate oggi, int giorniFerma)

@@ -19,9 +19,7 @@ Trovata leggiTrovata(const Recordset& riga, const QString& come)
     const auto testo = [&](ColonnaTrovata colonna) {
         return riga.valore(static_cast<int>(colonna)).value_or(QString());
     };
-    const auto data = [&](ColonnaTrovata colonna) {
-        return leggiData(testo(colonna).left(10)).value_or(QDate());
-    };
+    const auto data = [&](ColonnaTrovata colonna) { return leggiGiorno(testo(colonna)).value_or(QDate()); };
     Trovata t;
     t.ldv = {testo(ColonnaTrovata::lefili), testo(ColonnaTrovata::lenrlv),
              testo(ColonnaTrovata::leanlv).toInt()};

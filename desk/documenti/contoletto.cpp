@@ -11,7 +11,7 @@ DatiConto datiConto(const Recordset& riga)
     const auto testo = [&](const QString& colonna) {
         return riga.indice(colonna) < 0 ? QString() : riga.valore(colonna).value_or(QString());
     };
-    const auto giorno = [&](const QString& colonna) { return leggiData(testo(colonna).left(10)); };
+    const auto giorno = [&](const QString& colonna) { return leggiGiorno(testo(colonna)); };
     DatiConto dati;
     dati.caso = {testo(u"GINRGI"_s), testo(u"GIANGI"_s).toInt()};
     dati.ldv = {testo(u"GIFILI"_s), testo(u"GINRLV"_s), testo(u"GIANLV"_s).toInt()};

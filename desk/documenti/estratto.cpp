@@ -16,14 +16,14 @@ CasoEstratto datiCaso(const Recordset& riga)
     const auto testo = [&](const QString& colonna) { return riga.valore(colonna).value_or(QString()); };
     CasoEstratto caso;
     caso.conto.dati = datiConto(riga);
-    caso.dataLdv = leggiData(testo(u"ledtlv"_s).left(10)).value_or(QDate());
+    caso.dataLdv = leggiGiorno(testo(u"ledtlv"_s)).value_or(QDate());
     caso.riferimento = testo(u"lerife"_s);
     caso.localita = testo(u"lelocd"_s);
     caso.provincia = testo(u"leprod"_s);
     caso.colli = testo(u"lecoll"_s);
     caso.peso = testo(u"lepeso"_s);
     caso.avvisi = testo(u"GINRAV"_s);
-    caso.ultimoAvviso = leggiData(testo(u"GIDTAV"_s).left(10));
+    caso.ultimoAvviso = leggiGiorno(testo(u"GIDTAV"_s));
     return caso;
 }
 

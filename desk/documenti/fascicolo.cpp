@@ -62,7 +62,7 @@ void lettereVettura(std::vector<PaginaReport>& pagine, Connessione& connessione,
     Recordset ldv;
     for (ldv.apri(connessione, istruzioni::ldvCollegate(), Recordset::Cursore::chiave, valori); !ldv.eof();
          ldv.successivo()) {
-        const auto data = leggiData(ldv.valore(u"ledtlv"_s).value_or(QString()).left(10));
+        const auto data = leggiGiorno(ldv.valore(u"ledtlv"_s).value_or(QString()));
         if (data)
             collegate.push_back({ldv.valore(u"lefili"_s).value_or(QString()),
                                  ldv.valore(u"lenrlv"_s).value_or(QString()),

@@ -16,7 +16,7 @@ public:
     /// A null or empty day leaves the event out.
     Evento* aggiungi(const Valore& giorno, const QString& fatto, const QString& che)
     {
-        const auto data = leggiData(giorno.value_or(QString()).left(10));
+        const auto data = leggiGiorno(giorno.value_or(QString()));
         if (!data)
             return nullptr;
         Evento evento;

@@ -19,7 +19,7 @@ struct Parti
 
 QString giorno(const QString& testo)
 {
-    const auto letto = leggiData(testo.left(10));
+    const auto letto = leggiGiorno(testo);
     return letto ? dataBreve(*letto) : testo;
 }
 

@@ -55,7 +55,7 @@ std::optional<qint16> contaAvviso(Connessione& connessione, const Accesso& acces
             std::visit([&](const auto& c) { return istruzioni::primoAvviso(c, oggi); }, chiave));
         return 1;
     }
-    const auto ultimo = leggiData(stato.data);
+    const auto ultimo = leggiGiorno(stato.data);
     if (!ultimo)
         throw ErroreConversione(u"La data dell'ultimo avviso non è una data: \"%1\""_s.arg(stato.data));
     if (*ultimo >= oggi)

@@ -30,7 +30,7 @@ std::optional<QDate> LeggiDataBuonFine(const Accesso& accesso, const ChiaveCaso&
     connessione.apri(accesso);
     Recordset caso;
     caso.apri(connessione, istruzione);
-    return caso.eof() ? std::nullopt : leggiData(caso.valore(0).value_or(QString()));
+    return caso.eof() ? std::nullopt : leggiGiorno(caso.valore(0).value_or(QString()));
 }
 
 std::optional<CondizioniSosta> leggiCondizioni(Connessione& connessione, const QString& numeroLdv,

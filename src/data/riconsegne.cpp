@@ -24,7 +24,7 @@ ContoRiconsegne ContaRiconsegne(Connessione& connessione, const ChiaveGiacenza& 
     if (legate.eof())
         return {EsitoRiconsegne::inesistente};
     const auto precedenti = static_cast<qint16>(ContaRecord(legate) - 1);
-    if (eData(legate.valore(u"GIDTBF"_s).value_or(QString()).left(10)))
+    if (leggiGiorno(legate.valore(u"GIDTBF"_s).value_or(QString())))
         return {EsitoRiconsegne::chiusa};
     if (precedenti != 0)
         return {EsitoRiconsegne::giaRiconsegnata, precedenti};

@@ -103,7 +103,7 @@ QString giaTenuta(Connessione& schermo, const DatiGiacenza& dati)
         if (giacenza.eof())
             return {};
         const auto testo = [&](int colonna) { return giacenza.valore(colonna).value_or(QString()); };
-        const auto dal = leggiData(testo(2).left(10));
+        const auto dal = leggiGiorno(testo(2));
         return u"%1 La LDV %2 è già la giacenza %3/%4%5."_s.arg(
             rifiutoGiaInGiacenza(), dati.numeroLdv, testo(0), testo(1),
             dal ? u" del "_s + dataBreve(*dal) : QString());

@@ -41,6 +41,12 @@ std::optional<QDate> leggiData(const QString& testo)
     return giorno.isValid() ? std::optional(giorno) : std::nullopt;
 }
 
+std::optional<QDate> leggiGiorno(const QString& valore)
+{
+    constexpr int lunghezzaData = 10;
+    return leggiData(valore.left(lunghezzaData));
+}
+
 QString dataBreve(QDate data)
 {
     return data.toString(u"dd/MM/yyyy");

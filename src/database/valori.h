@@ -22,6 +22,10 @@ bool soloCifre(const QString& testo);
 /// nothing.
 std::optional<QDate> leggiData(const QString& testo);
 
+/// The day of a column's value; a host may keep days with a time of day, which follows the ten characters of
+/// the day.
+std::optional<QDate> leggiGiorno(const QString& valore);
+
 inline bool eData(const QString& testo)
 {
     return leggiData(testo).has_value();

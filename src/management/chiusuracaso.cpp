@@ -28,13 +28,18 @@ void ChiusuraCaso::ChiudiGiacenza()
     }
     scrivi(*caso);
     CalcolaCostiGiacenza();
-    if (mUi.optCostiNo->isChecked())
-        NascondiCostiBuonFine();
+    nascondiCosti();
     mParti.stampa.stampa(
         TipoDocumento::buonFine, *caso, leggiDidascalie(),
         {u"Giacenza %1 chiusa, documento di buon fine prodotto. Si può ristampare l'avviso e ripetere la "
          "chiusura, con o senza i costi."_s,
          u"Il documento di buon fine non è stato stampato; la giacenza resta chiusa."_s});
+}
+
+void ChiusuraCaso::nascondiCosti() const
+{
+    if (mUi.optCostiNo->isChecked())
+        NascondiCostiBuonFine();
 }
 
 void ChiusuraCaso::scrivi(const ChiaveGiacenza& caso)
@@ -44,6 +49,8 @@ void ChiusuraCaso::scrivi(const ChiaveGiacenza& caso)
     mSchermata.attendi();
     // The first date stays, also one that another workstation wrote since the case was brought up.
     const auto prima = LeggiDataBuonFine(accessoHost(), caso);
+    if (prima)
+        nascondiCosti();
     const QDate giorno = prima.value_or(oggi());
     mSchermata.connessione().esegui(prima ? istruzioni::chiusuraRipetuta(caso, giorni)
                                           : istruzioni::chiusura(caso, giorno, giorni));

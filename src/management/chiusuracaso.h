@@ -22,6 +22,8 @@ public:
     void ChiudiGiacenza();
 
 private:
+    /// Where the operator wants no costs on the document.
+    void nascondiCosti() const;
     void scrivi(const ChiaveGiacenza& caso);
     void CalcolaCostiGiacenza();
     void SalvaCostiGiacenza(const ChiaveSpedizione& ldv, const ImportiGiacenza& importi);

@@ -75,6 +75,7 @@ void RichiamoCaso::pulisciFuoriDa(const QList<QWidget*>& tenuti)
     const auto blocchi = mSchermata.findChildren<QPlainTextEdit*>();
     for (QPlainTextEdit* blocco : blocchi)
         scrivi(blocco, {});
+    scrivi(mUi.cmbPorto, {});
     mUi.cmbPorto->setCurrentIndex(-1);
     for (QLabel* barra : {mUi.barVettore, mUi.barLineaCli})
         scrivi(barra, {});

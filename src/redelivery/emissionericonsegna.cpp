@@ -52,6 +52,7 @@ void EmissioneRiconsegna::esegui()
             emetti(ldv, scelte.stampa, contesto(scelte, conto));
     }
     mSchermata.rilasciaConnessione();
+    mEmessa = mEmessa || emessa;
     if (emessa)
         mUi.cmdRiconsegna->setEnabled(false);
 }

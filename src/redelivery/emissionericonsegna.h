@@ -19,6 +19,9 @@ public:
 
     void riconsegna();
 
+    /// Whether a waybill was handed to the issuer since the screen was opened.
+    bool emessa() const { return mEmessa; }
+
 private:
     struct Scelte
     {
@@ -40,6 +43,7 @@ private:
     const Ui::frmRiconsegna& mUi;
     PartiComuni& mParti;
     bool mInCorso = false;
+    bool mEmessa = false;
 };
 
 } // namespace giacenza

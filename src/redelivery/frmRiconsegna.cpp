@@ -14,7 +14,7 @@ namespace giacenza {
 frmRiconsegna::frmRiconsegna()
     : Schermata(u"frmRiconsegna"_s), mUi(creaForma<Ui::frmRiconsegna>(this)),
       mParti(*this, ControlliComuni::di(*mUi), mappaRiconsegna(),
-             {.cliente = {.titoloErrato = titoloGestione}}),
+             {.cliente = {.titoloErrato = titoloGestione}, .senzaRiquadri = true}),
       mElenco(*this, mParti.cliente, mUi->txtFiliale),
       mNumero(*this, ModoRicerca::letteraVettura, mUi->txtLDV, mUi->txtDataLdv,
               silenzioso([this] { cercaNellElenco(mNumero); })),
@@ -52,6 +52,7 @@ void frmRiconsegna::carica()
 {
     Schermata::carica();
     mParti.riempi();
+    setWindowTitle(etichettaReso(impostazioni().movimento));
 }
 
 bool frmRiconsegna::event(QEvent* evento)
@@ -94,6 +95,7 @@ void frmRiconsegna::eseguiConsegna()
     scrivi(mUi->txtLDV, mNLettVett);
     scrivi(mUi->txtDataLdv, dataBreve(*giorno));
     cercaPerNumero();
+    mParti.cliente.ripetiGuasto();
 }
 
 std::function<void()> frmRiconsegna::silenzioso(std::function<void()> azione)
@@ -152,14 +154,12 @@ void frmRiconsegna::mostra(const QString& numero, QDate giorno)
     const QString altra = altraDaQuellaConsegnata(numero, giorno);
     trattieni(!altra.isEmpty());
     if (!altra.isEmpty())
-        stato(altra);
+        mParti.spedizione.stato(altra);
     else
-        stato(inGiacenza ? QString() : u"Questa lettera di vettura non è in giacenza."_s);
-    if (inGiacenza)
-        return;
-    // They belong to the date and the branch of another held shipment, which stand beside them as left-overs.
-    scrivi(mUi->barGiorniSosta, {});
-    scrivi(mUi->barFilialeGia, {});
+        mParti.spedizione.stato(inGiacenza ? QString() : u"Questa lettera di vettura non è in giacenza."_s);
+    // Of another held shipment's date, which stands beside them as a left-over.
+    if (eAvanzo(mUi->txtDataGia))
+        scrivi(mUi->barGiorniSosta, {});
 }
 
 QString frmRiconsegna::altraDaQuellaConsegnata(const QString& numero, QDate giorno) const
@@ -180,6 +180,8 @@ QString frmRiconsegna::altraDaQuellaConsegnata(const QString& numero, QDate gior
 void frmRiconsegna::trattieni(bool trattenuta)
 {
     // A waybill that was issued put the button out for good.
+    if (mEmissione.emessa())
+        return;
     if (trattenuta && mUi->cmdRiconsegna->isEnabledTo(this)) {
         mTrattenuta = true;
         mUi->cmdRiconsegna->setEnabled(false);
@@ -190,15 +192,16 @@ void frmRiconsegna::trattieni(bool trattenuta)
 
 Seguito frmRiconsegna::lascia(const ChiaveRicerca& chiave)
 {
-    if (!chiave.modificata() || chiave.valore().isEmpty() || !chiave.giorno())
+    if (!chiave.modificata() || chiave.data().isEmpty())
+        return {};
+    if (mParti.cliente.codice().isEmpty())
+        return silenzioso([this] { mParti.cliente.scelto(); });
+    if (chiave.valore().isEmpty() || !chiave.giorno())
         return {};
     if (!chiave.perNumero())
-        return silenzioso([this, &chiave] {
-            if (mParti.cliente.scelto())
-                cercaNellElenco(chiave);
-        });
+        return silenzioso([this, &chiave] { cercaNellElenco(chiave); });
     const auto cerca = silenzioso([this] { cercaPerNumero(); });
-    if (mParti.cliente.codice().isEmpty() || !eNumero(chiave.valore()))
+    if (!eNumero(chiave.valore()))
         return cerca;
     cerca();
     return {};
@@ -208,7 +211,7 @@ Seguito frmRiconsegna::convalidaFilialeGia()
 {
     // The branch is checked as if it were a customer: the depot wants it so. Nothing is taken from what is
     // found, and the focus goes where it was going: a branch's code is often no number.
-    return mParti.cliente.verifica(mUi->txtFilialeGia->text().trimmed(),
+    return mParti.cliente.verifica(testo(mUi->txtFilialeGia).trimmed(),
                                    gestore([this] { mParti.cliente.diciErrato(); }));
 }
 

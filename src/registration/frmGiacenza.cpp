@@ -75,6 +75,7 @@ void frmGiacenza::eseguiConsegna()
     scrivi(mUi->txtDataLdv, dataBreve(*giorno));
     scrivi(mUi->txtFiliale, mFiliale);
     const bool trovata = mRicerca.perNumero();
+    mParti.cliente.ripetiGuasto();
     // Leaving a code that was refused would check it, and tell it, once more.
     if (!rifiuto)
         (trovata ? mUi->txtFilialeGia : mUi->txtDataGia)->setFocus(Qt::TabFocusReason);

@@ -64,6 +64,7 @@ void RicercaLdv::registrata()
         digitato->dimentica();
     segnaDelCaso(mUi.txtDescGia);
     segnaDelCaso(mUi.txtFilialeGia);
+    segnaDelCaso(mUi.txtDataGiaOld);
 }
 
 void RicercaLdv::rigaMostrata(const Recordset& riga)
@@ -243,7 +244,7 @@ bool RicercaLdv::mostra(const QString& istruzione, const QString& nonTrovata)
     QString detto = mTrovata ? diAltroCliente() : nonTrovata;
     if (!detto.isEmpty() && !offerta().isEmpty())
         detto += mTrovata ? u". "_s : u" "_s;
-    mSchermata.stato(detto + offerta());
+    mParti.spedizione.stato(detto + offerta());
     return mTrovata;
 }
 

@@ -36,6 +36,9 @@ CampoCliente::CampoCliente(Schermata& schermata, const Controlli& controlli, Dif
         mSchermata.setAttribute(Qt::WA_KeyboardFocusChange);
         mControlli.cerca->setFocus(Qt::TabFocusReason);
     });
+    // The name belongs to the code that was there.
+    QObject::connect(mControlli.codice, &QLineEdit::textEdited, &schermata,
+                     [this] { scrivi(mControlli.barra, {}); });
     const auto ricerca = schermata.gestore([this] { cerca(); });
     QObject::connect(mControlli.cerca, &QPushButton::clicked, &schermata, ricerca);
     suTasto(mControlli.codice, Qt::Key_F12, ricerca);
@@ -67,7 +70,8 @@ bool CampoCliente::scelto()
     if (!codice().isEmpty())
         return true;
     mSchermata.messaggio(u"Selezionare il codice cliente."_s, Stile::avviso);
-    mControlli.codice->setFocus();
+    // The date that asked for the customer would ask once more when it is left.
+    mSchermata.convalida().senzaVerifiche([this] { mControlli.codice->setFocus(); });
     return false;
 }
 
@@ -98,12 +102,20 @@ Seguito CampoCliente::imposta(const QString& codice)
 {
     blocca(false);
     scrivi(mControlli.codice, codice);
+    scrivi(mControlli.barra, {});
     return convalida();
+}
+
+void CampoCliente::ripetiGuasto() const
+{
+    if (mGuasto)
+        mSchermata.aggiungiGuasto(*mGuasto, u"Il cliente non si legge. "_s);
 }
 
 Seguito CampoCliente::verifica(const QString& codice, const Seguito& errato,
                                const std::function<void(const QString&)>& trovato)
 {
+    mGuasto.reset();
     if (codice.isEmpty())
         return {};
     if (!eNumero(codice))
@@ -119,6 +131,7 @@ Seguito CampoCliente::verifica(const QString& codice, const Seguito& errato,
             trovato(cliente.valore(0).value_or(QString()));
     } catch (const ErroreDatabase& errore) {
         mSchermata.statoGuasto(errore);
+        mGuasto = errore;
     }
     return {};
 }

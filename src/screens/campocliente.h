@@ -42,6 +42,9 @@ public:
     /// Puts a code in the place of the one that is there, locked or not, and finds its customer.
     Seguito imposta(const QString& codice);
 
+    /// Adds to the status line that the customer of the last code could not be read, when that is so.
+    void ripetiGuasto() const;
+
     /// Looks a code up as the field does; the empty one is nothing to look up. errato: what is to be done
     /// when it is no number. trovato: given the customer's name, may be empty. A customer that is not there
     /// is told.
@@ -63,6 +66,8 @@ private:
     Differenze mDifferenze;
     /// The code that was told last as not being there.
     QString mInesistente;
+    /// Why the customer of the last code could not be read.
+    std::optional<ErroreDatabase> mGuasto;
 };
 
 } // namespace giacenza

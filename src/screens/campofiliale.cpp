@@ -16,21 +16,22 @@ using namespace Qt::StringLiterals;
 
 namespace giacenza {
 
-CampoFiliale::CampoFiliale(Schermata& schermata, QLineEdit* codice, QLabel* barra, QLabel* avvertenza)
-    : mSchermata(schermata), mCodice(codice), mBarra(barra), mConAvvertenza(avvertenza),
-      mAvvertenza(codice, avvertenza)
+CampoFiliale::CampoFiliale(Schermata& schermata, const Controlli& controlli, bool senzaRiquadri)
+    : mSchermata(schermata), mSenzaRiquadri(senzaRiquadri), mCodice(controlli.codice),
+      mBarra(controlli.barra), mConAvvertenza(controlli.avvertenza),
+      mAvvertenza(controlli.codice, controlli.avvertenza)
 {
-    suTasto(codice, Qt::Key_F12, schermata.gestore([this] { cerca(); }));
+    suTasto(mCodice, Qt::Key_F12, schermata.gestore([this] { cerca(); }));
     // The name belongs to the code that was there.
-    QObject::connect(codice, &QLineEdit::textEdited, &schermata, [this] { scrivi(mBarra, {}); });
+    QObject::connect(mCodice, &QLineEdit::textEdited, &schermata, [this] { scrivi(mBarra, {}); });
     // A code half typed is no wrong one yet; a row, or a lookup that clears it, is told at once.
-    QObject::connect(codice, &QLineEdit::editingFinished, &schermata, [this] { avverti(); });
+    QObject::connect(mCodice, &QLineEdit::editingFinished, &schermata, [this] { avverti(); });
     const auto senzaDigitare = [this] {
         if (!mCodice->hasFocus() || testo(mCodice).isEmpty())
             avverti();
     };
-    QObject::connect(codice, &QLineEdit::textChanged, &schermata, senzaDigitare);
-    quandoCambiaAvanzo(codice, senzaDigitare);
+    QObject::connect(mCodice, &QLineEdit::textChanged, &schermata, senzaDigitare);
+    quandoCambiaAvanzo(mCodice, senzaDigitare);
 }
 
 void CampoFiliale::leggiFiliali()
@@ -55,24 +56,32 @@ void CampoFiliale::cerca()
         scrivi(mBarra, valori.value(1));
     });
     mSchermata.attendi();
-    mSchermata.durante(
-        [&] { ricerca.parte->mostra(istruzioni::elencoFiliali(), u"Ricerca Filiale"_s, &mSchermata); });
+    try {
+        mSchermata.durante(
+            [&] { ricerca.parte->mostra(istruzioni::elencoFiliali(), u"Ricerca Filiale"_s, &mSchermata); });
+    } catch (const ErroreDatabase& errore) {
+        if (!mSenzaRiquadri)
+            throw;
+        mSchermata.statoGuasto(errore);
+    }
 }
 
-void CampoFiliale::leggiNome()
+std::optional<ErroreDatabase> CampoFiliale::leggiNome()
 {
     // Also where the focus waits in the field: nothing was typed there.
     avverti();
     const QString codice = testo(mCodice);
-    if (codice.isEmpty())
-        return;
+    if (codice.isEmpty()) {
+        scrivi(mBarra, {});
+        return {};
+    }
     try {
         Recordset filiale;
         filiale.apri(mSchermata.connessione(), istruzioni::descrizioneFiliale(codice));
-        if (!filiale.eof())
-            scrivi(mBarra, filiale.valore(0).value_or(QString()));
+        scrivi(mBarra, filiale.eof() ? QString() : filiale.valore(0).value_or(QString()));
+        return {};
     } catch (const ErroreDatabase& errore) {
-        mSchermata.statoGuasto(errore);
+        return errore;
     }
 }
 

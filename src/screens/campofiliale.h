@@ -12,20 +12,29 @@ namespace giacenza {
 class CampoFiliale
 {
 public:
-    /// avvertenza: where it says that the code is no branch's; null on a screen that does not.
-    CampoFiliale(Schermata& schermata, QLineEdit* codice, QLabel* barra, QLabel* avvertenza);
+    struct Controlli
+    {
+        QLineEdit* codice;
+        QLabel* barra;
+        QLabel* avvertenza; ///< where it says that the code is no branch's; null on a screen that does not
+    };
+
+    /// senzaRiquadri: a list of branches that cannot be read is told in the status line and not in a box.
+    CampoFiliale(Schermata& schermata, const Controlli& controlli, bool senzaRiquadri);
 
     /// Reads the branches for the hint, once, when the screen is loaded; nothing where no hint is given.
     void leggiFiliali();
 
-    /// Shows the name of the code that a row has filled in.
-    void leggiNome();
+    /// Shows the name of the code that a row has filled in, none where it names none. Gives why it could not
+    /// be read: the bar is then as it was.
+    std::optional<ErroreDatabase> leggiNome();
 
 private:
     void cerca();
     void avverti();
 
     Schermata& mSchermata;
+    bool mSenzaRiquadri;
     QLineEdit* mCodice;
     QLabel* mBarra;
     bool mConAvvertenza;

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFocusEvent>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QWidget>
 
 namespace giacenza {
@@ -24,6 +25,12 @@ Seguito Convalida::verificaCorrente() const
 {
     const Verifica verifica = mVerifiche.value(QApplication::focusWidget());
     return verifica && !mSospesa && !mInCorso ? verifica() : Seguito();
+}
+
+void Convalida::senzaVerifiche(const std::function<void()>& azione)
+{
+    const QScopedValueRollback<bool> sospesa(mSospesa, true);
+    azione();
 }
 
 bool Convalida::daVerificare(const QWidget* campo) const

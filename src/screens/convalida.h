@@ -41,6 +41,9 @@ public:
     /// another one; a click, or a key that names a field, has chosen already.
     bool conTab() const { return mMotivo == Qt::TabFocusReason; }
 
+    /// Does what moves the focus, without the field that loses it being checked.
+    void senzaVerifiche(const std::function<void()>& azione);
+
     /// From now on nothing is checked: the screen closes.
     void sospendi() { mSospesa = true; }
 

@@ -19,7 +19,8 @@ PartiComuni::PartiComuni(Schermata& schermata, const ControlliComuni& c, const M
                          const Differenze& differenze)
     : mSchermata(schermata), mControlli(c), stampa(schermata),
       cliente(schermata, {c.txtCodiceCli, c.barCliente, c.cmdCercaCliente}, differenze.cliente),
-      filialeGiacenza(schermata, c.txtFilialeGia, c.barFilialeGia, differenze.avvertenzaFiliale),
+      filialeGiacenza(schermata, {c.txtFilialeGia, c.barFilialeGia, differenze.avvertenzaFiliale},
+                      differenze.senzaRiquadri),
       dataGiacenza(schermata, {c.txtDataGia, c.lblDataBuonFine, c.barGiorniSosta, differenze.avvertenzaData}),
       caso(schermata, c.lblNrGia, dataGiacenza),
       spedizione(schermata, mappa, filialeGiacenza, dataGiacenza, differenze.rigaMostrata)
@@ -28,6 +29,8 @@ PartiComuni::PartiComuni(Schermata& schermata, const ControlliComuni& c, const M
     limitaCampi(&schermata);
     QObject::connect(c.cmdEsci, &QPushButton::clicked, &schermata, &QWidget::close);
     schermata.convalida().esenta(c.cmdEsci);
+    // What is typed is what F11 adds and the save writes: it is not completed to a line that begins so.
+    c.cmbNaturaMerce->setCompleter(nullptr);
     suTasto(c.cmbNaturaMerce, Qt::Key_F11, schermata.gestore([this] {
         mSchermata.durante([this] { AggiungiNaturaMerce(mControlli.cmbNaturaMerce); });
         CaricaNaturaMerce(mControlli.cmbNaturaMerce);
@@ -36,7 +39,12 @@ PartiComuni::PartiComuni(Schermata& schermata, const ControlliComuni& c, const M
 
 void PartiComuni::riempi()
 {
-    CaricaNaturaMerce(mControlli.cmbNaturaMerce);
+    // A box would let the host work while the screen is not there yet.
+    if (!leggiNaturaMerce(mControlli.cmbNaturaMerce))
+        QMetaObject::invokeMethod(&mSchermata, mSchermata.gestore([this] {
+            mSchermata.durante([this] { diciNaturaMerceNonLetta(mControlli.cmbNaturaMerce); });
+        }),
+                                  Qt::QueuedConnection);
     try {
         CaricaPorto(mControlli.cmbPorto, mSchermata.connessione());
     } catch (const ErroreDatabase& errore) {

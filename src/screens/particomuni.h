@@ -49,6 +49,7 @@ public:
         std::function<void(const Recordset&)> rigaMostrata = {};
         QLabel* avvertenzaFiliale = nullptr;
         QLabel* avvertenzaData = nullptr;
+        bool senzaRiquadri = false; ///< a failing list of branches shows no box
     };
 
     PartiComuni(Schermata& schermata, const ControlliComuni& controlli, const MappaSpedizione& mappa,

@@ -57,6 +57,13 @@ void Schermata::statoGuasto(const Errore& errore, const QString& cheCosa)
     stato(cheCosa + spiega(errore), cheCosa + errore.testo());
 }
 
+void Schermata::aggiungiGuasto(const Errore& errore, const QString& cheCosa)
+{
+    const QString detto = mStato->text();
+    const QString prima = detto.isEmpty() ? detto : detto + (detto.endsWith(u'.') ? u" "_s : u". "_s);
+    statoGuasto(errore, prima + cheCosa);
+}
+
 std::function<void()> Schermata::gestore(std::function<void()> azione)
 {
     return [this, azione = std::move(azione)] {
@@ -67,12 +74,11 @@ std::function<void()> Schermata::gestore(std::function<void()> azione)
                 throw;
             } catch (const ErroreDatabase& errore) {
                 statoGuasto(errore);
-                messaggio(nonRiuscita(errore) + u"\n\n"_s + spiega(errore), Stile::critico, titoloGestione());
+                messaggio(nonRiuscita(errore) + u"\n\n"_s + spiega(errore), Stile::critico);
             } catch (...) {
                 // A part of the host's throws what it likes, and nothing may pass through Qt's loop.
                 stato(testoErrore());
-                messaggio(u"Operazione non riuscita.\n\n"_s + testoErrore(), Stile::critico,
-                          titoloGestione());
+                messaggio(u"Operazione non riuscita.\n\n"_s + testoErrore(), Stile::critico);
             }
         } catch (const Abbandono&) { // The screen is gone: there is nobody to tell.
         }

@@ -32,6 +32,8 @@ public:
     void stato(const QString& testo, const QString& dettaglio = {});
     /// The same for a failure, in Italian, with the driver's words as detail. cheCosa: goes before.
     void statoGuasto(const Errore& errore, const QString& cheCosa = {});
+    /// The same, behind what the line says already.
+    void aggiungiGuasto(const Errore& errore, const QString& cheCosa);
 
     /// Makes a handler of what a control starts: whatever is thrown is told, a database failure as such, and
     /// a screen that was left under its own message or dialog ends the handler without a word.

@@ -83,7 +83,7 @@ QString comeQuantita(const QString& valore)
 
 QDate comeData(const QString& valore)
 {
-    const auto giorno = leggiData(valore.left(10));
+    const auto giorno = leggiGiorno(valore);
     if (!giorno)
         throw ErroreConversione(u"Non è una data: %1"_s.arg(valore));
     return *giorno;
@@ -103,6 +103,10 @@ void esegui(const PassoSpedizione& passo, const Valore& valore, DestinazioneSped
         return schermo.scrivi(controllo, valore ? comeImporto(*valore) : QString());
     case dataOVuota:
         return schermo.scrivi(controllo, valore ? dataBreve(comeData(*valore)) : QString());
+    case dataSvuotata: {
+        const auto giorno = valore ? leggiGiorno(*valore) : std::nullopt;
+        return schermo.scrivi(controllo, giorno ? dataBreve(*giorno) : QString());
+    }
     default:
         break;
     }
@@ -135,7 +139,7 @@ const MappaSpedizione& mappaRegistrazione()
         {u"ledtlv", "lblDataLav", data},
         {nessuna, "txtLDV", svuota},
         {u"lenrlv", "txtLDV", tag},
-        {u"ledtlv", "txtDataLdv", dataOVuota},
+        {u"ledtlv", "txtDataLdv", dataSvuotata},
         {u"lefili", "txtFilSped", testo},
         {u"lefili", "txtFiliale", testo},
         {u"filiale", "barFilSped", testo},
@@ -153,7 +157,7 @@ const MappaSpedizione& mappaRegistrazione()
         {u"lerife", "txtRifMitt", testo},
         {u"lerife", "txtRiferimento", testo},
         {u"lerifd", "txtDataRifMitt", data},
-        {u"lerifd", "txtDataRif", dataOVuota},
+        {u"lerifd", "txtDataRif", dataSvuotata},
         {u"leport", "cmbPorto", posizione},
         {u"lecoll", "txtColli", quantita},
         {u"lepeso", "txtPesoKg", quantita},

@@ -41,11 +41,13 @@ enum class Conversione
     testoOVuoto, ///< the text, empty for null
     importo,     ///< an amount: two decimals behind the Italian comma
     importoOVuoto,
-    quantita,   ///< a count, a weight or a volume: as many decimals as it has, no zeros behind them
-    data,       ///< a day as "dd/mm/yyyy"
-    dataOVuota, ///< the same, empty for null: the masked field is cleared before it is given the date
-    anno,       ///< the year of a day
-    posizione,  ///< the 1-based position in a list
+    quantita,     ///< a count, a weight or a volume: as many decimals as it has, no zeros behind them
+    data,         ///< a day as "dd/mm/yyyy"
+    dataOVuota,   ///< the same, empty for null
+    dataSvuotata, ///< the same: the masked field is cleared first, and stays so when there is no date to give
+                  ///< it
+    anno,         ///< the year of a day
+    posizione,    ///< the 1-based position in a list
 };
 
 struct PassoSpedizione

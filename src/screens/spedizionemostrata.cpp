@@ -1,5 +1,7 @@
 #include "screens/spedizionemostrata.h"
 
+using namespace Qt::StringLiterals;
+
 namespace giacenza {
 
 SpedizioneMostrata::SpedizioneMostrata(Schermata& schermata, const MappaSpedizione& mappa,
@@ -11,6 +13,7 @@ SpedizioneMostrata::SpedizioneMostrata(Schermata& schermata, const MappaSpedizio
 
 bool SpedizioneMostrata::mostra(const QString& istruzione)
 {
+    mSenzaNome.reset();
     Recordset riga;
     riga.apri(mSchermata.connessione(), istruzione);
     if (riga.eof())
@@ -19,9 +22,16 @@ bool SpedizioneMostrata::mostra(const QString& istruzione)
     if (mRigaMostrata)
         mRigaMostrata(riga);
     riga.chiudi();
-    mFiliale.leggiNome();
+    mSenzaNome = mFiliale.leggiNome();
     mData.CalcolaGiorniSosta();
     return true;
+}
+
+void SpedizioneMostrata::stato(const QString& detto)
+{
+    mSchermata.stato(detto);
+    if (mSenzaNome)
+        mSchermata.aggiungiGuasto(*mSenzaNome, u"Il nome della filiale non si legge. "_s);
 }
 
 } // namespace giacenza

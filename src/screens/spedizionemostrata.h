@@ -18,6 +18,10 @@ public:
     /// Throws ErroreDatabase.
     bool mostra(const QString& istruzione);
 
+    /// Says in the status line what became of the lookup, and that the branch's name was not read when it was
+    /// not.
+    void stato(const QString& detto);
+
     CampiSchermata& campi() { return *mCampi; }
 
 private:
@@ -27,6 +31,7 @@ private:
     DataGiacenza& mData;
     std::function<void(const Recordset&)> mRigaMostrata;
     CampiSchermata* mCampi;
+    std::optional<ErroreDatabase> mSenzaNome;
 };
 
 } // namespace giacenza

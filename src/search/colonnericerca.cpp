@@ -15,11 +15,9 @@ bool compare(const QStringList& nomi, const QString& nome)
     return nomi.contains(nome, Qt::CaseInsensitive);
 }
 
-/// A host may keep days with a time of day, which follows the ten characters of the day.
 QString mostraData(const QString& testo)
 {
-    constexpr int lunghezzaData = 10;
-    const auto giorno = leggiData(testo.left(lunghezzaData));
+    const auto giorno = leggiGiorno(testo);
     return giorno ? dataBreve(*giorno) : testo;
 }
 

@@ -15,6 +15,8 @@
 #include <QPointer>
 #include <QShowEvent>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace giacenza {
@@ -26,6 +28,9 @@ enum RuoloVoce
     ruoloCodice = Qt::UserRole,
     ruoloRagioneSociale
 };
+
+/// How many rows are read at once: more than fit on a screen, so that the list shows that it goes on.
+constexpr int paginaSoggetti = 256;
 
 /// The captions that a kind of party gives the dialog and the code option.
 struct Didascalie
@@ -53,11 +58,11 @@ Messaggio messaggioGuasto(const Errore& errore)
 {
     const auto* database = dynamic_cast<const ErroreDatabase*>(&errore);
     if (!database)
-        return {errore.testo(), Stile::critico, titoloGestione()};
+        return {errore.testo(), Stile::critico, titoloApplicazione()};
     const QString frase = database->sqlstate().startsWith(u"08"_s)
                               ? u"Il collegamento con il database non riesce o si è interrotto."_s
                               : u"La ricerca nel database non è riuscita."_s;
-    return {frase + u"\n\n"_s + spiega(errore), Stile::critico, titoloGestione()};
+    return {frase + u"\n\n"_s + spiega(errore), Stile::critico, titoloApplicazione()};
 }
 
 } // namespace
@@ -167,7 +172,8 @@ void frmRicerca::CaricaLista()
         return;
     mCaricamento = true;
     const auto guardia = qScopeGuard([this] { mCaricamento = false; });
-    for (const Soggetto& soggetto : mRicerca.leggi(mUi->lstCerca->righeVisibili())) {
+    for (const Soggetto& soggetto :
+         mRicerca.leggi(std::max(paginaSoggetti, mUi->lstCerca->righeVisibili() + 1))) {
         auto* nuova = new QListWidgetItem(voce(soggetto), mUi->lstCerca);
         nuova->setToolTip(nuova->text().toHtmlEscaped()); // the list cuts long names off
         nuova->setData(ruoloCodice, soggetto.codice);

@@ -203,7 +203,7 @@ void frmRicercaGia::interrotta(const QString& motivo, const QString& parole)
                 mostraMessaggio(
                     this,
                     {u"La lettura dell'elenco si è interrotta: restano le righe già lette.\n\n"_s + motivo,
-                     Stile::critico, titoloGestione()});
+                     Stile::critico, titoloApplicazione()});
         },
         Qt::QueuedConnection);
 }

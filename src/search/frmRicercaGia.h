@@ -81,7 +81,7 @@ public:
 
     /// A year narrows the lists of modes 1 and 7 at opening; a date does not.
     QString AnnoOdata() const { return mDati.annoOData; }
-    void setAnnoOdata(const QString& testo) { mDati.annoOData = testo; }
+    void setAnnoOdata(const QString& testo) { mDati.annoOData = testo.trimmed(); }
 
     /// Number and year of the held shipment whose waybills mode 10 lists.
     QString Giacenza() const { return mDati.giacenza; }

@@ -38,13 +38,25 @@ QString percorsoNaturaMerce()
 
 void CaricaNaturaMerce(QComboBox* elenco)
 {
+    if (!leggiNaturaMerce(elenco))
+        diciNaturaMerceNonLetta(elenco);
+}
+
+bool leggiNaturaMerce(QComboBox* elenco)
+{
     try {
         if (const std::optional<QStringList> righe = leggiElenco(percorsoNaturaMerce()))
             riempi(*elenco, *righe);
+        return true;
     } catch (const std::exception&) {
-        mostraMessaggio(elenco, {u"Impossibile caricare i dati nel controllo Natura merce"_s, Stile::critico,
-                                 titoloGestione()});
+        return false;
     }
+}
+
+void diciNaturaMerceNonLetta(QComboBox* elenco)
+{
+    mostraMessaggio(elenco, {u"Impossibile caricare i dati nel controllo Natura merce"_s, Stile::critico,
+                             titoloGestione()});
 }
 
 void AggiungiNaturaMerce(QComboBox* elenco)

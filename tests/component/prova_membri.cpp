@@ -175,9 +175,11 @@ TEST(Membri, leCostantiDiReso)
 TEST(Membri, laDescrizioneDiceTutto)
 {
     const QJsonObject tutto = QJsonDocument::fromJson(descrizione()).object();
-    EXPECT_EQ(tutto.keys(),
-              (QStringList{u"abi"_s, u"classe"_s, u"enumerazioni"_s, u"idClasse"_s, u"idEventi"_s,
-                           u"idInterfaccia"_s, u"idTipi"_s, u"membri"_s, u"versione"_s}));
+    EXPECT_EQ(tutto.keys(), (QStringList{u"abi"_s, u"classe"_s, u"enumerazioni"_s, u"eventi"_s, u"idClasse"_s,
+                                         u"idEventi"_s, u"idInterfaccia"_s, u"idTipi"_s, u"interfaccia"_s,
+                                         u"membri"_s, u"versione"_s}));
+    EXPECT_EQ(tutto[u"interfaccia"_s], u"_cGiacenza"_s);
+    EXPECT_EQ(tutto[u"eventi"_s], u"__cGiacenza"_s);
     EXPECT_EQ(tutto[u"classe"_s], u"giacenza.cGiacenza"_s);
     EXPECT_EQ(tutto[u"idClasse"_s], u"b83c3226-1c9b-4820-a0fb-9bf880a7f6c3"_s);
     EXPECT_EQ(tutto[u"idInterfaccia"_s], u"1be49659-3503-4ac1-bfa3-5115650c9d8d"_s);

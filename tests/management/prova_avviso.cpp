@@ -147,7 +147,7 @@ TEST_P(Avviso, DueApostrofiFermanoPrimaDiScrivereEDiStampare)
     EXPECT_THAT(mMessaggi.prendi(),
                 ElementsAre(Messaggio{u"Operazione non riuscita.\n\nLa descrizione non si può scrivere: "
                                       "contiene più di un apostrofo. Lasciarne uno e ripetere."_s,
-                                      Stile::critico, u"Gestione Trasporti"_s}))
+                                      Stile::critico, titoloApplicazione()}))
         << "nothing is said of the database, which has not failed";
     EXPECT_EQ(tutto(u"39"_s), prima);
     EXPECT_EQ(mostrato("lblDataAvviso"), u"20/11/2026"_s);

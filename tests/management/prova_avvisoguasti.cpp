@@ -94,7 +94,7 @@ TEST_P(AvvisoGuasti, UnFileDelleImpostazioniRifiutatoSiDiceENonScriveNiente)
         u"Il file \"%1\" non è stato letto: non è un file normale."_s.arg(impostazioni().percorsoFileIni);
     EXPECT_THAT(istruzioni([&] { avvisa(u"motivo"_s); }), IsEmpty());
     EXPECT_THAT(mMessaggi.prendi(), ElementsAre(Messaggio{u"Operazione non riuscita.\n\n"_s + motivo,
-                                                          Stile::critico, u"Gestione Trasporti"_s}));
+                                                          Stile::critico, titoloApplicazione()}));
     EXPECT_EQ(tutto(u"39"_s), prima);
     EXPECT_THAT(mStampe, IsEmpty());
 }
@@ -131,7 +131,7 @@ TEST_P(AvvisoGuasti, CollegamentoPersoPrimaDiOgniIstruzione)
         guarisce();
         EXPECT_THAT(mMessaggi.prendi(),
                     ElementsAre(Messaggio{detto + u"\n\nLa connessione con l'archivio è caduta."_s,
-                                          Stile::critico, u"Gestione Trasporti"_s}));
+                                          Stile::critico, titoloApplicazione()}));
         EXPECT_EQ(c("lblStato")->toolTip(), u"guasto di prova"_s) << "the driver's words";
         EXPECT_EQ(tutto(u"39"_s), prima);
         EXPECT_EQ(mostrato("lblDataAvviso"), u"20/11/2026"_s);

@@ -67,7 +67,7 @@ TEST_P(ChiusuraGuasti, NessunaPressioneFinisceSenzaUnaParola)
     EXPECT_THAT(mMessaggi.prendi(),
                 ElementsAre(Messaggio{u"Operazione non riuscita: il database o un suo dato non risponde come "
                                       "dovrebbe.\n\nLa connessione con l'archivio è caduta."_s,
-                                      Stile::critico, u"Gestione Trasporti"_s}));
+                                      Stile::critico, titoloApplicazione()}));
     EXPECT_EQ(mostrato("lblStato"), u"La connessione con l'archivio è caduta."_s);
     EXPECT_EQ(c("lblStato")->toolTip(), u"guasto di prova"_s);
     EXPECT_EQ(tutto(u"39"_s), prima);

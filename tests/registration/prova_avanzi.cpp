@@ -41,6 +41,25 @@ TEST_P(AvanziRegistrazione, LaDataDellAvvisoAppenaEmessoNonEDellaGiacenzaDopo)
         << "a case without a notice cannot be closed";
 }
 
+TEST_P(AvanziRegistrazione, LaGiacenzaPrecedenteNonPassaAlCasoDopo)
+{
+    consegna(u"4711"_s);
+    scrivi("txtGiaOld", u"17"_s);
+    giacenza::scrivi(c("txtDataGiaOld"), u"01/03/2026"_s);
+    clicca("cmdSalva");
+    EXPECT_EQ(mMessaggi.prendi().size(), 1U);
+    EXPECT_FALSE(avanzo("txtDataGiaOld")) << "it is this case's";
+
+    consegna(u"4712"_s);
+    EXPECT_TRUE(avanzo("txtDataGiaOld"));
+    clicca("cmdSalva");
+    EXPECT_EQ(mMessaggi.prendi().size(), 1U);
+    EXPECT_EQ(
+        mBase.righe(u"select GINRLV,GIVNRG,GIVDTG from giace00f where GINRLV in ('4711','4712') order by "
+                    "GINRLV"_s),
+        (QList<QStringList>{{u"4711"_s, u"17"_s, u"2026-03-01"_s}, {u"4712"_s, u"NULL"_s, u"NULL"_s}}));
+}
+
 TEST_P(AvanziRegistrazione, LAvvertenzaDellaFilialeValeDopoOgniRicerca)
 {
     mBase.esegui(u"update giace00f set GIFIGI='QQ' where GINRLV='4714'"_s);

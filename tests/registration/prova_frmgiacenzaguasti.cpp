@@ -191,7 +191,7 @@ TEST_P(RegistrazioneGuasti, UnaRicercaFallitaSiDiceEIlClicCheLHaAvviataNonSalva)
     EXPECT_THAT(mMessaggi.prendi(),
                 ElementsAre(Messaggio{u"Operazione non riuscita: il database o un suo dato non risponde come "
                                       "dovrebbe.\n\nL'archivio ha rifiutato l'operazione."_s,
-                                      Stile::critico, u"Gestione Trasporti"_s}));
+                                      Stile::critico, titoloApplicazione()}));
     EXPECT_EQ(c("lblStato")->toolTip(), u"guasto di prova"_s) << "the driver's words";
     EXPECT_EQ(salvataggi, 0);
 }

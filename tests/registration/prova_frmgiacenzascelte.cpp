@@ -9,6 +9,7 @@
 #include <giacenza/RicercaTabella.h>
 
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QTest>
 
@@ -86,6 +87,40 @@ TEST_P(Scelte, F11TieneLaNaturaDellaMerce)
         mMessaggi.prendi(),
         ElementsAre(Messaggio{u"Impossibile aggiungere il valore nella lista del controllo Natura merce"_s,
                               Stile::informazione, u"Gestione Trasporti"_s}));
+}
+
+TEST_P(Scelte, LaNaturaScrittaATastiNonSiCompletaDaSola)
+{
+    QFile file(mCartella.filePath(u"listbox.dat"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("VEDI DDT\nSCATOLE GRANDI\n");
+    file.close();
+    apri();
+    auto* natura = qobject_cast<QComboBox*>(c("cmbNaturaMerce"));
+    natura->setFocus();
+    natura->clearEditText();
+    QTest::keyClicks(natura, u"scatole"_s);
+    EXPECT_EQ(natura->currentText(), u"scatole"_s);
+    tasto("cmbNaturaMerce", Qt::Key_F11);
+    EXPECT_EQ(natura->itemText(natura->count() - 1), u"SCATOLE"_s);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll().simplified(), QByteArray("VEDI DDT SCATOLE GRANDI SCATOLE"));
+}
+
+TEST_P(Scelte, UnElencoIlleggibileSiDiceQuandoLaSchermataCE)
+{
+    ASSERT_TRUE(QDir(mCartella.path()).mkdir(u"listbox.dat"_s));
+    bool visibile = false;
+    mMessaggi.mentreAperto(
+        [&](QWidget* padre, const Messaggio&) { visibile = padre->window()->isVisible(); });
+    apri();
+    QCoreApplication::processEvents();
+    EXPECT_THAT(mMessaggi.prendi(),
+                ElementsAre(Messaggio{u"Impossibile caricare i dati nel controllo Natura merce"_s,
+                                      Stile::critico, u"Gestione Trasporti"_s}));
+    EXPECT_TRUE(visibile);
+    EXPECT_TRUE(mSchermata->isVisible());
+    EXPECT_EQ(qobject_cast<QComboBox*>(c("cmbNaturaMerce"))->count(), 0);
 }
 
 } // namespace

@@ -245,6 +245,19 @@ TEST_P(Spedizione, LeDateConUnOraSonoGiorni)
     EXPECT_THAT(soloDi(fatto, u"lblDataLav"_s), ElementsAre(u"lblDataLav=12/11/2026"_s));
 }
 
+TEST_P(Spedizione, LeChiaviDiDataSiSvuotanoPrimaEDiUnValoreCheNonEUnaDataNonRestaNiente)
+{
+    const QStringList fatto =
+        carica(mappaRegistrazione(), {{u"ledtlv"_s, u"ieri"_s}, {u"lerifd"_s, u"0000-00-00"_s}});
+    for (const auto& [nome, atteso] : {std::pair(u"txtDataLdv"_s, u"txtDataLdv="_s),
+                                       {u"txtDataRif"_s, u"txtDataRif="_s},
+                                       {u"lblDataLav"_s, u"lblDataLav resta"_s},
+                                       {u"txtDataRifMitt"_s, u"txtDataRifMitt resta"_s}})
+        EXPECT_THAT(soloDi(fatto, nome), ElementsAre(atteso));
+    EXPECT_THAT(soloDi(carica(mappaRiconsegna(), {{u"GIDTAV"_s, u"ieri"_s}}), u"lblDataAvviso"_s),
+                ElementsAre(u"lblDataAvviso resta"_s));
+}
+
 TEST_P(Spedizione, UnNumeroSiMostraUgualeComunqueLoScrivaLaBase)
 {
     const auto mostrati = [this](const QString& valore) {

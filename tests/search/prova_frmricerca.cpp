@@ -119,7 +119,7 @@ TEST_F(FinestraRicerca, unDatabaseCheNonRispondeSiDiceELaFinestraResta)
     const auto mostrati = mMessaggi.prendi();
     ASSERT_EQ(mostrati.size(), 1U);
     EXPECT_EQ(mostrati[0].stile, Stile::critico);
-    EXPECT_EQ(mostrati[0].titolo, u"Gestione Trasporti"_s);
+    EXPECT_EQ(mostrati[0].titolo, titoloApplicazione());
     EXPECT_THAT(mostrati[0].testo.toStdString(),
                 testing::StartsWith("La ricerca nel database non è riuscita."));
     EXPECT_EQ(mTesto->text(), u"alfa"_s);
@@ -132,7 +132,7 @@ TEST_F(FinestraRicerca, unNomeDiTabellaNonValidoSiDice)
     cerca(u"alfa"_s);
     EXPECT_THAT(mMessaggi.prendi(),
                 ElementsAre(Messaggio{u"Il nome di tabella \"clien; drop table clien\" non è valido."_s,
-                                      Stile::critico, u"Gestione Trasporti"_s}));
+                                      Stile::critico, titoloApplicazione()}));
 }
 
 TEST_F(FinestraRicerca, siChiudeSenzaSceltaInOgniModo)

@@ -39,8 +39,7 @@ TEST_P(RicercaGuasti, UnGuastoSiDiceInItalianoELeParoleDelDriverStannoSullElenco
             });
         cerca(u"alfa"_s);
         impostaTraccia(prima);
-        EXPECT_THAT(mMessaggi.prendi(),
-                    ElementsAre(Messaggio{testo, Stile::critico, u"Gestione Trasporti"_s}));
+        EXPECT_THAT(mMessaggi.prendi(), ElementsAre(Messaggio{testo, Stile::critico, titoloApplicazione()}));
         EXPECT_EQ(mLista->toolTip(), u"the driver's words"_s);
     }
     cerca(u"alfa"_s);

@@ -57,6 +57,8 @@ QByteArray descrizione()
         reso.insert(QString::fromLatin1(costante.nome), costante.valore);
     return QJsonDocument(QJsonObject{{u"classe"_s, QStringLiteral(GIACENZA_CLASSE)},
                                      {u"idClasse"_s, QStringLiteral(GIACENZA_UUID_CLASSE)},
+                                     {u"interfaccia"_s, u"_cGiacenza"_s},
+                                     {u"eventi"_s, u"__cGiacenza"_s},
                                      {u"idInterfaccia"_s, QStringLiteral(GIACENZA_UUID_INTERFACCIA)},
                                      {u"idEventi"_s, QStringLiteral(GIACENZA_UUID_EVENTI)},
                                      {u"idTipi"_s, QStringLiteral(GIACENZA_UUID_TIPI)},

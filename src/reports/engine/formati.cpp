@@ -11,7 +11,7 @@ namespace giacenza::report::formati {
 QString data(const Contesto& contesto)
 {
     const QString testo = contesto.valore.value_or(QString());
-    const auto giorno = leggiData(testo);
+    const auto giorno = leggiGiorno(testo);
     return giorno ? dataBreve(*giorno) : testo;
 }
 

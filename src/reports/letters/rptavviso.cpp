@@ -23,10 +23,10 @@ constexpr report::Carattere normale;
 /// Days from the arrival in the depot to the day of the notice; nothing before the first whole day.
 QString giorniDiSosta(const Contesto& contesto)
 {
-    const auto arrivo = leggiData(contesto.valore.value_or(QString()));
+    const auto arrivo = leggiGiorno(contesto.valore.value_or(QString()));
     if (!arrivo)
         return {};
-    const auto avviso = leggiData(contesto.riga.testo(u"GIDTAV"_s)).value_or(contesto.oggi);
+    const auto avviso = leggiGiorno(contesto.riga.testo(u"GIDTAV"_s)).value_or(contesto.oggi);
     const qint64 giorni = arrivo->daysTo(avviso);
     return giorni > 0 ? QString::number(giorni) : QString();
 }
