@@ -70,7 +70,7 @@ public:
         QWidget* schermata = mForme->forma(nome);
         if (!schermata) {
             mostraMessaggio(nullptr, {u"Questa schermata non è ancora disponibile in questa versione."_s,
-                                      Stile::informazione, titoloGestione()});
+                                      Stile::informazione, titoloApplicazione()});
             return nullptr;
         }
         std::erase_if(mLegate, [&](const auto& legata) { return !legata || legata == schermata; });

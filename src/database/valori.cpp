@@ -44,7 +44,8 @@ std::optional<QDate> leggiData(const QString& testo)
 std::optional<QDate> leggiGiorno(const QString& valore)
 {
     constexpr int lunghezzaData = 10;
-    return leggiData(valore.left(lunghezzaData));
+    const QChar dopo = valore.size() > lunghezzaData ? valore.at(lunghezzaData) : u' ';
+    return dopo == u' ' || dopo == u'T' ? leggiData(valore.left(lunghezzaData)) : std::nullopt;
 }
 
 QString dataBreve(QDate data)

@@ -167,6 +167,7 @@ bool RichiamoCaso::mostra(const QString& istruzione)
     pulisciEsito();
     if (!mParti.spedizione.mostra(istruzione))
         return false;
+    mParti.spedizione.stato({});
     bloccaChiave(!mParti.caso.numero().isEmpty());
     // The number field, when the focus leaves it for this, must not clear what was just brought up.
     const QScopedValueRollback<bool> richiamo(mRichiamando, true);

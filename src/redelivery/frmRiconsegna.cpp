@@ -92,6 +92,7 @@ void frmRiconsegna::eseguiConsegna()
     // The code of an earlier hand-over is locked: this one's takes its place.
     if (const Seguito rifiuto = mParti.cliente.imposta(mCodiceCliente))
         durante(rifiuto);
+    stato({});
     scrivi(mUi->txtLDV, mNLettVett);
     scrivi(mUi->txtDataLdv, dataBreve(*giorno));
     cercaPerNumero();
@@ -157,8 +158,8 @@ void frmRiconsegna::mostra(const QString& numero, QDate giorno)
         mParti.spedizione.stato(altra);
     else
         mParti.spedizione.stato(inGiacenza ? QString() : u"Questa lettera di vettura non è in giacenza."_s);
-    // Of another held shipment's date, which stands beside them as a left-over.
-    if (eAvanzo(mUi->txtDataGia))
+    // Without a date, as beside another held shipment's left-over, they would be the earlier one's.
+    if (!mParti.dataGiacenza.giorno())
         scrivi(mUi->barGiorniSosta, {});
 }
 

@@ -114,6 +114,9 @@ void RicercaLdv::PulisciCampi()
     // After a mistyped number the clerk goes on with what he had typed for the right one.
     for (Ripristino* digitato : {mMotivoDigitato, mFilialeDigitata})
         digitato->ricorda(!mTrovata);
+    // Typed beside a shipment it is that one's, saved or not.
+    if (mTrovata)
+        segnaDelCaso(mUi.txtDataGiaOld);
     mTrovata = false;
     const auto righe = mUi.Frame2->findChildren<QLineEdit*>();
     for (QLineEdit* riga : righe)

@@ -62,7 +62,7 @@ void CampoFiliale::cerca()
     } catch (const ErroreDatabase& errore) {
         if (!mSenzaRiquadri)
             throw;
-        mSchermata.statoGuasto(errore);
+        mSchermata.statoGuasto(errore, u"L'elenco delle filiali non si legge. "_s);
     }
 }
 
@@ -81,6 +81,7 @@ std::optional<ErroreDatabase> CampoFiliale::leggiNome()
         scrivi(mBarra, filiale.eof() ? QString() : filiale.valore(0).value_or(QString()));
         return {};
     } catch (const ErroreDatabase& errore) {
+        scrivi(mBarra, {});
         return errore;
     }
 }

@@ -25,8 +25,8 @@ public:
     /// Reads the branches for the hint, once, when the screen is loaded; nothing where no hint is given.
     void leggiFiliali();
 
-    /// Shows the name of the code that a row has filled in, none where it names none. Gives why it could not
-    /// be read: the bar is then as it was.
+    /// Shows the name of the code that a row has filled in, none where it names none or the name cannot be
+    /// read. Gives why it could not.
     std::optional<ErroreDatabase> leggiNome();
 
 private:

@@ -42,7 +42,9 @@ void PartiComuni::riempi()
     // A box would let the host work while the screen is not there yet.
     if (!leggiNaturaMerce(mControlli.cmbNaturaMerce))
         QMetaObject::invokeMethod(&mSchermata, mSchermata.gestore([this] {
-            mSchermata.durante([this] { diciNaturaMerceNonLetta(mControlli.cmbNaturaMerce); });
+            // Closed at once, it says nothing after its end.
+            if (mSchermata.isVisible())
+                mSchermata.durante([this] { diciNaturaMerceNonLetta(mControlli.cmbNaturaMerce); });
         }),
                                   Qt::QueuedConnection);
     try {

@@ -60,8 +60,11 @@ void Schermata::statoGuasto(const Errore& errore, const QString& cheCosa)
 void Schermata::aggiungiGuasto(const Errore& errore, const QString& cheCosa)
 {
     const QString detto = mStato->text();
-    const QString prima = detto.isEmpty() ? detto : detto + (detto.endsWith(u'.') ? u" "_s : u". "_s);
-    statoGuasto(errore, prima + cheCosa);
+    const auto insieme = [&](const QString& prima, const QString& motivo) {
+        return (prima.isEmpty() ? prima : prima + (prima.endsWith(u'.') ? u" "_s : u". "_s)) + cheCosa +
+               motivo;
+    };
+    stato(insieme(detto, spiega(errore)), insieme(mStato->toolTip(), errore.testo()));
 }
 
 std::function<void()> Schermata::gestore(std::function<void()> azione)

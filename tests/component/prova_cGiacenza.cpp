@@ -152,7 +152,7 @@ TEST_F(Componente, unaSchermataCheMancaSiDice)
     mClasse->ConsultaGiacenza();
     EXPECT_THAT(registro.prendi(), ::testing::ElementsAre(giacenza::Messaggio{
                                        u"Questa schermata non è ancora disponibile in questa versione."_s,
-                                       giacenza::Stile::informazione, u"Gestione Trasporti"_s}));
+                                       giacenza::Stile::informazione, giacenza::titoloApplicazione()}));
     mForme->registra(frmGiacenza, Forme::Creatore());
     mClasse->NuovaGiacenzaEXT(u"1"_s, u"01/02/2024"_s, {}, {});
     EXPECT_EQ(registro.prendi().size(), 1U);

@@ -41,6 +41,18 @@ TEST_P(Richiamo, NasceNelModoDelNumero)
     EXPECT_FALSE(trova<QLineEdit>(*schermata, u"txtCodiceCli"_s)->isEnabled());
 }
 
+TEST_P(Richiamo, IlNomeDellaFilialeCheNonSiLeggeSiDice)
+{
+    apri();
+    fallisce(u"select descrizione from filiali where codice='BO';"_s);
+    richiamaChiuso();
+    guarisce();
+    EXPECT_EQ(mostrato("lblNrGia"), u"40"_s);
+    EXPECT_EQ(mostrato("barFilialeGia"), QString());
+    EXPECT_EQ(mostrato("lblStato"),
+              u"Il nome della filiale non si legge. L'archivio ha rifiutato l'operazione."_s);
+}
+
 TEST_P(Richiamo, PerNumeroMostraIlCasoEPortaIlFuoco)
 {
     apri();

@@ -44,6 +44,15 @@ TEST_P(RiconsegnaCampi, IGiorniELaFilialeDellOperatoreRestanoSenzaGiacenza)
     EXPECT_EQ(mostrato("barFilialeGia"), u"Bologna"_s);
 }
 
+TEST_P(RiconsegnaCampi, IGiorniDiUnAltraGiacenzaNonRestanoAccantoAUnaDataVuota)
+{
+    cerca(u"4714"_s);
+    ASSERT_EQ(mostrato("barGiorniSosta"), u"5"_s);
+    giacenza::scrivi(c("txtDataGia"), {});
+    cerca(u"4711"_s);
+    EXPECT_EQ(mostrato("barGiorniSosta"), QString());
+}
+
 TEST_P(RiconsegnaCampi, LaFilialeRimastaDaUnAltraGiacenzaNonSiControlla)
 {
     cerca(u"4714"_s);
@@ -69,10 +78,15 @@ TEST_P(RiconsegnaCampi, IlNomeDiUnaFilialeNonRestaAccantoAUnCodiceSconosciuto)
 
 TEST_P(RiconsegnaCampi, IlNomeDellaFilialeCheNonSiLeggeSiDice)
 {
-    fallisce(u"select descrizione from filiali"_s);
+    mBase.esegui(u"update giace00f set GIFIGI='MI' where GINRGI='50'"_s);
     cerca(u"4714"_s);
+    ASSERT_EQ(mostrato("barFilialeGia"), u"Bologna"_s);
+    fallisce(u"select descrizione from filiali"_s);
+    cerca(u"950"_s);
     guarisce();
-    EXPECT_EQ(mostrato("lblNrGia"), u"40"_s);
+    EXPECT_EQ(mostrato("lblNrGia"), u"50"_s);
+    EXPECT_EQ(mostrato("txtFilialeGia"), u"MI"_s);
+    EXPECT_EQ(mostrato("barFilialeGia"), QString());
     EXPECT_EQ(stato()->text(),
               u"Il nome della filiale non si legge. L'archivio ha rifiutato l'operazione."_s);
     EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
@@ -98,7 +112,8 @@ TEST_P(RiconsegnaCampi, LElencoDelleFilialiCheNonSiLeggeNonMostraRiquadri)
     registraParte(QString::fromUtf16(classeRicercaTabella), {});
     EXPECT_THAT(mMessaggi.prendi(), IsEmpty());
     EXPECT_EQ(mostrato("txtFilialeGia"), u"BO"_s);
-    EXPECT_EQ(stato()->text(), u"L'archivio ha rifiutato l'operazione."_s);
+    EXPECT_EQ(stato()->text(),
+              u"L'elenco delle filiali non si legge. L'archivio ha rifiutato l'operazione."_s);
 }
 
 TEST_P(RiconsegnaCampi, UnaDataLasciataSenzaClienteChiedeIlCliente)

@@ -44,6 +44,10 @@ TEST_P(AvanziRegistrazione, LaDataDellAvvisoAppenaEmessoNonEDellaGiacenzaDopo)
 TEST_P(AvanziRegistrazione, LaGiacenzaPrecedenteNonPassaAlCasoDopo)
 {
     consegna(u"4711"_s);
+    giacenza::scrivi(c("txtDataGiaOld"), u"02/02/2026"_s);
+    consegna(u"4712"_s);
+    EXPECT_TRUE(avanzo("txtDataGiaOld")) << "typed for a case that was not saved";
+    consegna(u"4711"_s);
     scrivi("txtGiaOld", u"17"_s);
     giacenza::scrivi(c("txtDataGiaOld"), u"01/03/2026"_s);
     clicca("cmdSalva");

@@ -29,6 +29,8 @@ TEST_F(Formati, date)
 {
     EXPECT_EQ(con(formati::data, u"2015-03-02"_s), u"02/03/2015"_s);
     EXPECT_EQ(con(formati::data, u"2015-03-02 00:00:00"_s), u"02/03/2015"_s);
+    EXPECT_EQ(con(formati::data, u"2015-03-02T00:00:00"_s), u"02/03/2015"_s);
+    EXPECT_EQ(con(formati::data, u"2015-03-02xyz"_s), u"2015-03-02xyz"_s);
     EXPECT_EQ(con(formati::data, std::nullopt), QString());
     EXPECT_EQ(con(formati::data, u"0000-00-00"_s), u"0000-00-00"_s);
 }
