@@ -52,9 +52,10 @@ void EmissioneRiconsegna::esegui()
             emetti(ldv, scelte.stampa, contesto(scelte, conto));
     }
     mSchermata.rilasciaConnessione();
-    mEmessa = mEmessa || emessa;
-    if (emessa)
+    if (emessa) {
+        mEmessa = true;
         mUi.cmdRiconsegna->setEnabled(false);
+    }
 }
 
 void EmissioneRiconsegna::leggi(LdvLetta& ldv)

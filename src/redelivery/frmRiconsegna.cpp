@@ -154,10 +154,8 @@ void frmRiconsegna::mostra(const QString& numero, QDate giorno)
     const bool inGiacenza = !mParti.caso.numero().isEmpty();
     const QString altra = altraDaQuellaConsegnata(numero, giorno);
     trattieni(!altra.isEmpty());
-    if (!altra.isEmpty())
-        mParti.spedizione.stato(altra);
-    else
-        mParti.spedizione.stato(inGiacenza ? QString() : u"Questa lettera di vettura non è in giacenza."_s);
+    mParti.spedizione.stato(
+        inGiacenza || !altra.isEmpty() ? altra : u"Questa lettera di vettura non è in giacenza."_s);
     // Without a date, as beside another held shipment's left-over, they would be the earlier one's.
     if (!mParti.dataGiacenza.giorno())
         scrivi(mUi->barGiorniSosta, {});
@@ -181,14 +179,8 @@ QString frmRiconsegna::altraDaQuellaConsegnata(const QString& numero, QDate gior
 void frmRiconsegna::trattieni(bool trattenuta)
 {
     // A waybill that was issued put the button out for good.
-    if (mEmissione.emessa())
-        return;
-    if (trattenuta && mUi->cmdRiconsegna->isEnabledTo(this)) {
-        mTrattenuta = true;
-        mUi->cmdRiconsegna->setEnabled(false);
-    } else if (!trattenuta && std::exchange(mTrattenuta, false)) {
-        mUi->cmdRiconsegna->setEnabled(true);
-    }
+    if (!mEmissione.emessa())
+        mUi->cmdRiconsegna->setEnabled(!trattenuta);
 }
 
 Seguito frmRiconsegna::lascia(const ChiaveRicerca& chiave)

@@ -79,7 +79,6 @@ private:
         QString filiale;
         QString giacenza;
     } mAttesa;
-    bool mTrattenuta = false;
 };
 
 } // namespace giacenza

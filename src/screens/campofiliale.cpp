@@ -71,17 +71,16 @@ std::optional<ErroreDatabase> CampoFiliale::leggiNome()
     // Also where the focus waits in the field: nothing was typed there.
     avverti();
     const QString codice = testo(mCodice);
-    if (codice.isEmpty()) {
-        scrivi(mBarra, {});
+    scrivi(mBarra, {});
+    if (codice.isEmpty())
         return {};
-    }
     try {
         Recordset filiale;
         filiale.apri(mSchermata.connessione(), istruzioni::descrizioneFiliale(codice));
-        scrivi(mBarra, filiale.eof() ? QString() : filiale.valore(0).value_or(QString()));
+        if (!filiale.eof())
+            scrivi(mBarra, filiale.valore(0).value_or(QString()));
         return {};
     } catch (const ErroreDatabase& errore) {
-        scrivi(mBarra, {});
         return errore;
     }
 }

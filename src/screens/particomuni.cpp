@@ -39,14 +39,15 @@ PartiComuni::PartiComuni(Schermata& schermata, const ControlliComuni& c, const M
 
 void PartiComuni::riempi()
 {
-    // A box would let the host work while the screen is not there yet.
-    if (!leggiNaturaMerce(mControlli.cmbNaturaMerce))
-        QMetaObject::invokeMethod(&mSchermata, mSchermata.gestore([this] {
+    if (!leggiNaturaMerce(mControlli.cmbNaturaMerce)) {
+        const auto dici = mSchermata.gestore([this] {
             // Closed at once, it says nothing after its end.
             if (mSchermata.isVisible())
                 mSchermata.durante([this] { diciNaturaMerceNonLetta(mControlli.cmbNaturaMerce); });
-        }),
-                                  Qt::QueuedConnection);
+        });
+        // A box would let the host work while the screen is not there yet.
+        QMetaObject::invokeMethod(&mSchermata, dici, Qt::QueuedConnection);
+    }
     try {
         CaricaPorto(mControlli.cmbPorto, mSchermata.connessione());
     } catch (const ErroreDatabase& errore) {

@@ -3,7 +3,7 @@
 #include "base/impostazioni.h"
 #include "base/parti.h"
 #include "redelivery/frmRiconsegna.h"
-#include "redelivery/riconsegnadiprova.h"
+#include "redelivery/schermatariconsegna.h"
 #include "support/stampa.h"
 
 #include <giacenza/RicercaTabella.h>
@@ -19,15 +19,8 @@ using testing::IsEmpty;
 
 namespace {
 
-class RiconsegnaCampi : public RiconsegnaDiProva
-{
-protected:
-    void cliente()
-    {
-        scrivi("txtCodiceCli", u"1001"_s);
-        lascia("txtCodiceCli");
-    }
-};
+class RiconsegnaCampi : public SchermataRiconsegnaDiProva
+{};
 
 INSTANTIATE_TEST_SUITE_P(Basi, RiconsegnaCampi, testing::Values("sqlite", "mariadb"),
                          nomeBase<testing::TestParamInfo<std::string>>);
